@@ -1,0 +1,84 @@
+/* The export filter as its host sees it: records, status codes and entry points.
+ *
+ * Plain C; compiles alone. The records have the layout of a 32-bit process; the words that carry a
+ * pointer or a host value are as wide as a pointer, so a 64-bit process has the same fields in the same
+ * order at the offsets stated here. All text is 8-bit and NUL-terminated. Call from one thread only.
+ */
+#ifndef GRADIX_QZFILTER_H
+#define GRADIX_QZFILTER_H
+
+#include <stdint.h>
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* Status codes of the entry points and of writing an export file. */
+#define QZFILTER_SUCCESS 0u
+#define QZFILTER_FAILED 0xC0000004u           /* failed run, unknown session or invalid format */
+#define QZFILTER_FILE_NOT_CREATED 0xC0000008u /* the output file could not be created */
+
+#if defined(__GNUC__)
+#define QZFILTER_API __attribute__((visibility("default")))
+#else
+#define QZFILTER_API
+#endif
+
+/* A file reference: a four-byte tag and a pointer to a path, opaque to the host. 80 bytes, any alignment. */
+typedef struct FSRef {
+  uint8_t hidden[80];
+} FSRef;
+
+/* Asks the user for the output file: receives the dialog window, 0, a buffer of `size` bytes for the path,
+ * its size (256) and the host's value from QZEXPORTBEGIN. Returns 0 when a file was chosen. */
+typedef int32_t (*QZFilter_ChooseFileProc)(void* dialog, int32_t reserved, char* path, int32_t size,
+                                           uintptr_t value);
+
+/* What the host passes to begin an export. Copied whole; the host may free it after the call. */
+typedef struct QZEXPORTBEGIN {
+  uint32_t host0;                     /* the host's; not read */
+  uint32_t formatIndex;               /* 0-based */
+  uint32_t host8[2];                  /* the host's; handed back unread */
+  uintptr_t chooseFileValue;          /* last argument of chooseFile */
+  QZFilter_ChooseFileProc chooseFile; /* null: the dialog cannot be confirmed */
+} QZEXPORTBEGIN;
+
+/* What the filter tells of one format. */
+typedef struct QZEXPORTFORMAT {
+  uint32_t host0;     /* the host's; left untouched */
+  char name[51];      /* shown to the user */
+  char extension[21]; /* without a dot */
+  uint32_t flags;     /* always 14 */
+} QZEXPORTFORMAT;
+
+/* What the host passes to export one assignment of one class file. */
+typedef struct QZEXPORTFILE {
+  uint32_t host0[2];    /* the host's; not read */
+  int32_t assignmentID; /* the assignment to preselect */
+  FSRef classFile;      /* the class file, XML */
+} QZEXPORTFILE;
+
+/* Returns the number of export formats; their indices start at 0. */
+QZFILTER_API uint32_t QZFilter_GetNumExportFormatsA(void);
+
+/* Begins an export in the format that `begin` names and stores the new session's id in `*id`.
+ * Returns QZFILTER_SUCCESS, or QZFILTER_FAILED for a format index that does not exist. `host` is not read. */
+QZFILTER_API uint32_t QZFilter_ExportBeginA(void* host, const QZEXPORTBEGIN* begin, unsigned long* id);
+
+/* Ends an export run. Returns QZFILTER_SUCCESS and does nothing else: the options dialog ends its session
+ * when it closes. */
+QZFILTER_API uint32_t QZFilter_ExportEnd(unsigned long id);
+
+#ifdef __cplusplus
+} /* extern "C" */
+
+static_assert(sizeof(QZEXPORTBEGIN) == (sizeof(void*) == 4 ? 24 : 32), "QZEXPORTBEGIN layout");
+static_assert(sizeof(QZEXPORTFORMAT) == 80, "QZEXPORTFORMAT layout");
+static_assert(sizeof(QZEXPORTFILE) == 92, "QZEXPORTFILE layout");
+#elif defined(__STDC_VERSION__) && __STDC_VERSION__ >= 201112L
+_Static_assert(sizeof(QZEXPORTBEGIN) == (sizeof(void*) == 4 ? 24 : 32), "QZEXPORTBEGIN layout");
+_Static_assert(sizeof(QZEXPORTFORMAT) == 80, "QZEXPORTFORMAT layout");
+_Static_assert(sizeof(QZEXPORTFILE) == 92, "QZEXPORTFILE layout");
+#endif
+
+#endif /* GRADIX_QZFILTER_H */

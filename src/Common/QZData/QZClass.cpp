@@ -1,0 +1,40 @@
+#include "Common/QZData/QZClass.h"
+
+#include <algorithm>
+
+namespace qz {
+
+const std::string& StudentRecord::GetUserID(UserIDField field) const {
+  switch (field) {
+    case kUserIDFirstName: return firstName;
+    case kUserIDLastName: return lastName;
+    case kUserIDStudentID: return studentID;
+    case kUserIDCustom1: return custom[0];
+    case kUserIDCustom2: return custom[1];
+    case kUserIDCustom3: return custom[2];
+    case kUserIDAlias: break;
+  }
+  return alias;
+}
+
+const ResultsRecord* AssignmentRecord::FindResultsForStudent(int32_t wanted) const {
+  const auto found = std::find_if(results.begin(), results.end(),
+                                  [wanted](const ResultsRecord& record) { return record.studentID == wanted; });
+  return found == results.end() ? nullptr : &*found;
+}
+
+const ResponseRecord* ResultsRecord::FindResponseForQuestion(const QuestionRecord& question) const {
+  const auto found =
+      std::find_if(responses.begin(), responses.end(), [&question](const ResponseRecord& response) {
+        return response.questionID == question.questionID && response.bankID == question.bankID;
+      });
+  return found == responses.end() ? nullptr : &*found;
+}
+
+double ResultsRecord::GetTotalPoints() const {
+  double total = 0.0;
+  for (const ResponseRecord& response : responses) total += response.pointsEarned;
+  return total;
+}
+
+}  // namespace qz

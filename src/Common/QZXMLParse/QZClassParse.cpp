@@ -1,0 +1,63 @@
+#include "Common/QZXMLParse/QZClassParse.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+#include <string_view>
+
+#include "Common/QZXMLParse/QZClassParseContext.h"
+#include "Common/QZXMLParse/QZClassParseHandlers.h"
+#include "Common/QZXMLParse/gxml.h"
+
+namespace {
+
+// Resolves a slash-separated element path to element ids. Returns their number, 0 when a part is unknown.
+int32_t _ConvertElementPath(int32_t* ids, int32_t maximum, std::string_view path) {
+  int32_t count = 0;
+  while (!path.empty() && count < maximum) {
+    const size_t slash = path.find('/');
+    const std::string name(path.substr(0, slash));
+    path.remove_prefix(slash == std::string_view::npos ? path.size() : slash + 1);
+    ids[count] = XmlElementFindElementID(ids, count, name.c_str());
+    if (ids[count] == kElementUnknown) return 0;
+    ++count;
+  }
+  return count;
+}
+
+// Has `handler` called at the end of every element at the path.
+bool _SetCallback(std::string_view path, XmlParserHandler handler) {
+  std::array<int32_t, kMaximumDepth> ids{};
+  const int32_t count = _ConvertElementPath(ids.data(), kMaximumDepth, path);
+  if (count < 1) return false;
+  XmlElementSetUserData(ids.data(), count - 1, ids[static_cast<size_t>(count) - 1],
+                        reinterpret_cast<intptr_t>(handler));
+  return true;
+}
+
+void _SetCallbacks() {
+  XmlElementClearAllUserData();
+  _SetCallback("class/preferences", _HandlePreferences);
+  _SetCallback("class/student-list/student", _HandleStudent);
+  _SetCallback("class/assignment-list/assignment", _HandleAssignment);
+
+  // The parts of an assignment are taken as they end, so that no more than one of them is ever in the tree.
+  _SetCallback("class/assignment-list/assignment/question-list", _HandleQuestionList);
+  _SetCallback("class/assignment-list/assignment/question-list/question", _HandleQuestion);
+  _SetCallback("class/assignment-list/assignment/results-list", _HandleResultsList);
+  _SetCallback("class/assignment-list/assignment/results-list/results", _HandleResults);
+  _SetCallback("class/assignment-list/assignment/results-list/results/response-list", _HandleResponseList);
+  _SetCallback("class/assignment-list/assignment/results-list/results/response-list/response",
+               _HandleResponse);
+}
+
+}  // namespace
+
+bool QZClassParse(qz::ClassRecord* record, std::istream& stream, QZClassParseError* error) {
+  _SetCallbacks();
+  cXmlParserContext context(record);
+  const bool parsed = context.ProcessFile(stream);
+  std::sort(record->assignments.begin(), record->assignments.end(), qz::AssignmentLess());
+  if (error != nullptr) *error = context.Error();
+  return parsed;
+}

@@ -1,0 +1,181 @@
+#include "Common/QZXMLParse/QZClassParseContext.h"
+
+#include <algorithm>
+#include <cstring>
+#include <istream>
+#include <new>
+
+namespace {
+
+constexpr size_t kChunkSize = 4095;  // bytes read from the stream at a time
+
+// Text beyond this is not kept: no field takes more than 200 characters of at most four bytes each.
+constexpr int32_t kMaximumTextBytes = 200 * 4;
+
+// A token that is still incomplete after this many bytes makes the next reads larger, because the parser
+// scans an incomplete token from its start each time.
+constexpr size_t kLongTokenBytes = 16 * kChunkSize;
+constexpr size_t kMaximumRead = size_t{1} << 26;
+
+// Entities may refer to one another, and the parser nests as deep as they do. Real class files declare none.
+constexpr int32_t kMaximumEntities = 1000;
+constexpr float kMaximumEntityAmplification = 10.0F;
+
+// The part of `name` behind its namespace.
+const char* _SkipNamespace(const char* name) {
+  const char* separator = std::strrchr(name, '#');
+  return separator == nullptr ? name : separator + 1;
+}
+
+}  // namespace
+
+cXmlParserContext::cXmlParserContext(qz::ClassRecord* record)
+    : m_classRecord(record), m_parser(XML_ParserCreateNS(nullptr, '#')) {
+  if (m_parser == nullptr) return;
+  XML_SetUserData(m_parser, this);
+  XML_SetElementHandler(m_parser, StartElement, EndElement);
+  XML_SetCharacterDataHandler(m_parser, CharacterData);
+  XML_SetEntityDeclHandler(m_parser, EntityDeclaration);
+  XML_SetBillionLaughsAttackProtectionMaximumAmplification(m_parser, kMaximumEntityAmplification);
+}
+
+cXmlParserContext::~cXmlParserContext() {
+  XmlTreeDeleteNode(XmlTreeGetRoot(m_node));
+  if (m_parser != nullptr) XML_ParserFree(m_parser);
+}
+
+bool cXmlParserContext::ProcessFile(std::istream& stream) {
+  if (m_parser == nullptr) {
+    m_error.reason = "out of memory";
+    return false;
+  }
+  for (;;) {
+    const size_t size = ReadSize();
+    auto* buffer = static_cast<char*>(XML_GetBuffer(m_parser, static_cast<int>(size + 1)));
+    if (buffer == nullptr) {
+      // Kept as it always was: not having a buffer is recorded, but the parse does not count as failed.
+      AddError(kXmlOutOfMemory, "out of memory");
+      return true;
+    }
+    const int length = ReadChunks(stream, buffer, size);
+    const bool final = stream.fail();
+    if (XML_ParseBuffer(m_parser, length, final ? XML_TRUE : XML_FALSE) == XML_STATUS_ERROR) {
+      if (!m_aborted) SetError(XML_ErrorString(XML_GetErrorCode(m_parser)));
+      return false;
+    }
+    if (m_aborted) return false;
+    if (final) return true;
+  }
+}
+
+size_t cXmlParserContext::ReadSize() const {
+  const XML_Index parsed = XML_GetCurrentByteIndex(m_parser);
+  const uint64_t unparsed = parsed < 0 ? 0 : m_bytesFed - static_cast<uint64_t>(parsed);
+  if (unparsed < kLongTokenBytes) return kChunkSize;
+  return static_cast<size_t>(std::min<uint64_t>(unparsed, kMaximumRead)) / kChunkSize * kChunkSize;
+}
+
+int cXmlParserContext::ReadChunks(std::istream& stream, char* buffer, size_t size) {
+  size_t length = 0;
+  for (size_t done = 0; done < size && !stream.fail(); done += kChunkSize) {
+    char* chunk = buffer + length;
+    stream.read(chunk, static_cast<std::streamsize>(kChunkSize));
+    const auto count = static_cast<size_t>(stream.gcount());
+    // A zero byte ends its chunk.
+    const void* zero = std::memchr(chunk, 0, count);
+    length += zero == nullptr ? count : static_cast<size_t>(static_cast<const char*>(zero) - chunk);
+  }
+  m_bytesFed += length;
+  return static_cast<int>(length);
+}
+
+// Expat is C code: what is thrown below its callbacks is caught here and stops the parse.
+
+void XMLCALL cXmlParserContext::StartElement(void* self, const XML_Char* name, const XML_Char** attributes) {
+  auto* context = static_cast<cXmlParserContext*>(self);
+  if (!context->m_aborted) context->Start(name, attributes);
+}
+
+void XMLCALL cXmlParserContext::EndElement(void* self, const XML_Char* /*name*/) {
+  auto* context = static_cast<cXmlParserContext*>(self);
+  if (context->m_aborted) return;
+  try {
+    context->End();
+  } catch (const std::exception&) {
+    context->AddError(kXmlOutOfMemory, "out of memory");
+  }
+}
+
+void XMLCALL cXmlParserContext::CharacterData(void* self, const XML_Char* text, int length) {
+  auto* context = static_cast<cXmlParserContext*>(self);
+  if (!context->m_aborted) context->Text(text, length);
+}
+
+void XMLCALL cXmlParserContext::EntityDeclaration(void* self, const XML_Char* /*name*/, int, const XML_Char*,
+                                                  int, const XML_Char*, const XML_Char*, const XML_Char*,
+                                                  const XML_Char*) {
+  auto* context = static_cast<cXmlParserContext*>(self);
+  if (context->m_aborted || ++context->m_entityCount <= kMaximumEntities) return;
+  context->AddError(kXmlTooManyEntities, "too many entity declarations");
+  XML_StopParser(context->m_parser, XML_FALSE);
+}
+
+_XmlElementListTag* cXmlParserContext::ChildList() const {
+  if (m_depth == 0) return XmlElementRootList();
+  const _XmlElementListTag* entry = m_path[static_cast<size_t>(m_depth) - 1].entry;
+  return entry == nullptr ? nullptr : entry->children;
+}
+
+void cXmlParserContext::Start(const char* name, const char** attributes) {
+  const char* localName = _SkipNamespace(name);
+  _XmlElementListTag* entry = nullptr;
+  if (m_depth < kMaximumDepth) {
+    entry = XmlElementFindEntry(ChildList(), localName);
+    m_path[static_cast<size_t>(m_depth)] = {entry, 0};
+  }
+  if (m_depth == 0 && entry == nullptr) AddError(kXmlNotAClass, "the document element is not class");
+  ++m_depth;
+  if (entry == nullptr) return;
+
+  _XmlTreeTag* node =
+      XmlTreeNewNode(m_node, entry->elementID, static_cast<int32_t>(XML_GetCurrentLineNumber(m_parser)),
+                     static_cast<long>(XML_GetCurrentByteIndex(m_parser)));
+  if (node == nullptr) return AddError(kXmlOutOfMemory, "out of memory");
+  m_node = node;
+  for (; *attributes != nullptr; attributes += 2) {
+    XmlTreeAddAttribute(node, _SkipNamespace(attributes[0]), attributes[1]);
+  }
+}
+
+void cXmlParserContext::Text(const char* text, int32_t length) {
+  if (m_depth < 1 || m_depth >= kMaximumDepth) return;
+  OpenElement& open = m_path[static_cast<size_t>(m_depth) - 1];
+  if (open.entry == nullptr || !open.entry->acceptChars) return;
+  if (open.textBytes >= kMaximumTextBytes) return;
+  if (!XmlTreeAddText(m_node, text, length)) return AddError(kXmlOutOfMemory, "out of memory");
+  open.textBytes += length;
+}
+
+void cXmlParserContext::End() {
+  --m_depth;
+  if (m_depth >= kMaximumDepth) return;
+  const _XmlElementListTag* entry = m_path[static_cast<size_t>(m_depth)].entry;
+  if (entry == nullptr) return;
+  _XmlTreeTag* parent = XmlTreeGetParent(m_node);
+  const auto handler = reinterpret_cast<XmlParserHandler>(entry->userData);
+  if (handler != nullptr) handler(this);
+  if (parent != nullptr) m_node = parent;
+}
+
+void cXmlParserContext::AddError(XmlParserErrorCode code, const char* reason) {
+  m_errorCode = code;
+  m_aborted = true;
+  SetError(reason);
+}
+
+void cXmlParserContext::SetError(const char* reason) {
+  if (m_error.reason != nullptr) return;
+  m_error.line = XML_GetCurrentLineNumber(m_parser);
+  m_error.column = XML_GetCurrentColumnNumber(m_parser) + 1;
+  m_error.reason = reason;
+}

@@ -1,0 +1,99 @@
+// One parse of a class file: drives expat over the stream, keeps the tree of the record being read, and
+// calls the handler of each element that ends.
+#ifndef GRADIX_QZCLASSPARSECONTEXT_H
+#define GRADIX_QZCLASSPARSECONTEXT_H
+
+#include <expat.h>
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <iosfwd>
+
+#include "Common/QZData/QZClass.h"
+#include "Common/QZXMLParse/QZClassParse.h"
+#include "Common/QZXMLParse/gxml.h"
+#include "Common/xmltree.h"
+
+class cXmlParserContext;
+
+// Takes the element that just ended, the context's node. The result is not used.
+using XmlParserHandler = bool (*)(cXmlParserContext* context);
+
+// Elements nested deeper are skipped.
+constexpr int32_t kMaximumDepth = 40;
+
+enum XmlParserErrorCode : int32_t {
+  kXmlNoError = 0,
+  kXmlOutOfMemory = 2,
+  kXmlNotAClass = 5,        // the document element is not class
+  kXmlTooManyEntities = 6,  // more entity declarations than the parser can nest safely
+};
+
+// The assignment being read. Only the first list of each kind counts, as for every repeated element.
+struct PendingAssignment {
+  qz::AssignmentRecord record;
+  std::vector<qz::ResponseRecord> responses;  // of the results element being read
+  bool questionListEnded = false;
+  bool resultsListEnded = false;
+  bool responseListEnded = false;
+};
+
+class cXmlParserContext {
+ public:
+  explicit cXmlParserContext(qz::ClassRecord* record);
+  ~cXmlParserContext();
+  cXmlParserContext(const cXmlParserContext&) = delete;
+  cXmlParserContext& operator=(const cXmlParserContext&) = delete;
+
+  // Parses the stream to its end or to the first fault; false when there was one.
+  bool ProcessFile(std::istream& stream);
+
+  const QZClassParseError& Error() const { return m_error; }
+  qz::ClassRecord* Class() { return m_classRecord; }
+  PendingAssignment& Pending() { return m_pending; }
+
+  // The innermost open element that has a node.
+  _XmlTreeTag* Node() { return m_node; }
+
+ private:
+  struct OpenElement {
+    _XmlElementListTag* entry;  // null for an unknown element
+    int32_t textBytes;          // character data kept so far
+  };
+
+  static void XMLCALL StartElement(void* self, const XML_Char* name, const XML_Char** attributes);
+  static void XMLCALL EndElement(void* self, const XML_Char* name);
+  static void XMLCALL CharacterData(void* self, const XML_Char* text, int length);
+  static void XMLCALL EntityDeclaration(void* self, const XML_Char* name, int isParameterEntity,
+                                        const XML_Char* value, int valueLength, const XML_Char* base,
+                                        const XML_Char* systemID, const XML_Char* publicID,
+                                        const XML_Char* notation);
+
+  void Start(const char* name, const char** attributes);
+  void End();
+  void Text(const char* text, int32_t length);
+
+  // The list of elements valid inside the innermost open element, or null.
+  _XmlElementListTag* ChildList() const;
+  size_t ReadSize() const;
+  // Reads chunks of the stream into the parser's buffer. Returns the bytes there are to parse.
+  int ReadChunks(std::istream& stream, char* buffer, size_t size);
+
+  void AddError(XmlParserErrorCode code, const char* reason);
+  void SetError(const char* reason);
+
+  qz::ClassRecord* m_classRecord;
+  _XmlTreeTag* m_node = nullptr;
+  XML_Parser m_parser;
+  int32_t m_depth = 0;  // open elements, known or not
+  std::array<OpenElement, kMaximumDepth> m_path{};
+  XmlParserErrorCode m_errorCode = kXmlNoError;
+  bool m_aborted = false;  // the callbacks do nothing any more
+  int32_t m_entityCount = 0;
+  uint64_t m_bytesFed = 0;
+  QZClassParseError m_error;
+  PendingAssignment m_pending;
+};
+
+#endif  // GRADIX_QZCLASSPARSECONTEXT_H

@@ -1,0 +1,36 @@
+// Joins the results of assignments to the students of the class.
+#ifndef GRADIX_GRADECOLUMNS_H
+#define GRADIX_GRADECOLUMNS_H
+
+#include <vector>
+
+#include "Common/KeyIndex.h"
+#include "Common/QZData/QZClass.h"
+
+// An index of the roster, built once per export. Gives the same answers as asking every assignment for
+// every student. The students have to outlive it.
+class RosterIndex {
+ public:
+  explicit RosterIndex(const std::vector<qz::StudentRecord>& students);
+
+  // By position in the roster: the student's first results record on the assignment, or null.
+  std::vector<const qz::ResultsRecord*> FindResults(const qz::AssignmentRecord& assignment) const;
+
+ private:
+  KeyIndex<uint64_t> m_ids;
+  std::vector<size_t> m_idNumbers;  // by position in the roster
+};
+
+// One assignment column of a gradebook.
+struct GradeColumn {
+  const qz::AssignmentRecord* assignment;
+  std::vector<const qz::ResultsRecord*> results;  // by position in the roster, null where there is none
+};
+
+// The columns of the selected assignments, in their order.
+std::vector<GradeColumn> SelectedColumns(const qz::ClassRecord& record);
+
+// Sum of the columns' points possible; saturates at 32 bits.
+int32_t TotalPointsPossible(const std::vector<GradeColumn>& columns);
+
+#endif  // GRADIX_GRADECOLUMNS_H

@@ -1,0 +1,25 @@
+// Checks that every student can be told apart by the identifier that an export will write.
+#ifndef GRADIX_ROSTERCHECK_H
+#define GRADIX_ROSTERCHECK_H
+
+#include <cstddef>
+#include <vector>
+
+#include "Common/QZData/QZClass.h"
+
+// Students are given by their position in ClassRecord::students.
+struct RosterCheck {
+  size_t studentCount = 0;
+  std::vector<size_t> empty;  // students without an identifier
+
+  // Groups of two or more students with one identifier, compared exactly. Empty identifiers are equal, too.
+  std::vector<std::vector<size_t>> duplicates;
+
+  bool SomeEmpty() const { return !empty.empty() && !AllEmpty(); }
+  bool AllEmpty() const { return empty.size() == studentCount; }  // true of a class without students
+  bool HasDuplicates() const { return !duplicates.empty(); }
+};
+
+RosterCheck CheckUserIDs(const qz::ClassRecord& record, qz::UserIDField field);
+
+#endif  // GRADIX_ROSTERCHECK_H

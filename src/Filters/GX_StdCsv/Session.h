@@ -1,0 +1,52 @@
+// One export run: what the host passed, the class that was read, and the writing of its one file format.
+#ifndef GRADIX_SESSION_H
+#define GRADIX_SESSION_H
+
+#include <cstdint>
+#include <cstdio>
+
+#include "Common/QZData/QZClass.h"
+#include "gradix/QZFilter.h"
+
+class Session {
+ public:
+  explicit Session(const QZEXPORTBEGIN* begin);  // copies the record
+  virtual ~Session() = default;
+  Session(const Session&) = delete;
+  Session& operator=(const Session&) = delete;
+
+  // Writes the whole file. Returns QZFILTER_SUCCESS, or QZFILTER_FILE_NOT_CREATED when the file cannot be
+  // created. A disk that fills up later does not change the status: WriteError tells.
+  virtual uint32_t Export(const char* path);
+
+  // Writes the same bytes to an open stream, which stays open.
+  void ExportTo(std::FILE* file);
+
+  // Why the last Export or ExportTo did not write and close its file completely: an errno value, 0 when it
+  // did.
+  int WriteError() const { return m_writeError; }
+
+  QZEXPORTBEGIN GetExportInfo() const { return m_begin; }
+  qz::ClassRecord* GetClass() { return &m_class; }
+
+  void SetUseQuotes(bool useQuotes) { m_bUseQuotes = useQuotes; }
+
+  // Writes the text with every double quote turned into an apostrophe, so that it can stand between double
+  // quotes as it is. Writes no quotes around it.
+  static void WriteSafeCSVString(std::FILE* file, const char* text);
+
+ protected:
+  const qz::ClassRecord& Class() const { return m_class; }
+  bool UseQuotes() const { return m_bUseQuotes; }
+
+ private:
+  // Writes the format. Failures are read off the stream afterwards.
+  virtual void Write(std::FILE* file) = 0;
+
+  QZEXPORTBEGIN m_begin;
+  qz::ClassRecord m_class;
+  bool m_bUseQuotes = true;  // read by the formats that have an unquoted variant
+  int m_writeError = 0;
+};
+
+#endif  // GRADIX_SESSION_H

@@ -1,0 +1,33 @@
+// The live export sessions, by id.
+#ifndef GRADIX_SESSIONMGR_H
+#define GRADIX_SESSIONMGR_H
+
+#include <cstdint>
+#include <map>
+#include <memory>
+
+#include "gradix/QZFilter.h"
+
+class Session;
+
+class SessionMgr {
+ public:
+  SessionMgr();
+  ~SessionMgr();  // ends every session
+
+  // Creates a session of the format that `begin` names and returns its id. Throws the text
+  // "Invalid format index." (const char*) when there is no such format.
+  unsigned long CreateSession(const QZEXPORTBEGIN* begin);
+
+  // The session, owned by this manager until EndSession; null for an unknown id.
+  Session* GetSession(unsigned long id) const;
+
+  // Destroys the session. An unknown id is ignored.
+  void EndSession(unsigned long id);
+
+ private:
+  std::map<unsigned long, std::unique_ptr<Session>> m_sessions;
+  uint32_t m_created = 0;
+};
+
+#endif  // GRADIX_SESSIONMGR_H

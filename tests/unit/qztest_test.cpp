@@ -1,0 +1,169 @@
+#include "Common/QZData/QZTest.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <limits>
+#include <string>
+#include <vector>
+
+#include "Common/QZData/QZClass.h"
+
+namespace {
+
+constexpr int32_t kMax = std::numeric_limits<int32_t>::max();
+
+qz::Test MakeTest(const std::vector<int32_t>& types, int32_t start, uint32_t numbering) {
+  qz::Test test;
+  for (const int32_t type : types) test.questions.push_back({type, ""});
+  test.startNumber = start;
+  test.numbering = numbering;
+  return test;
+}
+
+TEST(QuestionTypes, NamesAndKeywords) {
+  EXPECT_STREQ(qz::Test::GetQuestionTypeAbbrev(0), "TF");
+  EXPECT_STREQ(qz::Test::GetQuestionTypeAbbrev(13), "OT");
+  for (const int32_t type : {4, -1, 14, kMax})
+    EXPECT_EQ(qz::Test::GetQuestionTypeAbbrev(type), nullptr) << type;
+  for (int32_t type = 0; type < 14; ++type) {
+    if (type != 4) {
+      EXPECT_EQ(qz::Test::GetQuestionType(qz::Test::GetQuestionTypeAbbrev(type)), type);
+    }
+  }
+  EXPECT_EQ(qz::Test::GetQuestionType("Bi"), 4);
+  EXPECT_EQ(qz::Test::GetQuestionType("mtF"), 1);
+  for (const char* keyword : {"", "t", "tf ", "other"})
+    EXPECT_EQ(qz::Test::GetQuestionType(keyword), -1) << keyword;
+}
+
+TEST(QuestionNumbers, RunsOfTypes) {
+  const struct {
+    const char* name;
+    std::vector<int32_t> types;
+    int32_t start;
+    uint32_t numbering;
+    std::vector<int32_t> numbers;  // of each question, then of the index behind the last
+    int32_t newTF;
+  } rows[] = {
+      {"opening run goes on from the start", {0, 0, 2, 2}, 5, 0, {5, 6, 1, 2, 1}, 7},
+      {"continuous", {0, 0, 2}, 5, 1, {5, 6, 7, 8}, 8},
+      {"other numbering bits", {0, 2}, 5, 2, {5, 1, 1}, 6},
+      {"a type that comes back", {2, 0, 2, 0}, 5, 0, {5, 1, 6, 2, 1}, 3},
+      {"empty", {}, 5, 0, {5}, 5},
+      {"empty, continuous", {}, 5, 1, {5}, 5},
+      {"wraps", {0, 0}, kMax, 0, {kMax, -kMax - 1, 1}, -kMax},
+      {"wraps, continuous", {0, 0}, kMax, 1, {kMax, -kMax - 1, -kMax}, -kMax},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.name);
+    const qz::Test test = MakeTest(row.types, row.start, row.numbering);
+    std::vector<int32_t> numbers;
+    for (int32_t i = 0; i <= test.GetQuestionCount(); ++i) numbers.push_back(test.GetQuestionNumber(i));
+    EXPECT_EQ(numbers, row.numbers);
+    EXPECT_EQ(test.GetNewQuestionNumber(qz::kQuestionTF), row.newTF);
+    EXPECT_EQ(test.GetQuestionNumber(-1), row.start);
+  }
+  const qz::Test test = MakeTest({0, 2}, 1, 0);
+  EXPECT_TRUE(test.HasQuestionType(2));
+  EXPECT_FALSE(test.HasQuestionType(1));
+}
+
+TEST(TestLookups, FirstOfTheNameWithoutCase) {
+  qz::Test test;
+  test.narratives = {{""}, {"Poem"}, {"POEM"}};
+  test.matchingGroups = {{"Rivers"}};
+  EXPECT_EQ(test.FindNarrativeIndex("poem"), 1);
+  EXPECT_EQ(test.FindNarrativePtr("pOEM"), &test.narratives[1]);
+  EXPECT_EQ(test.FindNarrativeIndex(""), -1);
+  EXPECT_EQ(test.FindNarrativePtr("Rivers"), nullptr);
+  EXPECT_EQ(test.FindMatchingGroupIndex("RIVERS"), 0);
+  EXPECT_EQ(test.FindMatchingGroupPtr("rivers"), &test.matchingGroups[0]);
+  EXPECT_EQ(test.FindMatchingGroupPtr("Poem"), nullptr);
+
+  test.startNumber = 9;
+  test.Clear();
+  EXPECT_EQ(test.FindNarrativeIndex("poem"), -1);
+  EXPECT_EQ(test.startNumber, qz::Test().startNumber);
+}
+
+TEST(Feedback, TextBetweenTheMarkers) {
+  const std::string longText(qz::Test::kMaxFeedback + 200, 'x');
+  const struct {
+    const char* name;
+    int32_t type;
+    std::string feedback;
+    char letter;
+    std::string expected;
+  } rows[] = {
+      {"first", 2, "/A/yes/B/no/E/last", 'A', "yes"},
+      {"gap in the letters", 2, "/A/yes/B/no/E/last", 'B', "no/E/last"},
+      {"last", 2, "/A/yes/E/last", 'E', "last"},
+      {"E ends at F", 2, "/E/last/F/more", 'E', "last"},
+      {"markers in lower case", 2, "/a/yes/b/no", 'A', "yes"},
+      {"no marker", 2, "/A/yes", 'C', ""},
+      {"marker at the end", 2, "/A/", 'A', ""},
+      {"lower-case letter", 2, "/A/yes", 'a', ""},
+      {"beyond E", 2, "/F/yes", 'F', ""},
+      {"other type", 3, "/A/yes", 'A', ""},
+      {"no feedback", 2, "", 'A', ""},
+      {"cut", 2, "/A/" + longText, 'A', longText.substr(0, qz::Test::kMaxFeedback)},
+      {"next marker behind the cut", 2, "/A/" + longText + "/B/", 'A',
+       longText.substr(0, qz::Test::kMaxFeedback)},
+  };
+  for (const auto& row : rows) {
+    char buffer[qz::Test::kMaxFeedback + 1];
+    std::memset(buffer, '#', sizeof buffer);
+    EXPECT_EQ(qz::Test::GetMCItemFeedback({row.type, row.feedback}, row.letter, buffer), buffer);
+    EXPECT_EQ(std::string(buffer), row.expected) << row.name;
+  }
+}
+
+TEST(DefaultFontCss, DeclarationsInOrder) {
+  qz::Test test;
+  test.fonts = {{7, "Times"}, {7, "Courier"}};
+  const struct {
+    const char* name;
+    qz::DefaultFont font;
+    bool mapSize;
+    const char* expected;
+  } rows[] = {
+      {"bold italic red, mapped",
+       {7, 11, 0x5, 0x0000FF},
+       true,
+       "font-size:12pt; font-weight:bold; font-style:italic; font-family:\"Times\"; color:#FF0000;"},
+      {"underlined, unknown font",
+       {8, 11, 0x2, 0xFF0A0B0C},
+       false,
+       "font-size:11pt; text-decoration:underline; color:#0C0B0A;"},
+      {"longest",
+       {7, std::numeric_limits<int32_t>::min(), 0xFFFFFFFF, 0xFFFFFFFF},
+       true,
+       "font-size:-2147483648pt; font-weight:bold; font-style:italic; text-decoration:underline; "
+       "font-family:\"Times\"; color:#FFFFFF;"},
+  };
+  for (const auto& row : rows) {
+    char buffer[128 + sizeof "Courier"];
+    EXPECT_STREQ(test.BuildCSSFromDefaultFont(buffer, row.font, row.mapSize), row.expected) << row.name;
+  }
+}
+
+TEST(PrefixedFilename, OneUnderscoreBetween) {
+  const struct {
+    const char* prefix;
+    const char* name;
+    const char* expected;
+  } rows[] = {{"quiz", "a.gif", "quiz_a.gif"},
+              {"quiz_", "a.gif", "quiz_a.gif"},
+              {"quiz", "", "quiz"},
+              {"", "a.gif", "a.gif"},
+              {"", "", ""}};
+  for (const auto& row : rows) {
+    qz::Test test;
+    test.filenamePrefix = row.prefix;
+    char buffer[32];
+    EXPECT_STREQ(test.MakePrefixedFilename(buffer, row.name), row.expected);
+  }
+}
+
+}  // namespace

@@ -13,7 +13,7 @@
 #include <numeric>
 #include <optional>
 #include <random>
-#include <string>
+#include <span>
 #include <string_view>
 #include <system_error>
 #include <utility>
@@ -30,18 +30,14 @@ constexpr const char* kUsage =
     "usage: generate_class STUDENTS ASSIGNMENTS QUESTIONS [SEED]\n"
     "Writes a class file to standard output. The counts go from 0 to 10000000; SEED is 1 if not given.\n";
 
-template <size_t N>
-using Texts = std::array<std::string_view, N>;
-
 class Dice {
  public:
   explicit Dice(uint32_t seed) : m_engine(seed) {}
 
   uint32_t Below(uint32_t limit) { return static_cast<uint32_t>((uint64_t{m_engine()} * limit) >> 32); }
 
-  template <size_t N>
-  std::string_view Pick(const Texts<N>& texts) {
-    return texts[Below(N)];
+  std::string_view Pick(std::span<const std::string_view> texts) {
+    return texts[Below(static_cast<uint32_t>(texts.size()))];
   }
   void Shuffle(std::vector<uint32_t>& items) {
     for (size_t left = items.size(); left > 1; --left) {
@@ -68,10 +64,10 @@ constexpr std::array<QuestionKind, 5> kKinds = {{
     {"MR", "5", {"A,C", "A", "C", "B,C"}},
 }};
 // clang-format on
-constexpr Texts<4> kFirstNames = {"Ann", "Björn", "Chloé", "David"};
-constexpr Texts<5> kLastNames = {"Smith", "Müller", "García", "O'Brien", "Okafor"};
-constexpr Texts<2> kGenders = {"F", "M"};
-constexpr Texts<3> kRooms = {"Room 11", "Room 12", "Room 14"};
+constexpr std::string_view kFirstNames[] = {"Ann", "Björn", "Chloé", "David"};
+constexpr std::string_view kLastNames[] = {"Smith", "Müller", "García", "O'Brien", "Okafor"};
+constexpr std::string_view kGenders[] = {"F", "M"};
+constexpr std::string_view kRooms[] = {"Room 11", "Room 12", "Room 14"};
 
 // One line: a text element whose content is the parts. At most one part may throw the dice, since C++ leaves
 // the order of the arguments open.
@@ -82,9 +78,9 @@ void WriteText(std::ostream& out, std::string_view name, Parts... parts) {
   out << "</" << name << ">\n";
 }
 
-// Ids count from 1. Indentation stops at the records of students, questions and results: the size is theirs.
+// Ids count from 1. Indentation stops at the lists, so that the size is that of the records.
 void WriteStudent(std::ostream& out, Dice& dice, uint32_t id) {
-  out << "    <student id=\"" << id << "\">\n";
+  out << "<student id=\"" << id << "\">\n";
   WriteText(out, "first-name", dice.Pick(kFirstNames));
   WriteText(out, "last-name", dice.Pick(kLastNames));
   WriteText(out, "student-id", 100'000'000 + id);
@@ -100,12 +96,12 @@ void WriteStudent(std::ostream& out, Dice& dice, uint32_t id) {
   WriteText(out, "custom-2", "user", id, "@example.org");
   WriteText(out, "custom-3", dice.Pick(kRooms));
   WriteText(out, "pad-id", id);
-  out << "    </student>\n";
+  out << "</student>\n";
 }
 
 void WriteQuestion(std::ostream& out, uint32_t assignment, uint32_t number) {
   const QuestionKind& kind = kKinds[number % kKinds.size()];
-  out << "        <question number=\"" << number << "\" type=\"" << kind.type << "\" question-id=\"" << number
+  out << "<question number=\"" << number << "\" type=\"" << kind.type << "\" question-id=\"" << number
       << "\" bank-id=\"" << assignment << "\">\n";
   WriteText(out, "num-choices", kind.choices);
   WriteText(out, "answer", kind.texts.front());
@@ -113,7 +109,7 @@ void WriteQuestion(std::ostream& out, uint32_t assignment, uint32_t number) {
   WriteText(out, "learning-objective", "LO 1");
   WriteText(out, "state-standard", "SC.1");
   WriteText(out, "points-possible", "1");
-  out << "        </question>\n";
+  out << "</question>\n";
 }
 
 void WriteResponse(std::ostream& out, Dice& dice, uint32_t assignment, uint32_t number) {
@@ -126,11 +122,11 @@ void WriteResponse(std::ostream& out, Dice& dice, uint32_t assignment, uint32_t 
 }
 
 void WriteResults(std::ostream& out, Dice& dice, const Size& size, uint32_t assignment, uint32_t student) {
-  out << "        <results id=\"" << student << "\">\n";
+  out << "<results id=\"" << student << "\">\n";
   WriteText(out, "num-attempts", "1");
   out << "<response-list>\n";
   for (uint32_t number = 1; number <= size.questions; ++number) WriteResponse(out, dice, assignment, number);
-  out << "</response-list>\n        </results>\n";
+  out << "</response-list>\n</results>\n";
 }
 
 void WriteAssignment(std::ostream& out, Dice& dice, const Size& size, uint32_t id,
@@ -191,8 +187,8 @@ int main(int argc, char** argv) {
     return 2;
   }
   std::ios::sync_with_stdio(false);
-  std::vector<char> buffer(size_t{1} << 20);
-  std::cout.rdbuf()->pubsetbuf(buffer.data(), static_cast<std::streamsize>(buffer.size()));
+  static std::array<char, 1 << 20> buffer;  // std::cout outlives this function
+  std::cout.rdbuf()->pubsetbuf(buffer.data(), buffer.size());
   WriteClass(std::cout, *size);
   if (std::cout.flush()) return EXIT_SUCCESS;
   std::cerr << "generate_class: cannot write\n";

@@ -460,7 +460,7 @@ SECONDARY_QUIZZES = (
      MC 1    | A
      MR 2    | A,E | A | C,E
      MA 4    | B,A,D,C | B,A,C,D | A,B,D,C
-     ES 2.5  | | Snails eat algae.\\nFish eat snails. | Everything eats something. | Algae, then snails, then fish.
+     ES 2.5  | | Snails eat algae.\\nFish eat snails. | Everything eats something. | They all swim.
      TF 0.5  | T
      NR 1    | 10 | 90 | 1"""),
     ("Quiz 9: Biomes", "2023-12-15", "Quizzes", "Paper", """

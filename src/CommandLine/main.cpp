@@ -1,1 +1,61 @@
-int main() { return 0; }
+// gxexport: the export formats without a display.
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <cstdio>
+#include <exception>
+#include <iostream>
+#include <new>
+#include <string_view>
+#include <variant>
+
+#include "CommandLine/CommandError.h"
+#include "CommandLine/Commands.h"
+#include "CommandLine/Options.h"
+#include "CommandLine/OutputFile.h"
+#include "CommandLine/TextOut.h"
+
+namespace {
+
+struct CommandRunner {
+  void operator()(const ShowOptions& options) const { WriteStandardOutput(options.text); }
+  void operator()(const FormatsOptions& options) const { RunFormats(options); }
+  void operator()(const InspectOptions& options) const { RunInspect(options); }
+  void operator()(const ExportOptions& options) const { RunExport(options); }
+};
+
+// A file opened while a standard stream is closed would become that stream and take its data. The other way
+// round they fail as closed ones do.
+void _OccupyClosedStreams() {
+  for (int stream = STDIN_FILENO; stream <= STDERR_FILENO; ++stream) {
+    if (fcntl(stream, F_GETFD) < 0) open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY);
+  }
+}
+
+// A closed pipe and a size limit are failed writes, not reasons to die with a half-written file.
+void _SetUpProcess() {
+  _OccupyClosedStreams();
+  std::signal(SIGPIPE, SIG_IGN);
+  std::signal(SIGXFSZ, SIG_IGN);
+  std::ios::sync_with_stdio(false);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  _SetUpProcess();
+  try {
+    std::visit(CommandRunner(), ReadCommandLine(argc, argv));
+    return kExitDone;
+  } catch (const CommandError& error) {
+    if (*error.what() != '\0') Say(error.what());
+    return error.Status();
+  } catch (const std::bad_alloc&) {
+    std::fputs("gxexport: out of memory\n", stderr);
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "gxexport: %s\n", error.what());
+  }
+  return kExitOutput;
+}

@@ -47,12 +47,15 @@ int32_t ParseInt32(const char* text) {
 }
 
 double ParseDouble(const char* text) {
-  if (text == nullptr) return 0.0;
+  return text == nullptr ? 0.0 : ParseDouble(text, std::strlen(text));
+}
+
+double ParseDouble(const char* text, size_t length) {
   const char* number = text;
   while (IsBlank(*number)) ++number;
   if (number[0] == '+' && number[1] != '-') ++number;  // from_chars knows no plus sign
   double value = 0.0;
-  const auto [end, error] = std::from_chars(number, number + std::strlen(number), value);
+  const auto [end, error] = std::from_chars(number, text + length, value);
   const bool plain = error == std::errc() && std::isfinite(value) && *end != 'x' && *end != 'X';
   return plain ? value : ParseDoubleSlowly(text);
 }

@@ -13,6 +13,9 @@ int32_t ParseInt32(const char* text);
 // 0 when there is none. Null reads like an empty text.
 double ParseDouble(const char* text);
 
+// The same for a text whose length is known.
+double ParseDouble(const char* text, size_t length);
+
 // Formats as "%g" does, terminated; gives the length.
 size_t FormatGeneral(char (&buffer)[32], double value);
 

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdlib>
 #include <cstring>
+#include <functional>
 #include <limits>
 
 #include "Common/number.h"
@@ -13,31 +14,51 @@ namespace {
 
 constexpr int32_t kCapacityStep = 5;
 
-// A node is allocated together with room for its first items, which is all that most nodes ever need.
+// A node is allocated together with room for its first items and for the bytes of short attributes and texts,
+// which is all that most nodes ever need.
 struct NodeBlock {
   _XmlTreeTag node;
   _XmlTreeItem firstItems[kCapacityStep];
+  size_t bytesUsed;
+  char bytes[64];
 };
 static_assert(offsetof(NodeBlock, node) == 0, "a node's address is its block's");
 
-_XmlTreeItem* _FirstItems(_XmlTreeTag* node) {
-  return reinterpret_cast<NodeBlock*>(node)->firstItems;
+NodeBlock* _Block(_XmlTreeTag* node) {
+  return reinterpret_cast<NodeBlock*>(node);
+}
+
+// Room for an attribute or a text of the node: in its own block while that lasts, else on the heap.
+char* _NewBytes(_XmlTreeTag* node, size_t size) {
+  NodeBlock* block = _Block(node);
+  if (size > sizeof block->bytes - block->bytesUsed) return static_cast<char*>(std::malloc(size));
+  char* bytes = block->bytes + block->bytesUsed;
+  block->bytesUsed += size;
+  return bytes;
+}
+
+// Frees what _NewBytes gave. Room in the node's own block comes back with the node.
+void _FreeBytes(_XmlTreeTag* node, void* bytes) {
+  const char* begin = _Block(node)->bytes;
+  const bool inBlock = std::greater_equal<>()(static_cast<const char*>(bytes), begin) &&
+                       std::less<>()(static_cast<const char*>(bytes), begin + sizeof _Block(node)->bytes);
+  if (!inBlock) std::free(bytes);
 }
 
 void _FreeItemArray(_XmlTreeTag* node) {
-  if (node->items != _FirstItems(node)) std::free(node->items);
+  if (node->items != _Block(node)->firstItems) std::free(node->items);
 }
 
 // Makes room for one more item: by a few while the list is short, by half its length when it is long.
 bool _GrowItems(_XmlTreeTag* node) {
   if (node->items == nullptr) {
-    node->items = _FirstItems(node);
+    node->items = _Block(node)->firstItems;
     node->itemCapacity = kCapacityStep;
     return true;
   }
   if (node->itemCapacity > std::numeric_limits<int32_t>::max() / 2) return false;
   const int32_t capacity = node->itemCapacity + std::max(kCapacityStep, node->itemCapacity / 2);
-  const bool onHeap = node->items != _FirstItems(node);
+  const bool onHeap = node->items != _Block(node)->firstItems;
   auto* items = static_cast<_XmlTreeItem*>(
       std::realloc(onHeap ? node->items : nullptr, static_cast<size_t>(capacity) * sizeof(_XmlTreeItem)));
   if (items == nullptr) return false;
@@ -53,10 +74,10 @@ bool _AddItem(_XmlTreeTag* node, XmlTreeItemKind kind, XmlTreeDestructor destruc
   return true;
 }
 
-// Appends a heap block as an item, or frees it.
-bool _AddBlock(_XmlTreeTag* node, XmlTreeItemKind kind, char* block) {
-  if (_AddItem(node, kind, nullptr, block)) return true;
-  std::free(block);
+// Appends the bytes as an item, or frees them.
+bool _AddBytes(_XmlTreeTag* node, XmlTreeItemKind kind, char* bytes) {
+  if (_AddItem(node, kind, nullptr, bytes)) return true;
+  _FreeBytes(node, bytes);
   return false;
 }
 
@@ -78,9 +99,9 @@ void _Unlink(_XmlTreeTag* node) {
   }
 }
 
-void _ReleaseItem(const _XmlTreeItem& item) {
+void _ReleaseItem(_XmlTreeTag* node, const _XmlTreeItem& item) {
   if (item.kind == kXmlTreeAttribute || item.kind == kXmlTreeText) {
-    std::free(item.data);
+    _FreeBytes(node, item.data);
   } else if (item.kind == kXmlTreeUserData && item.destructor != nullptr) {
     item.destructor(item.data);
   }
@@ -95,7 +116,7 @@ void _FreeSubtree(_XmlTreeTag* top) {
       if (item.kind == kXmlTreeChild) {
         node = static_cast<_XmlTreeTag*>(item.data);
       } else {
-        _ReleaseItem(item);
+        _ReleaseItem(node, item);
       }
       continue;
     }
@@ -104,6 +125,16 @@ void _FreeSubtree(_XmlTreeTag* top) {
     std::free(node);
     node = parent;
   }
+}
+
+// The value of an attribute's bytes when its name is `name`, else null. Byte by byte, because the bytes were
+// written so a moment ago, and wider reads would wait for them.
+const char* _SkipName(const char* bytes, const char* name) {
+  while (*bytes != '\0' && *bytes == *name) {
+    ++bytes;
+    ++name;
+  }
+  return *bytes == *name ? bytes + 1 : nullptr;
 }
 
 // The position of the item with the 0-based index among the items of one kind, or -1.
@@ -167,13 +198,13 @@ bool _JoinAllText(const _XmlTreeTag* node, char* buffer, int32_t size, MapCodePo
 _XmlTreeTag* XmlTreeNewNode(_XmlTreeTag* parent, int32_t elementID, int32_t line, long byteIndex) {
   auto* block = static_cast<NodeBlock*>(std::malloc(sizeof(NodeBlock)));
   if (block == nullptr) return nullptr;
-  _XmlTreeTag* node = &block->node;
-  *node = {elementID, line, byteIndex, parent, 0, 0, nullptr};
-  if (parent != nullptr && !_AddItem(parent, kXmlTreeChild, nullptr, node)) {
+  block->node = {elementID, line, byteIndex, parent, 0, 0, nullptr};
+  block->bytesUsed = 0;
+  if (parent != nullptr && !_AddItem(parent, kXmlTreeChild, nullptr, &block->node)) {
     std::free(block);
     return nullptr;
   }
-  return node;
+  return &block->node;
 }
 
 void XmlTreeDeleteNode(_XmlTreeTag* node) {
@@ -220,12 +251,12 @@ _XmlTreeTag* XmlTreeFindNode(const _XmlTreeTag* node, int32_t elementID) {
 
 bool XmlTreeAddText(_XmlTreeTag* node, const char* text, int32_t length) {
   if (length < 0) return false;
-  const auto bytes = static_cast<size_t>(length);
-  auto* block = static_cast<char*>(std::malloc(bytes + 1));
-  if (block == nullptr) return false;
-  std::copy_n(text, bytes, block);
-  block[bytes] = '\0';
-  return _AddBlock(node, kXmlTreeText, block);
+  const auto size = static_cast<size_t>(length);
+  char* bytes = _NewBytes(node, size + 1);
+  if (bytes == nullptr) return false;
+  std::copy_n(text, size, bytes);
+  bytes[size] = '\0';
+  return _AddBytes(node, kXmlTreeText, bytes);
 }
 
 bool XmlTreeGetAllText(const _XmlTreeTag* node, char* buffer, int32_t size) {
@@ -238,7 +269,7 @@ bool XmlTreeGetAllTextAsSymbol(const _XmlTreeTag* node, char* buffer, int32_t si
 
 void XmlTreeDeleteAllText(_XmlTreeTag* node) {
   for (int32_t i = node->itemCount - 1; i >= 0; --i) {
-    if (node->items[i].kind == kXmlTreeText) _ReleaseItem(node->items[i]);
+    if (node->items[i].kind == kXmlTreeText) _ReleaseItem(node, node->items[i]);
   }
   const _XmlTreeItem* end =
       std::remove_if(node->items, node->items + node->itemCount,
@@ -247,22 +278,24 @@ void XmlTreeDeleteAllText(_XmlTreeTag* node) {
 }
 
 bool XmlTreeAddAttribute(_XmlTreeTag* node, const char* name, const char* value) {
-  const int32_t nameLength = XmlUtf8StrLen(name);
-  const int32_t valueLength = XmlUtf8StrLen(value);
-  const size_t size = static_cast<size_t>(nameLength) + static_cast<size_t>(valueLength) + 3;
-  auto* block = static_cast<char*>(std::malloc(size));
-  if (block == nullptr) return false;
-  XmlUtf8DecodeString(block, nameLength, name);
-  XmlUtf8DecodeString(block + std::strlen(block) + 1, valueLength, value);
-  block[size - 1] = '\0';
-  return _AddBlock(node, kXmlTreeAttribute, block);
+  // No text has more characters than bytes.
+  const size_t nameSize = std::strlen(name);
+  const size_t valueSize = std::strlen(value);
+  constexpr size_t kMaximumSize = std::numeric_limits<int32_t>::max();
+  if (nameSize > kMaximumSize || valueSize > kMaximumSize) return false;
+  char* bytes = _NewBytes(node, nameSize + valueSize + 2);
+  if (bytes == nullptr) return false;
+  bool valid = false;
+  char* nameEnd = XmlUtf8DecodeTo(bytes, static_cast<int32_t>(nameSize), name, &valid);
+  XmlUtf8DecodeTo(nameEnd + 1, static_cast<int32_t>(valueSize), value, &valid);
+  return _AddBytes(node, kXmlTreeAttribute, bytes);
 }
 
 const char* XmlTreeGetAttribute(const _XmlTreeTag* node, const char* name) {
   for (int32_t i = 0; i < node->itemCount; ++i) {
     if (node->items[i].kind != kXmlTreeAttribute) continue;
-    const auto* block = static_cast<const char*>(node->items[i].data);
-    if (std::strcmp(block, name) == 0) return block + std::strlen(block) + 1;
+    const char* value = _SkipName(static_cast<const char*>(node->items[i].data), name);
+    if (value != nullptr) return value;
   }
   return nullptr;
 }

@@ -170,21 +170,31 @@ int32_t XmlUtf8StrLen(const char* text) {
   return count;
 }
 
-bool XmlUtf8DecodeString(char* destination, int32_t size, const char* source) {
-  bool valid = true;
+char* XmlUtf8DecodeTo(char* destination, int32_t size, const char* source, bool* valid) {
+  *valid = true;
   char* const end = destination + std::max(size, 0);
-  while (destination != end && *source != '\0') {
-    if (ByteAt(source, 0) < 0x80) {
-      *destination++ = *source++;
+  while (destination != end) {
+    // ASCII, by far the most: as signed bytes its characters are the positive ones, the closing zero apart.
+    const auto byte = static_cast<int8_t>(*source);
+    if (byte > 0) {
+      *destination++ = static_cast<char>(byte);
+      ++source;
       continue;
     }
+    if (byte == 0) break;
     int32_t codePoint = 0;
     const int32_t length = XmlUtf8DecodeChar(&codePoint, source);
     *destination++ = length > 0 ? CodeOrQuestionMark(codePoint) : '?';
-    if (length == 0) valid = false;
+    if (length == 0) *valid = false;
     source += XmlUtf8Step(source, length);
   }
   *destination = '\0';
+  return destination;
+}
+
+bool XmlUtf8DecodeString(char* destination, int32_t size, const char* source) {
+  bool valid = true;
+  XmlUtf8DecodeTo(destination, size, source, &valid);
   return valid;
 }
 

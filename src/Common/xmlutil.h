@@ -30,6 +30,10 @@ int32_t XmlUtf8StrLen(const char* text);
 // such a byte was met.
 bool XmlUtf8DecodeString(char* destination, int32_t size, const char* source);
 
+// The same for a caller that goes on behind the text: gives the closing zero's address, and the result in
+// `valid`.
+char* XmlUtf8DecodeTo(char* destination, int32_t size, const char* source, bool* valid);
+
 // Escapes 8-bit text for XML: markup characters and both quotes as entities, bytes from 0x80 on as character
 // references, of the Roman character's code point with `mapToUnicode` and of the byte's own value without,
 // control characters other than tab and line ends as spaces. Gives the length of the result, or -1 when it

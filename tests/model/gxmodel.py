@@ -7,28 +7,27 @@ from __future__ import annotations
 
 import math
 import re
-from collections.abc import Callable, Iterator
-from dataclasses import dataclass, field
+from collections.abc import Iterable, Iterator, Sequence
+from dataclasses import dataclass
+from typing import NamedTuple
 from xml.parsers import expat
 
 CHUNK = 4095
-MAX_DEPTH = 40
 TEXT_LIMIT = 199
 LABEL_LIMIT = 200
-INT_MIN, INT_MAX = -2**31, 2**31 - 1
+
+_ROMAN = {bytes([code]).decode("mac_roman"): code for code in range(0x80, 0x100)}
+del _ROMAN["\uf8ff"], _ROMAN["\u03a9"]         # 0xF0 stands for nothing, 0xBD for the ohm sign
+_ROMAN |= {"\u2126": 0xBD, "\u20ac": 0xDB}
+
+_INTEGER = re.compile(rb"[ \t-\r]*([+-]?[0-9]+)")
+_REAL = re.compile(
+    rb"[ \t-\r]*(?P<sign>[+-]?)(?:(?P<hex>0x(?:[0-9a-f]+\.?[0-9a-f]*|\.[0-9a-f]+)(?:p[+-]?[0-9]+)?)"
+    rb"|(?P<plain>nan|inf|(?:[0-9]+\.?[0-9]*|\.[0-9]+)(?:e[+-]?[0-9]+)?))", re.IGNORECASE)
 
 
 class Unreadable(Exception):
     """The class file is malformed, or is no class file."""
-
-
-# ---------------------------------------------------------------- 8-bit text and numbers
-
-_ROMAN = {bytes([code]).decode("mac_roman"): code for code in range(0x80, 0x100)}
-del _ROMAN["\uf8ff"]          # 0xF0 stands for nothing
-del _ROMAN["\u03a9"]          # 0xBD is the ohm sign, not the letter
-_ROMAN["\u2126"] = 0xBD
-_ROMAN["\u20ac"] = 0xDB
 
 
 def to_8bit(text: str) -> bytes:
@@ -41,15 +40,8 @@ def clean(text: str, limit: int) -> bytes:
     return bytes(max(byte, 0x20) for byte in cut).rstrip(b" ")
 
 
-_INTEGER = re.compile(rb"[ \t-\r]*([+-]?[0-9]+)")
-_REAL = re.compile(
-    rb"[ \t-\r]*(?P<sign>[+-]?)(?:(?P<nan>nan)|(?P<inf>inf)"
-    rb"|(?P<hex>0x(?:[0-9a-f]+\.?[0-9a-f]*|\.[0-9a-f]+)(?:p[+-]?[0-9]+)?)"
-    rb"|(?P<dec>(?:[0-9]+\.?[0-9]*|\.[0-9]+)(?:e[+-]?[0-9]+)?))", re.IGNORECASE)
-
-
 def clamp(value: int) -> int:
-    return max(INT_MIN, min(INT_MAX, value))
+    return max(-2**31, min(2**31 - 1, value))
 
 
 def to_int(text: bytes) -> int:
@@ -57,24 +49,15 @@ def to_int(text: bytes) -> int:
     return clamp(int(match[1])) if match else 0
 
 
-def _magnitude(match: re.Match[bytes]) -> float:
-    if match["nan"]:
-        return math.nan
-    if match["inf"]:
-        return math.inf
-    if match["dec"]:
-        return float(match["dec"])
-    try:
-        return float.fromhex(match["hex"].decode())
-    except OverflowError:
-        return math.inf
-
-
 def to_double(text: bytes) -> float:
     match = _REAL.match(text)
     if not match:
         return 0.0
-    return math.copysign(_magnitude(match), -1.0 if match["sign"] == b"-" else 1.0)
+    try:
+        value = float.fromhex(match["hex"].decode()) if match["hex"] else float(match["plain"])
+    except OverflowError:
+        value = math.inf
+    return math.copysign(value, -1.0 if match["sign"] == b"-" else 1.0)
 
 
 def g(value: float) -> bytes:
@@ -83,55 +66,49 @@ def g(value: float) -> bytes:
     return b"%g" % value
 
 
-# ---------------------------------------------------------------- the document
+def add(values: Iterable[float]) -> float:
+    """One after the other from 0.0: sum() is free to add more exactly. The first NaN stays."""
+    total = 0.0
+    for value in values:
+        total = total if math.isnan(total) else total + value
+    return total
+
 
 def _leaves(names: str) -> dict:
     return {name: {} for name in names.split()}
 
 
-_RESPONSE = _leaves("text points-earned")
-_RESULTS = _leaves("num-attempts start-date end-date") | {"response-list": {"response": _RESPONSE}}
-_QUESTION = _leaves("num-choices answer reference learning-objective national-standard "
-                    "local-standard state-standard points-possible response-grid")
-_ASSIGNMENT = _leaves("assignment-name assignment-id category online-id term assignment-date "
-                      "delivery-method test-file points-possible") | {
-    "question-list": {"question": _QUESTION}, "results-list": {"results": _RESULTS}}
-_STUDENT = _leaves("first-name last-name student-id alias password gender date-of-birth "
-                   "grade-level sociological race other custom-1 custom-2 custom-3 pad-id")
-_PREFERENCES = _leaves("student-sort assignment-sort display-score show-term show-nclb default-term "
-                       "default-grade-level category-name custom-1 custom-2 custom-3")
-_CLASS = _leaves("class-name class-id period section instructor-name instructor-id "
-                 "school-name school-id city state") | {
-    "preferences": _PREFERENCES,
-    "student-list": {"student": _STUDENT},
-    "assignment-list": {"assignment": _ASSIGNMENT}}
-SCHEMA = {"class": _CLASS}    # a leaf, {}, keeps its text; anything else is a container
+# What is read; all other elements, known or not, have the same effect: none.
+# A leaf, {}, keeps its text and holds no element; anything else is a container.
+_STUDENT = _leaves("first-name last-name student-id alias password gender date-of-birth grade-level "
+                   "sociological race other custom-1 custom-2 custom-3 pad-id")
+_RESULTS = {"response-list": {"response": _leaves("text points-earned")}}
+_ASSIGNMENT = _leaves("assignment-name points-possible") | {
+    "question-list": {"question": _leaves("answer points-possible")},
+    "results-list": {"results": _RESULTS}}
+SCHEMA = {"class": {"preferences": _leaves("custom-1 custom-2 custom-3"),
+                    "student-list": {"student": _STUDENT},
+                    "assignment-list": {"assignment": _ASSIGNMENT}}}
 
 # The only encodings the parser knows by itself; Python's binding would quietly add more.
 _ENCODINGS = {"utf-8", "utf-16", "utf-16be", "utf-16le", "iso-8859-1", "us-ascii"}
 
 
-@dataclass
 class Node:
-    name: str
-    attributes: list[tuple[str, str]]
-    children: list[Node] = field(default_factory=list)
-    pieces: list[str] = field(default_factory=list)
-
-    def first(self, name: str) -> Node | None:
-        return next(self.all(name), None)
+    def __init__(self, name: str, attributes: Iterable[tuple[str, str]] = ()) -> None:
+        self.name, self.attributes = name, list(attributes)
+        self.children: list[Node] = []
+        self.pieces: list[str] = []
 
     def all(self, name: str) -> Iterator[Node]:
         return (child for child in self.children if child.name == name)
 
-    def items(self, list_name: str, item_name: str) -> Iterator[Node]:
-        """The items of the first such list; a list that is not there is empty."""
-        holder = self.first(list_name)
-        return holder.all(item_name) if holder else iter(())
+    def first(self, name: str) -> Node:
+        """What is not there is as good as empty."""
+        return next(self.all(name), Node(name))
 
     def text(self, name: str, limit: int = TEXT_LIMIT) -> bytes:
-        child = self.first(name)
-        return clean("".join(child.pieces), limit) if child else b""
+        return clean("".join(self.first(name).pieces), limit)
 
     def number(self, attribute: str) -> int:
         values = (value for name, value in self.attributes if name == attribute)
@@ -143,127 +120,82 @@ def _local(name: str) -> str:
 
 
 class _Builder:
-    """Keeps the known elements; everything below an unknown one is dropped."""
+    """Keeps the elements that are read, seven deep at most, and drops all others with what they hold."""
 
     def __init__(self) -> None:
-        self.root: Node | None = None
-        self.open: list[tuple[Node, dict] | None] = []   # None: unknown or too deep
-        parser = expat.ParserCreate(namespace_separator="#")
-        parser.ordered_attributes = True
-        parser.StartElementHandler = self.start
-        parser.EndElementHandler = lambda _: self.open.pop()
-        parser.CharacterDataHandler = self.characters
-        parser.XmlDeclHandler = self.declaration
-        self.parser = parser
+        self.top = Node("")
+        self.open: list[tuple[Node, dict] | None] = [(self.top, SCHEMA)]    # None: dropped
+        self.parser = expat.ParserCreate(namespace_separator="#")
+        self.parser.ordered_attributes = True
+        self.parser.StartElementHandler = self.start
+        self.parser.EndElementHandler = lambda _: self.open.pop()
+        self.parser.CharacterDataHandler = self.characters
+        self.parser.XmlDeclHandler = self.declaration
 
     def declaration(self, _version: str, encoding: str | None, _standalone: int) -> None:
         if encoding and encoding.lower() not in _ENCODINGS:
             raise Unreadable(f"encoding {encoding}")
 
     def start(self, name: str, attributes: list[str]) -> None:
-        holder = self.open[-1] if self.open else (None, SCHEMA)
+        holder = self.open[-1]
         known = holder[1].get(_local(name)) if holder else None
-        if not self.open and known is None:
+        if known is None and len(self.open) == 1:
             raise Unreadable("not a class")
-        if known is None or len(self.open) >= MAX_DEPTH:
+        if known is None:
             self.open.append(None)
             return
-        names = [_local(attribute) for attribute in attributes[::2]]
-        node = Node(_local(name), list(zip(names, attributes[1::2])))
-        if holder[0]:
-            holder[0].children.append(node)
-        else:
-            self.root = node
+        node = Node(_local(name), zip(map(_local, attributes[::2]), attributes[1::2]))
+        holder[0].children.append(node)
         self.open.append((node, known))
 
     def characters(self, text: str) -> None:
-        if self.open and self.open[-1]:
-            node, children = self.open[-1]
-            if not children:
-                node.pieces.append(text)
-
-
-def _chunks(data: bytes) -> Iterator[tuple[bytes, bool]]:
-    """A zero byte hides the rest of its chunk; only a short read is the last one."""
-    for start in range(0, len(data) + 1, CHUNK):
-        chunk = data[start:start + CHUNK]
-        yield chunk.partition(b"\0")[0], len(chunk) < CHUNK
+        if self.open[-1] and not self.open[-1][1]:
+            self.open[-1][0].pieces.append(text)
 
 
 def parse(data: bytes) -> Node:
+    """In chunks, of which a zero byte hides the rest; only a short one is the last."""
     builder = _Builder()
     try:
-        for chunk, final in _chunks(data):
-            builder.parser.Parse(chunk, final)
+        for start in range(0, len(data) + 1, CHUNK):
+            chunk = data[start:start + CHUNK]
+            builder.parser.Parse(chunk.partition(b"\0")[0], len(chunk) < CHUNK)
     except expat.ExpatError as error:
         raise Unreadable(str(error)) from error
-    assert builder.root
-    return builder.root
+    return builder.top.first("class")
 
 
-# ---------------------------------------------------------------- records
-
-@dataclass
-class Student:
+class Student(NamedTuple):
     id: int
     texts: dict[str, bytes]
 
 
-@dataclass
-class Response:
+class Item(NamedTuple):
+    """A question with its answer and the points possible, or a response with the points earned."""
     key: tuple[int, int]
     text: bytes
     points: float
 
 
-@dataclass
-class Results:
-    student: int
-    responses: list[Response]
-
-    def total(self) -> float:
-        return add(response.points for response in self.responses)
-
-    def response(self, question: Question) -> Response | None:
-        return next((r for r in self.responses if r.key == question.key), None)
-
-
-@dataclass
-class Question:
-    key: tuple[int, int]
-    answer: bytes
-    points: float
-
-
-@dataclass
-class Assignment:
+class Assignment(NamedTuple):
     id: int
     name: bytes
     points: int
-    questions: list[Question]
-    results: list[Results]
+    questions: list[Item]
+    results: list[tuple[int, list[Item]]]    # a student's id and his responses
 
-    def of(self, student: Student) -> Results | None:
-        return next((r for r in self.results if r.student == student.id), None)
+    def of(self, student: Student) -> list[Item] | None:
+        return next((responses for number, responses in self.results if number == student.id), None)
+
+    def total(self, student: Student) -> float | None:
+        found = self.of(student)
+        return None if found is None else add(response.points for response in found)
 
 
-@dataclass
-class ClassRecord:
+class ClassRecord(NamedTuple):
     labels: list[bytes]
     students: list[Student]
     assignments: list[Assignment]
-
-
-def add(values: Iterator[float]) -> float:
-    """One after the other from 0.0: sum() is free to add more exactly."""
-    total = 0.0
-    for value in values:
-        total = total + value
-    return total
-
-
-def _key(node: Node) -> tuple[int, int]:
-    return node.number("question-id"), node.number("bank-id")
 
 
 def _student(node: Node) -> Student:
@@ -272,18 +204,19 @@ def _student(node: Node) -> Student:
     return Student(node.number("id"), texts)
 
 
-def _results(node: Node) -> Results:
-    return Results(node.number("id"), [
-        Response(_key(r), r.text("text"), to_double(r.text("points-earned")))
-        for r in node.items("response-list", "response")])
+def _item(node: Node, text: str, points: str) -> Item:
+    key = node.number("question-id"), node.number("bank-id")
+    return Item(key, node.text(text), to_double(node.text(points)))
 
 
 def _assignment(node: Node) -> Assignment:
-    questions = [Question(_key(q), q.text("answer"), to_double(q.text("points-possible")))
-                 for q in node.items("question-list", "question")]
+    questions = [_item(question, "answer", "points-possible")
+                 for question in node.first("question-list").all("question")]
+    results = [(results.number("id"), [_item(response, "text", "points-earned") for response
+                                       in results.first("response-list").all("response")])
+               for results in node.first("results-list").all("results")]
     return Assignment(node.number("id"), node.text("assignment-name"),
-                      to_int(node.text("points-possible")), questions,
-                      [_results(r) for r in node.items("results-list", "results")])
+                      to_int(node.text("points-possible")), questions, results)
 
 
 def read_class(data: bytes) -> ClassRecord:
@@ -298,14 +231,12 @@ def read_class(data: bytes) -> ClassRecord:
     return ClassRecord(labels, students, assignments)
 
 
-# ---------------------------------------------------------------- gradebook formats
-
 @dataclass
 class Options:
     user_field: str | None = None            # none: the field preselected for the format
     assignments: list[int] | None = None     # none: all
     quotes: bool = True
-    fields: list[str] = field(default_factory=lambda: ["first-name", "last-name", "student-id"])
+    fields: Sequence[str] = ("first-name", "last-name", "student-id")
     responses: bool = True
     points: bool = False
     answer_key: bool = False
@@ -313,131 +244,71 @@ class Options:
     asterisks: bool = True
 
 
-@dataclass
-class Person:
-    first: bytes
-    last: bytes
-    user: bytes
-    student_id: bytes
-    totals: list[float | None]               # one per selected assignment
-
-    def cells(self, missing: bytes, around: bytes = b"") -> bytes:
-        texts = (missing if t is None else g(t) for t in self.totals)
-        return b"".join(b"," + around + text + around for text in texts)
-
-    def running(self) -> bytes:
-        return g(add(t for t in self.totals if t is not None))
+class Gradebook(NamedTuple):
+    user_field: str                          # the one preselected
+    header: bytes
+    title: bytes                             # once per assignment
+    header_end: bytes
+    row: bytes
+    row_end: bytes = b""
+    score: bytes = b",%b"                    # once per assignment
+    missing: bytes = b""
 
 
-Writer = Callable[[list[Assignment], list[Person], bool], Iterator[bytes]]
+_PTS = b"%(name)b [Pts: %(points)d Weight:: 0%% Category:: Quiz]"
+_BLACKBOARD8 = Gradebook(
+    "alias", b'"Last Name","First Name","Username","Student ID","Last Access","Availability"'
+    b',"Weighted Total"', b',"' + _PTS + b'"', b',"Running Total [Pts: %(sum)d]"',
+    b'"%(last-name)b","%(first-name)b","%(user)b","%(student-id)b","","Yes","Not Applicable"',
+    b',"%(running)b"', b',"%b"', b"-")
+GRADEBOOKS = {
+    "webct": Gradebook("alias", b"Last Name,First Name,User ID,Role", b',"%(name)b"', b"",
+                       b'"%(last-name)b","%(first-name)b","%(user)b",Student', missing=b" "),
+    "blackboard6": Gradebook(
+        "alias", b'"Last Name, First Name (User Name) | Student Id"', b',"' + _PTS + b'"',
+        b',"Running Total [Pts: %(sum)d]","Running Weighted Total"',
+        b'"%(last-name)b, %(first-name)b (%(user)b) | "', b',"%(running)b","Not Applicable"',
+        b',"%b"', b"-"),
+    "angel": Gradebook("alias", b"Name,User ID", b',"%(name)b"', b"",
+                       b'"%(last-name)b, %(first-name)b",%(user)b'),
+    "blackboard8": _BLACKBOARD8,
+    "blackboard91": _BLACKBOARD8._replace(user_field="student-id"),
+    "canvas": Gradebook("student-id", b"Student,ID,Section", b",%(name)b",
+                        b"\nPoints Possible,,%(all points)b",
+                        b'"%(first-name)b %(last-name)b",%(user)b,'),
+    "d2l": Gradebook("custom-1", b"OrgDefinedId", b", %(name)b Points Grade",
+                     b", End-of-Line Indicator", b"%(user)b", b",#"),
+    "moodle": Gradebook("custom-1", b"User ID", b",%(name)b", b"", b"%(user)b"),
+    "schoology": Gradebook("student-id", b"User Unique ID", b",%(name)b", b"", b"%(user)b"),
+    "sakai": Gradebook("student-id", b"Student ID,Student Name", b",%(name)b [%(points)d]", b"",
+                       b'%(user)b,"%(last-name)b %(first-name)b"'),
+}
 
 
 def safe(text: bytes) -> bytes:
     return text.replace(b'"', b"'")
 
 
-def _titles(chosen: list[Assignment], shape: bytes) -> bytes:
-    """`shape` once per assignment: %(name)b and %(points)d stand for its own."""
-    return b"".join(shape % {b"name": safe(a.name), b"points": a.points} for a in chosen)
-
-
-def _points_sum(chosen: list[Assignment]) -> bytes:
-    return b"Running Total [Pts: %d]" % clamp(sum(a.points for a in chosen))
-
-
-def _webct(chosen: list[Assignment], people: list[Person], _: bool) -> Iterator[bytes]:
-    yield b"Last Name,First Name,User ID,Role" + _titles(chosen, b',"%(name)b"')
-    for p in people:
-        yield b'"%b","%b","%b",Student' % (p.last, p.first, p.user) + p.cells(b" ")
-
-
-_BLACKBOARD_TITLE = b"%(name)b [Pts: %(points)d Weight:: 0%% Category:: Quiz]"
-
-
-def _blackboard6(chosen: list[Assignment], people: list[Person], _: bool) -> Iterator[bytes]:
-    yield (b'"Last Name, First Name (User Name) | Student Id"'
-           + _titles(chosen, b',"' + _BLACKBOARD_TITLE + b'"')
-           + b',"%b","Running Weighted Total"' % _points_sum(chosen))
-    for p in people:
-        yield (b'"%b, %b (%b) | "' % (p.last, p.first, p.user) + p.cells(b"-", b'"')
-               + b',"%b","Not Applicable"' % p.running())
-
-
-def _blackboard8(chosen: list[Assignment], people: list[Person], quotes: bool) -> Iterator[bytes]:
-    q = b'"' if quotes else b""
-
-    def row(*cells: bytes) -> bytes:
-        return b",".join(q + cell + q for cell in cells)
-
-    yield (row(b"Last Name", b"First Name", b"Username", b"Student ID", b"Last Access",
-               b"Availability", b"Weighted Total")
-           + _titles(chosen, b"," + q + _BLACKBOARD_TITLE + q) + b"," + row(_points_sum(chosen)))
-    for p in people:
-        yield (row(p.last, p.first, p.user, p.student_id, b"", b"Yes", b"Not Applicable")
-               + p.cells(b"-", q) + b"," + row(p.running()))
-
-
-def _angel(chosen: list[Assignment], people: list[Person], _: bool) -> Iterator[bytes]:
-    def cell(assignment: Assignment, total: float | None) -> bytes:
+def _gradebook(book: Gradebook, chosen: list[Assignment], students: list[Student], user_field: str,
+               percent: bool) -> Iterator[bytes]:
+    def score(assignment: Assignment, total: float | None) -> bytes:
         if total is None:
-            return b","
-        return b"," + (g(100 * total / assignment.points) if assignment.points > 0 else b"0")
+            return book.score % book.missing
+        if percent:
+            total = 100 * total / assignment.points if assignment.points > 0 else 0.0
+        return book.score % g(total)
 
-    yield b"Name,User ID" + _titles(chosen, b',"%(name)b"')
-    for p in people:
-        yield b'"%b, %b",%b' % (p.last, p.first, p.user) + b"".join(map(cell, chosen, p.totals))
+    sums = {b"sum": clamp(sum(a.points for a in chosen)),
+            b"all points": b"".join(b"," + g(float(a.points)) for a in chosen)}
+    titles = (book.title % {b"name": safe(a.name), b"points": a.points} for a in chosen)
+    yield book.header + b"".join(titles) + book.header_end % sums
+    for student in students:
+        totals = [assignment.total(student) for assignment in chosen]
+        values = {name.encode(): safe(text) for name, text in student.texts.items()} | {
+            b"user": safe(student.texts[user_field]),
+            b"running": g(add(t for t in totals if t is not None))}
+        yield book.row % values + b"".join(map(score, chosen, totals)) + book.row_end % values
 
-
-def _canvas(chosen: list[Assignment], people: list[Person], _: bool) -> Iterator[bytes]:
-    yield b"Student,ID,Section" + _titles(chosen, b",%(name)b")
-    yield b"Points Possible,," + b"".join(b"," + g(float(a.points)) for a in chosen)
-    for p in people:
-        yield b'"%b %b",%b,' % (p.first, p.last, p.user) + p.cells(b"")
-
-
-def _d2l(chosen: list[Assignment], people: list[Person], _: bool) -> Iterator[bytes]:
-    yield (b"OrgDefinedId" + _titles(chosen, b", %(name)b Points Grade")
-           + b", End-of-Line Indicator")
-    for p in people:
-        yield p.user + p.cells(b"") + b",#"
-
-
-def _one_id(first_cell: bytes) -> Writer:
-    def write(chosen: list[Assignment], people: list[Person], _: bool) -> Iterator[bytes]:
-        yield first_cell + _titles(chosen, b",%(name)b")
-        for p in people:
-            yield p.user + p.cells(b"")
-    return write
-
-
-def _sakai(chosen: list[Assignment], people: list[Person], _: bool) -> Iterator[bytes]:
-    yield b"Student ID,Student Name" + _titles(chosen, b",%(name)b [%(points)d]")
-    for p in people:
-        yield b'%b,"%b %b"' % (p.user, p.last, p.first) + p.cells(b"")
-
-
-GRADEBOOKS: dict[str, tuple[Writer, str]] = {     # with the preselected user field
-    "webct": (_webct, "alias"),
-    "blackboard6": (_blackboard6, "alias"),
-    "angel": (_angel, "alias"),
-    "blackboard8": (_blackboard8, "alias"),
-    "blackboard91": (_blackboard8, "student-id"),
-    "canvas": (_canvas, "student-id"),
-    "d2l": (_d2l, "custom-1"),
-    "moodle": (_one_id(b"User ID"), "custom-1"),
-    "schoology": (_one_id(b"User Unique ID"), "student-id"),
-    "sakai": (_sakai, "student-id"),
-}
-
-
-def _person(student: Student, user_field: str, chosen: list[Assignment]) -> Person:
-    found = [assignment.of(student) for assignment in chosen]
-    first, last, user, student_id = (
-        safe(student.texts[name]) for name in ("first-name", "last-name", user_field, "student-id"))
-    return Person(first, last, user, student_id, [r.total() if r else None for r in found])
-
-
-# ---------------------------------------------------------------- detailed report
 
 REPORT_FIELDS = {
     "first-name": b"First name", "last-name": b"Last name", "student-id": b"Student ID",
@@ -448,49 +319,43 @@ REPORT_FIELDS = {
 }
 
 
-def _quoted(text: bytes, always: bool = False) -> bytes:
-    return b'"' + safe(text) + b'"' if text or always else b""
+def _quoted(text: bytes) -> bytes:
+    return b'"' + safe(text) + b'"'
 
 
-def _question_cells(response: Response | None, question: Question, options: Options) -> list[bytes]:
-    cells = []
-    if options.responses:
-        star = options.asterisks and response and response.points > question.points - 0.001
-        cells.append(_quoted((b"*" if star else b"") + response.text, True) if response else b"")
-    if options.points:
-        cells.append(g(response.points) if response else b"")
-    return cells
+def _pair(options: Options, text: bytes, points: bytes) -> list[bytes]:
+    """A question's cells, as far as its columns are wanted."""
+    return [text] * options.responses + [points] * options.points
 
 
-def _key_cells(question: Question, options: Options) -> list[bytes]:
-    cells = []
-    if options.responses:
-        cells.append(_quoted(question.answer, True) if options.answer_key else b"")
-    if options.points:
-        cells.append(g(question.points) if options.points_possible else b"")
-    return cells
+def _answered(options: Options, question: Item, response: Item | None) -> list[bytes]:
+    if not response:
+        return _pair(options, b"", b"")
+    star = b"*" if options.asterisks and response.points > question.points - 0.001 else b""
+    return _pair(options, _quoted(star + response.text), g(response.points))
 
 
 def _detailed(record: ClassRecord, report: Assignment, options: Options) -> Iterator[list[bytes]]:
     names = [name for name in REPORT_FIELDS if name in options.fields]
     headers = REPORT_FIELDS | {f"custom-{i + 1}": label for i, label in enumerate(record.labels)}
     line = [_quoted(headers[name]) for name in names]
-    if options.responses or options.points:
-        for position in range(1, len(report.questions) + 1):
-            line.append(b"%d" % position)
-            if options.responses and options.points:
-                line.append(b"")
+    for position in range(1, len(report.questions) + 1):
+        line += [b"%d" % position, b""][:options.responses + options.points]
     yield line
 
     if (options.responses and options.answer_key) or (options.points and options.points_possible):
-        yield [b""] * len(names) + sum((_key_cells(q, options) for q in report.questions), [])
+        line = [b""] * len(names)
+        for question in report.questions:
+            line += _pair(options, _quoted(question.text) if options.answer_key else b"",
+                          g(question.points) if options.points_possible else b"")
+        yield line
 
     for student in record.students:
-        line = [_quoted(student.texts[name]) for name in names]
-        results = report.of(student)
+        line = [student.texts[name] and _quoted(student.texts[name]) for name in names]
+        responses = report.of(student) or []
         for question in report.questions:
-            response = results.response(question) if results else None
-            line += _question_cells(response, question, options)
+            first = next((r for r in responses if r.key == question.key), None)
+            line += _answered(options, question, first)
         yield line
 
 
@@ -500,8 +365,10 @@ def export(record: ClassRecord, key: str, options: Options) -> bytes:
     if key == "detailed":
         lines = (b",".join(line) for line in _detailed(record, chosen[0], options))
     else:
-        writer, preselected = GRADEBOOKS[key]
-        user_field = options.user_field or preselected
-        people = [_person(s, user_field, chosen) for s in record.students]
-        lines = writer(chosen, people, options.quotes)
+        book = GRADEBOOKS[key]
+        user_field = options.user_field or book.user_field
+        if not options.quotes and key in ("blackboard8", "blackboard91"):
+            book = book._replace(**{part: getattr(book, part).replace(b'"', b"")
+                                    for part in book._fields[1:]})
+        lines = _gradebook(book, chosen, record.students, user_field, key == "angel")
     return b"".join(line + b"\n" for line in lines)

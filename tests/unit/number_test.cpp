@@ -15,108 +15,31 @@
 
 namespace {
 
+constexpr int32_t kMax = std::numeric_limits<int32_t>::max();
+constexpr int32_t kMin = std::numeric_limits<int32_t>::min();
+
 const char* const kTexts[] = {
-    "",
-    " ",
-    "0",
-    "-0",
-    "+3",
-    "-3.25",
-    ".5",
-    "-.5",
-    "5.",
-    ".",
-    "-",
-    "+",
-    "+-3",
-    "-+3",
-    "++3",
-    " 7",
-    "\t\n7",
-    "\v\f\r8",
-    "\xA0"
-    "9",
-    "1e2",
-    "1E+2",
-    "1e-2",
-    "1e",
-    "1e+",
-    "1ex",
-    "2,5",
-    "2.5,5",
-    "abc",
-    "7abc",
-    "1_000",
-    "1e400",
-    "-1e400",
-    "1e-400",
-    "-1e-400",
-    "4.9e-324",
-    "2e-324",
-    "1.7976931348623159e308",
-    "2.2250738585072011e-308",
-    "0x10",
-    "0X1.8p3",
-    "-0x1p-2",
-    "0x",
-    "+0x1",
-    "0x.8",
-    "inf",
-    "-INFINITY",
-    "+inf",
-    "infx",
-    "nan",
-    "-nan",
-    "NAN(1)",
-    "nan(",
-    "1 2",
-    "- 5",
-    "0.1",
-    "9007199254740993",
-    "123456789012345678901234567890",
-    "0.000000000000000000000000000001234",
-};
+    // ordinary numbers, signs and blanks
+    "0", "-0", "+3", "-3.25", ".5", "-.5", "5.", " 7", "\t\n7", "\v\f\r8", "1e2", "1E+2", "1e-2", "0.1",
+    // no number, or something behind it
+    "", " ", ".", "-", "+", "+-3", "-+3", "++3", "- 5", "\2409", "abc", "7abc", "1 2", "2,5", "2.5,5", "1e",
+    "1e+", "1ex", "1_000",
+    // at and beyond the limits
+    "1e400", "-1e400", "1e-400", "-1e-400", "4.9e-324", "2e-324", "1.7976931348623159e308",
+    "2.2250738585072011e-308", "9007199254740993", "123456789012345678901234567890",
+    // other notations
+    "0x10", "0X1.8p3", "-0x1p-2", "0x", "+0x1", "0x.8", "inf", "-INFINITY", "+inf", "infx", "nan", "-nan",
+    "NAN(1)", "nan("};
 
 std::vector<double> SomeDoubles() {
-  std::vector<double> values = {0.0,
-                                -0.0,
-                                1.0,
-                                -1.0,
-                                2.5,
-                                0.1,
-                                99.99995,
-                                999999.5,
-                                1e6,
-                                123456.5,
-                                1e-4,
-                                9.9999995e-5,
-                                1e100,
-                                1.0 / 3.0,
-                                DBL_MAX,
-                                -DBL_MAX,
-                                DBL_MIN,
-                                DBL_TRUE_MIN,
-                                -DBL_TRUE_MIN,
-                                std::numeric_limits<double>::infinity(),
-                                -std::numeric_limits<double>::infinity(),
-                                std::nan(""),
-                                -std::nan("")};
+  constexpr double kInfinity = std::numeric_limits<double>::infinity();
+  std::vector<double> values = {0.0, -0.0, 2.5,          -0.1,    99.99995, 999999.5,
+                                1e6, 1e-4, 9.9999995e-5, DBL_MAX, DBL_MIN};
+  values.insert(values.end(), {-DBL_TRUE_MIN, kInfinity, -kInfinity, std::nan(""), -std::nan("")});
   std::mt19937_64 random(20160501);
   for (int i = 0; i < 2000; ++i) values.push_back(std::bit_cast<double>(random()));
   for (int i = 0; i < 2000; ++i) values.push_back(static_cast<double>(random() % 2000001) / 1000.0 - 1000.0);
   return values;
-}
-
-std::string General(double value) {
-  char buffer[32];
-  const size_t length = FormatGeneral(buffer, value);
-  return {buffer, length};
-}
-
-std::string Fixed(double value, int32_t decimals) {
-  char buffer[kFixedTextSize];
-  const size_t length = FormatFixed(buffer, value, decimals);
-  return {buffer, length};
 }
 
 std::string Printed(const char* format, int decimals, double value) {
@@ -125,41 +48,50 @@ std::string Printed(const char* format, int decimals, double value) {
   return buffer;
 }
 
-bool Identical(double a, double b) {
-  return (std::isnan(a) && std::isnan(b) && std::signbit(a) == std::signbit(b)) ||
-         std::bit_cast<uint64_t>(a) == std::bit_cast<uint64_t>(b);
+std::string Fixed(double value, int32_t decimals) {
+  char buffer[kFixedTextSize];
+  const size_t length = FormatFixed(buffer, value, decimals);
+  return {buffer, length};
 }
 
 // What the C library answers in the C locale, collected before the locale changes.
-struct Reference {
-  std::vector<double> doubles = SomeDoubles();
-  std::vector<double> parsed;
-  std::vector<std::string> general;
-  std::vector<std::string> fixed;
-
+class Reference {
+ public:
   Reference() {
-    for (const char* text : kTexts) parsed.push_back(std::strtod(text, nullptr));
-    for (const double value : doubles) {
-      general.push_back(Printed("%.*g", 6, value));
-      fixed.push_back(Printed("%.*f", 3, value));
+    for (const char* text : kTexts) m_parsed.push_back(std::strtod(text, nullptr));
+    for (const double value : m_doubles) {
+      m_general.push_back(Printed("%.*g", 6, value));
+      m_fixed.push_back(Printed("%.*f", 3, value));
     }
   }
 
   void Check() const {
-    for (size_t i = 0; i < parsed.size(); ++i) {
-      EXPECT_TRUE(Identical(ParseDouble(kTexts[i]), parsed[i])) << '"' << kTexts[i] << '"';
+    for (size_t i = 0; i < m_parsed.size(); ++i) {
+      const double parsed = ParseDouble(kTexts[i]);
+      EXPECT_EQ(std::signbit(parsed), std::signbit(m_parsed[i])) << '"' << kTexts[i] << '"';
+      EXPECT_TRUE(parsed == m_parsed[i] || (std::isnan(parsed) && std::isnan(m_parsed[i]))) << kTexts[i];
     }
-    for (size_t i = 0; i < doubles.size(); ++i) {
-      EXPECT_EQ(General(doubles[i]), general[i]);
-      EXPECT_EQ(Fixed(doubles[i], 3), fixed[i]);
+    for (size_t i = 0; i < m_doubles.size(); ++i) {
+      char general[32];
+      EXPECT_EQ(FormatGeneral(general, m_doubles[i]), m_general[i].size());
+      EXPECT_EQ(general, m_general[i]);
+      EXPECT_EQ(Fixed(m_doubles[i], 3), m_fixed[i]);
     }
   }
+
+ private:
+  std::vector<double> m_doubles = SomeDoubles();
+  std::vector<double> m_parsed;
+  std::vector<std::string> m_general;
+  std::vector<std::string> m_fixed;
 };
 
-TEST(Number, AgreesWithTheCLibraryInAnyLocale) {
-  const Reference reference;
-  reference.Check();
+TEST(Number, AgreesWithTheCLibrary) {
+  Reference().Check();
+}
 
+TEST(Number, DoesNotFollowTheLocale) {
+  const Reference reference;
   for (const char* locale : {"de_DE.UTF-8", "de_DE.utf8", "de_DE"}) {
     if (std::setlocale(LC_ALL, locale) == nullptr) continue;
     EXPECT_EQ(Printed("%.*f", 1, 2.5), "2,5");
@@ -171,11 +103,11 @@ TEST(Number, AgreesWithTheCLibraryInAnyLocale) {
 }
 
 TEST(Number, FixedTakesAnyNumberOfDecimals) {
-  for (const double value : {0.1, -2.5, DBL_MAX, -DBL_MAX, DBL_TRUE_MIN, -std::nan("")}) {
-    for (const int32_t decimals : {0, 1, 17, 400, 1074, -1}) {
+  for (const double value : {0.1, -2.5, -DBL_MAX, DBL_TRUE_MIN, -std::nan("")}) {
+    for (const int32_t decimals : {0, 17, kMaxDecimals, -1}) {
       EXPECT_EQ(Fixed(value, decimals), Printed("%.*f", decimals, value)) << value << ' ' << decimals;
     }
-    EXPECT_EQ(Fixed(value, std::numeric_limits<int32_t>::max()), Fixed(value, kMaxDecimals));
+    EXPECT_EQ(Fixed(value, kMax), Fixed(value, kMaxDecimals));
   }
   EXPECT_EQ(Fixed(-DBL_MAX, kMaxDecimals).size(), kFixedTextSize - 1);
 }
@@ -187,22 +119,18 @@ TEST(Number, ParsesIntegers) {
   } rows[] = {
       {"", 0},
       {nullptr, 0},
-      {"12", 12},
       {" \t\v\f\r\n-7x", -7},
       {"+3.9", 3},
       {"--3", 0},
       {"+ 3", 0},
       {"0x10", 0},
-      {"007", 7},
-      {"\xA0"
-       "5",
-       0},
-      {"2147483647", std::numeric_limits<int32_t>::max()},
-      {"2147483648", std::numeric_limits<int32_t>::max()},
-      {"-2147483648", std::numeric_limits<int32_t>::min()},
-      {"-2147483649", std::numeric_limits<int32_t>::min()},
-      {"99999999999999999999999999999999", std::numeric_limits<int32_t>::max()},
-      {"-99999999999999999999999999999999", std::numeric_limits<int32_t>::min()},
+      {"\2405", 0},
+      {"2147483647", kMax},
+      {"2147483648", kMax},
+      {"-2147483648", kMin},
+      {"-2147483649", kMin},
+      {"99999999999999999999999999999999", kMax},
+      {"-99999999999999999999999999999999", kMin},
   };
   for (const auto& row : rows) {
     EXPECT_EQ(ParseInt32(row.text), row.value) << (row.text != nullptr ? row.text : "(null)");

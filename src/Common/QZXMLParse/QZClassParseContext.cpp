@@ -126,11 +126,16 @@ _XmlElementListTag* cXmlParserContext::ChildList() const {
   return entry == nullptr ? nullptr : entry->children;
 }
 
+bool cXmlParserContext::IsRepeatedText(const _XmlElementListTag& entry) const {
+  return entry.children == nullptr && XmlTreeFindNode(m_node, entry.elementID) != nullptr;
+}
+
 void cXmlParserContext::Start(const char* name, const char** attributes) {
   const char* localName = _SkipNamespace(name);
   _XmlElementListTag* entry = nullptr;
   if (m_depth < kMaximumDepth) {
     entry = XmlElementFindEntry(ChildList(), localName);
+    if (entry != nullptr && IsRepeatedText(*entry)) entry = nullptr;
     m_path[static_cast<size_t>(m_depth)] = {entry, 0};
   }
   if (m_depth == 0 && entry == nullptr) AddError(kXmlNotAClass, "the document element is not class");

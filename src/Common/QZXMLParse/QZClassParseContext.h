@@ -76,6 +76,10 @@ class cXmlParserContext {
 
   // The list of elements valid inside the innermost open element, or null.
   _XmlElementListTag* ChildList() const;
+  // Whether the open element already holds such a text. Only the first one counts; others are skipped, so
+  // that no element repeated a million times ever fills the memory.
+  bool IsRepeatedText(const _XmlElementListTag& entry) const;
+  // Bytes to read before parsing again.
   size_t ReadSize() const;
   // Reads chunks of the stream into the parser's buffer. Returns the bytes there are to parse.
   int ReadChunks(std::istream& stream, char* buffer, size_t size);

@@ -5,9 +5,9 @@
 #include <iterator>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "Common/QZData/QZClass.h"
-#include "Common/QZData/QZString.h"
 #include "Common/QZData/QuestionTypes.h"
 #include "Common/QZXMLParse/QZClassParseContext.h"
 #include "Common/QZXMLParse/gxml.h"
@@ -19,30 +19,33 @@ namespace {
 constexpr int32_t kMaximumText = 199;   // characters of a field
 constexpr int32_t kMaximumLabel = 200;  // characters of a custom label
 
-// Makes control characters spaces and removes trailing spaces; leading ones stay.
-void _TranslateString(char* text) {
-  for (char* byte = text; *byte != '\0'; ++byte) {
-    if (static_cast<unsigned char>(*byte) < 0x20) *byte = ' ';
+// Makes control characters spaces and removes trailing spaces; leading ones stay. Returns the length.
+size_t _TranslateString(char* text) {
+  size_t length = 0;
+  for (size_t i = 0; text[i] != '\0'; ++i) {
+    if (static_cast<unsigned char>(text[i]) < 0x20) text[i] = ' ';
+    if (text[i] != ' ') length = i + 1;
   }
-  qz::StripSpaces(text, false, true);
+  text[length] = '\0';
+  return length;
 }
 
 // Text of the direct child `id` as Mac OS Roman, at most `size` characters, into a buffer of size + 1 bytes;
-// empty when there is none.
-void _GetElementText(const _XmlTreeTag* node, int32_t id, char* buffer, int32_t size) {
+// empty when there is none. Returns the length.
+size_t _GetElementText(const _XmlTreeTag* node, int32_t id, char* buffer, int32_t size) {
   buffer[0] = '\0';
   const _XmlTreeTag* child = XmlTreeFindNode(node, id);
-  if (child == nullptr) return;
+  if (child == nullptr) return 0;
   XmlTreeGetAllText(child, buffer, size);
-  _TranslateString(buffer);
+  return _TranslateString(buffer);
 }
 
 using ElementText = std::array<char, kMaximumText + 1>;
 
 std::string _GetElementText(const _XmlTreeTag* node, int32_t id) {
   ElementText text;
-  _GetElementText(node, id, text.data(), kMaximumText);
-  return text.data();
+  const size_t length = _GetElementText(node, id, text.data(), kMaximumText);
+  return std::string(text.data(), length);
 }
 
 int32_t _GetElementInt(const _XmlTreeTag* node, int32_t id) {
@@ -53,8 +56,8 @@ int32_t _GetElementInt(const _XmlTreeTag* node, int32_t id) {
 
 double _GetElementDouble(const _XmlTreeTag* node, int32_t id) {
   ElementText text;
-  _GetElementText(node, id, text.data(), kMaximumText);
-  return ParseDouble(text.data());
+  const size_t length = _GetElementText(node, id, text.data(), kMaximumText);
+  return ParseDouble(text.data(), length);
 }
 
 int32_t _GetQuestionType(const char* text) {
@@ -141,12 +144,11 @@ bool _HandleResponse(cXmlParserContext* context) {
   PendingAssignment& pending = context->Pending();
   if (!pending.responseListEnded) {
     const _XmlTreeTag* node = context->Node();
-    qz::ResponseRecord response;
+    qz::ResponseRecord& response = pending.responses.emplace_back();
     response.questionID = XmlTreeGetAttributeInt(node, "question-id");
     response.bankID = XmlTreeGetAttributeInt(node, "bank-id");
     response.text = _GetElementText(node, kElementText);
     response.pointsEarned = _GetElementDouble(node, kElementPointsEarned);
-    pending.responses.push_back(std::move(response));
   }
   return _DeleteElement(context);
 }

@@ -198,7 +198,8 @@ _XmlElementListTag* XmlElementRootList() {
 }
 
 _XmlElementListTag* XmlElementFindEntry(_XmlElementListTag* list, const char* name) {
-  return _FindEntry(list, [name](const List& entry) { return std::strcmp(entry.name, name) == 0; });
+  return _FindEntry(
+      list, [name](const List& entry) { return *entry.name == *name && std::strcmp(entry.name, name) == 0; });
 }
 
 int32_t XmlElementFindElementID(const int32_t* path, int32_t depth, const char* name) {

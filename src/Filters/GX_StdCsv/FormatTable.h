@@ -19,6 +19,7 @@ struct FormatRow {
   int spanishNameID;   // string id of the Spanish name, 0 when there is none
   const char* idName;  // what the learning system calls its user identifier; null: the format has none
   qz::UserIDField defaultUserIDField;  // the student field proposed for it
+  bool hasUnquotedVariant;             // Session::SetUseQuotes(false) has an effect
   std::unique_ptr<Session> (*make)(const QZEXPORTBEGIN* begin);
 };
 

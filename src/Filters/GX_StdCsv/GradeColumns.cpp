@@ -1,7 +1,6 @@
 #include "Filters/GX_StdCsv/GradeColumns.h"
 
 #include <algorithm>
-#include <iterator>
 #include <limits>
 
 namespace {
@@ -17,24 +16,34 @@ RosterIndex::RosterIndex(const std::vector<qz::StudentRecord>& students) : m_ids
   for (const qz::StudentRecord& student : students) m_idNumbers.push_back(m_ids.Add(_Key(student.id)));
 }
 
-std::vector<const qz::ResultsRecord*> RosterIndex::FindResults(const qz::AssignmentRecord& assignment) const {
-  std::vector<const qz::ResultsRecord*> first(m_ids.Count(), nullptr);
+template <typename Value, typename Evaluate>
+std::vector<Value> RosterIndex::Join(const qz::AssignmentRecord& assignment, Evaluate evaluate) const {
+  std::vector<Value> values(m_ids.Count());
   for (const qz::ResultsRecord& results : assignment.results) {
     const size_t number = m_ids.Find(_Key(results.studentID));
-    if (number != KeyIndex<uint64_t>::kNone && first[number] == nullptr) first[number] = &results;
+    if (number != KeyIndex<uint64_t>::kNone && !values[number]) values[number] = evaluate(results);
   }
-  std::vector<const qz::ResultsRecord*> byStudent;
+  std::vector<Value> byStudent;
   byStudent.reserve(m_idNumbers.size());
-  std::transform(m_idNumbers.begin(), m_idNumbers.end(), std::back_inserter(byStudent),
-                 [&first](size_t number) { return first[number]; });
+  for (const size_t number : m_idNumbers) byStudent.push_back(values[number]);
   return byStudent;
+}
+
+std::vector<const qz::ResultsRecord*> RosterIndex::FindResults(const qz::AssignmentRecord& assignment) const {
+  return Join<const qz::ResultsRecord*>(assignment,
+                                        [](const qz::ResultsRecord& results) { return &results; });
+}
+
+std::vector<std::optional<double>> RosterIndex::FindTotals(const qz::AssignmentRecord& assignment) const {
+  return Join<std::optional<double>>(
+      assignment, [](const qz::ResultsRecord& results) { return results.GetTotalPoints(); });
 }
 
 std::vector<GradeColumn> SelectedColumns(const qz::ClassRecord& record) {
   const RosterIndex roster(record.students);
   std::vector<GradeColumn> columns;
   for (const qz::AssignmentRecord& assignment : record.assignments) {
-    if (assignment.selected) columns.push_back({&assignment, roster.FindResults(assignment)});
+    if (assignment.selected) columns.push_back({&assignment, roster.FindTotals(assignment)});
   }
   return columns;
 }

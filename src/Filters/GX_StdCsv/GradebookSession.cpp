@@ -9,8 +9,7 @@ void GradebookSession::Write(std::FILE* file) {
     WriteStudent(file, student);
     double runningTotal = 0.0;
     for (const GradeColumn& column : columns) {
-      std::optional<double> points;
-      if (const qz::ResultsRecord* results = column.results[row]) points = results->GetTotalPoints();
+      const std::optional<double> points = column.points[row];
       WriteScore(file, *column.assignment, points);
       runningTotal += points.value_or(0.0);
     }

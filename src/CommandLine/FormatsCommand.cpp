@@ -1,0 +1,47 @@
+#include <nlohmann/json.hpp>
+
+#include "CommandLine/Commands.h"
+#include "CommandLine/OutputFile.h"
+#include "CommandLine/TextOut.h"
+#include "CommandLine/UserIDFields.h"
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+// The key of the field proposed for the identifier, null when the format has none.
+const char* _DefaultFieldKey(const FormatRow& row) {
+  return row.idName == nullptr ? nullptr : ColumnOf(row.defaultUserIDField).key;
+}
+
+Json _OrNull(const char* text) {
+  return text == nullptr ? Json() : Json(text);
+}
+
+std::string _AsJson() {
+  Json formats = Json::array();
+  for (const FormatRow& row : FormatTable()) {
+    formats.push_back({{"index", row.index},
+                       {"key", row.key},
+                       {"name", row.name},
+                       {"idName", _OrNull(row.idName)},
+                       {"defaultField", _OrNull(_DefaultFieldKey(row))},
+                       {"hasUnquotedVariant", row.hasUnquotedVariant}});
+  }
+  return formats.dump(2) + "\n";
+}
+
+std::string _AsTable() {
+  std::vector<std::vector<std::string>> rows = {{"INDEX", "FORMAT", "NAME", "STUDENT FIELD"}};
+  for (const FormatRow& row : FormatTable()) {
+    const char* field = _DefaultFieldKey(row);
+    rows.push_back({std::to_string(row.index), row.key, row.name, field == nullptr ? "" : field});
+  }
+  return AlignColumns(rows);
+}
+
+}  // namespace
+
+void RunFormats(const FormatsOptions& options) {
+  WriteStandardOutput(options.json ? _AsJson() : _AsTable());
+}

@@ -1,0 +1,29 @@
+// Text for people: class data and names from the command line, made fit for a terminal and for JSON.
+#ifndef GRADIX_TEXTOUT_H
+#define GRADIX_TEXTOUT_H
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+// The UTF-8 form of a class file's text (Mac OS Roman). A code without a character becomes U+FFFD.
+std::string Utf8FromRoman(std::string_view text);
+
+// The same with control characters as "?", so that no name breaks a line or controls a terminal.
+std::string PrintableRoman(std::string_view text);
+
+// A file name, an argument or a message that quotes one: well-formed UTF-8 with control characters as "?".
+// Line feeds stay when `keepLines` is set.
+std::string PrintableUtf8(const std::string& text, bool keepLines = false);
+
+// Lines of left-aligned columns two spaces apart, each line ending with a line feed.
+std::string AlignColumns(const std::vector<std::vector<std::string>>& rows);
+
+// The texts with `separator` between them.
+std::string Join(const std::vector<std::string>& texts, std::string_view separator);
+
+// Writes one message to standard error, with the program's name in front.
+void Say(const std::string& text);
+void Warn(const std::string& text);
+
+#endif  // GRADIX_TEXTOUT_H

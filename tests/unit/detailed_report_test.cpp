@@ -1,0 +1,175 @@
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "tests/support/Exported.h"
+
+namespace {
+
+using Options = std::array<bool, qz::kReportOptionCount>;
+
+qz::QuestionRecord Question(int32_t id, int32_t bank, const char* answer, double points) {
+  qz::QuestionRecord question;
+  question.number = 50 + id;  // not what the report counts by
+  question.questionID = id;
+  question.bankID = bank;
+  question.answer = answer;
+  question.pointsPossible = points;
+  return question;
+}
+
+// Two students, one of them absent, and two questions.
+qz::ClassRecord SmallClass() {
+  qz::ClassRecord record;
+  record.students.resize(2);
+  record.students[0].id = 7;
+  record.students[0].firstName = "Ann";
+  record.students[0].lastName = "Smith";
+  record.students[0].studentID = "1001";
+  record.students[1].id = 8;
+  record.students[1].firstName = "Bo \"B\"";
+  record.assignments.resize(3);
+  record.assignments[2].selected = true;  // only the first selected one is reported
+  qz::AssignmentRecord& quiz = record.assignments[1];
+  quiz.selected = true;
+  quiz.questions = {Question(11, 2, "B", 2.0), Question(12, 2, "C", 1.0)};
+  quiz.results.resize(1);
+  quiz.results[0].studentID = 7;
+  quiz.results[0].responses = {
+      {12, 2, "A", 0.0}, {12, 3, "other bank", 1.0}, {11, 2, "B", 2.0}, {11, 2, "late", 0.0}};
+  record.optionValue = 7;
+  return record;
+}
+
+struct Row {
+  const char* what;
+  int32_t fields;
+  Options options;  // answer key, responses, points earned, points possible, asterisks
+  const char* file;
+};
+
+const Row kRows[] = {
+    {"everything",
+     7,
+     {true, true, true, true, true},
+     "\"First name\",\"Last name\",\"Student ID\",1,,2,\n"
+     ",,,\"B\",2,\"C\",1\n"
+     "\"Ann\",\"Smith\",\"1001\",\"*B\",2,\"A\",0\n"
+     "\"Bo 'B'\",,,,,,\n"},
+    {"responses only",
+     7,
+     {false, true, false, false, false},
+     "\"First name\",\"Last name\",\"Student ID\",1,2\n"
+     "\"Ann\",\"Smith\",\"1001\",\"B\",\"A\"\n"
+     "\"Bo 'B'\",,,,\n"},
+    {"no key line for points possible alone",
+     4,
+     {false, true, false, true, true},
+     "\"Student ID\",1,2\n"
+     "\"1001\",\"*B\",\"A\"\n"
+     ",,\n"},
+    {"points only",
+     2,
+     {false, false, true, true, true},
+     "\"First name\",1,2\n"
+     ",2,1\n"
+     "\"Ann\",2,0\n"
+     "\"Bo 'B'\",,\n"},
+    {"key line for the points leaves the answers empty",
+     1,
+     {false, true, true, true, false},
+     "\"Last name\",1,,2,\n"
+     ",,2,,1\n"
+     "\"Smith\",\"B\",2,\"A\",0\n"
+     ",,,,\n"},
+    {"no student columns",
+     0,
+     {true, true, false, false, true},
+     "1,2\n"
+     "\"B\",\"C\"\n"
+     "\"*B\",\"A\"\n"
+     ",\n"},
+    {"no question columns",
+     4,
+     {true, false, false, true, true},
+     "\"Student ID\"\n"
+     "\"1001\"\n"
+     "\n"},
+};
+
+TEST(DetailedReport, WritesWhatTheSwitchesAskFor) {
+  for (const Row& row : kRows) {
+    qz::ClassRecord record = SmallClass();
+    record.optionValue = row.fields;
+    record.options = row.options;
+    EXPECT_EQ(Exported("detailed", record), row.file) << row.what;
+  }
+}
+
+TEST(DetailedReport, WritesStudentColumnsInItsOwnOrder) {
+  qz::ClassRecord record;
+  record.students.resize(1);
+  qz::StudentRecord& student = record.students[0];
+  student.firstName = "v2";
+  student.lastName = "v1";
+  student.studentID = "v4";
+  student.password = "v8";
+  student.alias = "v16";
+  student.gender = "v32";
+  student.dateOfBirth = "v64";
+  student.gradeLevel = "v128";
+  student.sociological = "v256";
+  student.race = "v512";
+  student.other = "v1024";
+  student.custom = {"v2048", "v4096", "v8192"};
+  student.padID = "v16384";
+  record.customLabels = {"Canvas \"ID\"", "Label 2", "Label 3"};
+  record.assignments.resize(1);
+  record.assignments[0].selected = true;
+  record.optionValue = 0x7FFF;
+  EXPECT_EQ(
+      Exported("detailed", record),
+      "\"First name\",\"Last name\",\"Student ID\",\"Password\",\"Student alias\",\"Pad ID\",\"Gender\","
+      "\"Date of birth\",\"Grade level\",\"Sociological/Economic\",\"Race/Ethnicity\",\"Other\","
+      "\"Canvas 'ID'\",\"Label 2\",\"Label 3\"\n"
+      "\"v2\",\"v1\",\"v4\",\"v8\",\"v16\",\"v16384\",\"v32\",\"v64\",\"v128\",\"v256\",\"v512\",\"v1024\","
+      "\"v2048\",\"v4096\",\"v8192\"\n");
+  for (uint32_t bit = 1; bit <= 0x4000; bit <<= 1U) {
+    record.optionValue = static_cast<int32_t>(bit);
+    const std::string file = Exported("detailed", record);
+    EXPECT_EQ(file.substr(file.find('\n')), "\n\"v" + std::to_string(bit) + "\"\n");
+  }
+}
+
+TEST(DetailedReport, MarksResponsesOfFullPoints) {
+  struct {
+    double earned;
+    double possible;
+    const char* cell;
+  } const rows[] = {
+      {1.0, 1.0, "\"*x\""}, {0.9995, 1.0, "\"*x\""}, {0.999, 1.0, "\"x\""},
+      {2.0, 1.0, "\"*x\""}, {0.0, 0.0, "\"*x\""},
+  };
+  for (const auto& row : rows) {
+    qz::ClassRecord record = SmallClass();
+    record.optionValue = 0;
+    record.students.resize(1);
+    record.assignments[1].questions = {Question(1, 1, "", row.possible)};
+    record.assignments[1].results[0].responses = {{1, 1, "x", row.earned}};
+    EXPECT_EQ(Exported("detailed", record), std::string("1\n") + row.cell + "\n") << row.earned;
+    record.assignments[1].results[0].responses[0].text.clear();
+    EXPECT_EQ(Exported("detailed", record).size(), std::string(row.cell).size() + 2)
+        << "an empty text stays quoted";
+  }
+}
+
+TEST(DetailedReport, NeedsASelectedAssignment) {
+  const auto session = NewSession(*FindFormat("detailed"));
+  *session->GetClass() = SmallClass();
+  for (qz::AssignmentRecord& assignment : session->GetClass()->assignments) assignment.selected = false;
+  const std::filesystem::path path = TestPath("none.csv");
+  EXPECT_EQ(session->Export(path.string().c_str()), QZFILTER_FAILED);
+  EXPECT_FALSE(std::filesystem::exists(path));
+}
+
+}  // namespace

@@ -1,0 +1,207 @@
+// The gradebook files, whole, from one small class that holds what the formats treat differently.
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <string>
+
+#include "tests/support/Exported.h"
+
+namespace {
+
+qz::ResultsRecord Results(int32_t student, std::initializer_list<double> points) {
+  qz::ResultsRecord results;
+  results.studentID = student;
+  for (const double earned : points) results.responses.push_back({1, 1, "", earned});
+  return results;
+}
+
+qz::StudentRecord Student(int32_t id, const char* first, const char* last, const char* number,
+                          const char* alias) {
+  qz::StudentRecord student;
+  student.id = id;
+  student.firstName = first;
+  student.lastName = last;
+  student.studentID = number;
+  student.alias = alias;
+  return student;
+}
+
+// Ann has a result in the first quiz, Bo a zero in the first and an odd one in the second, Cy none at all.
+qz::ClassRecord SmallClass() {
+  qz::ClassRecord record;
+  record.students = {Student(7, "Ann", "Smith", "1001", "asmith"),
+                     Student(8, "Bo \"B\"", "Lee, Jr.", "", "b\"l"), Student(9, "", "\x8Ek", "1003", "")};
+  record.assignments.resize(4);
+  record.assignments[0].name = "Quiz \"1\"";
+  record.assignments[0].pointsPossible = 8;
+  record.assignments[0].results = {Results(8, {0.0}), Results(7, {3.0, 4.0}), Results(7, {1.0})};
+  record.assignments[1].name = "not exported";
+  record.assignments[1].results = {Results(7, {5.0})};
+  record.assignments[2].name = "Quiz 2";
+  record.assignments[2].pointsPossible = 3;
+  record.assignments[2].results = {Results(8, {2.0}), Results(99, {9.0})};
+  record.assignments[3].name = "Bonus";
+  record.assignments[3].results = {Results(8, {1234567.0})};
+  for (const size_t index : {0U, 2U, 3U}) record.assignments[index].selected = true;
+  return record;
+}
+
+struct Row {
+  const char* format;
+  bool useQuotes;
+  const char* file;
+  const char* withoutAssignments;
+};
+
+const Row kRows[] = {
+    {"webct", true,
+     "Last Name,First Name,User ID,Role,\"Quiz '1'\",\"Quiz 2\",\"Bonus\"\n"
+     "\"Smith\",\"Ann\",\"asmith\",Student,7, , \n"
+     "\"Lee, Jr.\",\"Bo 'B'\",\"b'l\",Student,0,2,1.23457e+06\n"
+     "\"\x8Ek\",\"\",\"\",Student, , , \n",
+     "Last Name,First Name,User ID,Role\n"
+     "\"Smith\",\"Ann\",\"asmith\",Student\n"},
+    {"blackboard6", true,
+     "\"Last Name, First Name (User Name) | Student Id\","
+     "\"Quiz '1' [Pts: 8 Weight:: 0% Category:: Quiz]\",\"Quiz 2 [Pts: 3 Weight:: 0% Category:: Quiz]\","
+     "\"Bonus [Pts: 0 Weight:: 0% Category:: Quiz]\",\"Running Total [Pts: 11]\",\"Running Weighted Total\"\n"
+     "\"Smith, Ann (asmith) | \",\"7\",\"-\",\"-\",\"7\",\"Not Applicable\"\n"
+     "\"Lee, Jr., Bo 'B' (b'l) | \",\"0\",\"2\",\"1.23457e+06\",\"1.23457e+06\",\"Not Applicable\"\n"
+     "\"\x8Ek,  () | \",\"-\",\"-\",\"-\",\"0\",\"Not Applicable\"\n",
+     "\"Last Name, First Name (User Name) | Student Id\",\"Running Total [Pts: 0]\",\"Running Weighted "
+     "Total\"\n"
+     "\"Smith, Ann (asmith) | \",\"0\",\"Not Applicable\"\n"},
+    {"angel", true,
+     "Name,User ID,\"Quiz '1'\",\"Quiz 2\",\"Bonus\"\n"
+     "\"Smith, Ann\",asmith,87.5,,\n"
+     "\"Lee, Jr., Bo 'B'\",b'l,0,66.6667,0\n"
+     "\"\x8Ek, \",,,,\n",
+     "Name,User ID\n"
+     "\"Smith, Ann\",asmith\n"},
+    {"blackboard8", true,
+     "\"Last Name\",\"First Name\",\"Username\",\"Student ID\",\"Last Access\",\"Availability\",\"Weighted "
+     "Total\","
+     "\"Quiz '1' [Pts: 8 Weight:: 0% Category:: Quiz]\",\"Quiz 2 [Pts: 3 Weight:: 0% Category:: Quiz]\","
+     "\"Bonus [Pts: 0 Weight:: 0% Category:: Quiz]\",\"Running Total [Pts: 11]\"\n"
+     "\"Smith\",\"Ann\",\"asmith\",\"1001\",\"\",\"Yes\",\"Not Applicable\",\"7\",\"-\",\"-\",\"7\"\n"
+     "\"Lee, Jr.\",\"Bo 'B'\",\"b'l\",\"\",\"\",\"Yes\",\"Not Applicable\",\"0\",\"2\",\"1.23457e+06\","
+     "\"1.23457e+06\"\n"
+     "\"\x8Ek\",\"\",\"\",\"1003\",\"\",\"Yes\",\"Not Applicable\",\"-\",\"-\",\"-\",\"0\"\n",
+     "\"Last Name\",\"First Name\",\"Username\",\"Student ID\",\"Last Access\",\"Availability\",\"Weighted "
+     "Total\","
+     "\"Running Total [Pts: 0]\"\n"
+     "\"Smith\",\"Ann\",\"asmith\",\"1001\",\"\",\"Yes\",\"Not Applicable\",\"0\"\n"},
+    {"blackboard8", false,
+     "Last Name,First Name,Username,Student ID,Last Access,Availability,Weighted Total,"
+     "Quiz '1' [Pts: 8 Weight:: 0% Category:: Quiz],Quiz 2 [Pts: 3 Weight:: 0% Category:: Quiz],"
+     "Bonus [Pts: 0 Weight:: 0% Category:: Quiz],Running Total [Pts: 11]\n"
+     "Smith,Ann,asmith,1001,,Yes,Not Applicable,7,-,-,7\n"
+     "Lee, Jr.,Bo 'B',b'l,,,Yes,Not Applicable,0,2,1.23457e+06,1.23457e+06\n"
+     "\x8Ek,,,1003,,Yes,Not Applicable,-,-,-,0\n",
+     "Last Name,First Name,Username,Student ID,Last Access,Availability,Weighted Total,Running Total [Pts: "
+     "0]\n"
+     "Smith,Ann,asmith,1001,,Yes,Not Applicable,0\n"},
+    {"canvas", true,
+     "Student,ID,Section,Quiz '1',Quiz 2,Bonus\n"
+     "Points Possible,,,8,3,0\n"
+     "\"Ann Smith\",asmith,,7,,\n"
+     "\"Bo 'B' Lee, Jr.\",b'l,,0,2,1.23457e+06\n"
+     "\" \x8Ek\",,,,,\n",
+     "Student,ID,Section\n"
+     "Points Possible,,\n"
+     "\"Ann Smith\",asmith,\n"},
+    {"d2l", true,
+     "OrgDefinedId, Quiz '1' Points Grade, Quiz 2 Points Grade, Bonus Points Grade, End-of-Line Indicator\n"
+     "asmith,7,,,#\n"
+     "b'l,0,2,1.23457e+06,#\n"
+     ",,,,#\n",
+     "OrgDefinedId, End-of-Line Indicator\n"
+     "asmith,#\n"},
+    {"moodle", true,
+     "User ID,Quiz '1',Quiz 2,Bonus\n"
+     "asmith,7,,\n"
+     "b'l,0,2,1.23457e+06\n"
+     ",,,\n",
+     "User ID\n"
+     "asmith\n"},
+    {"schoology", true,
+     "User Unique ID,Quiz '1',Quiz 2,Bonus\n"
+     "asmith,7,,\n"
+     "b'l,0,2,1.23457e+06\n"
+     ",,,\n",
+     "User Unique ID\n"
+     "asmith\n"},
+    {"sakai", true,
+     "Student ID,Student Name,Quiz '1' [8],Quiz 2 [3],Bonus [0]\n"
+     "asmith,\"Smith Ann\",7,,\n"
+     "b'l,\"Lee, Jr. Bo 'B'\",0,2,1.23457e+06\n"
+     ",\"\x8Ek \",,,\n",
+     "Student ID,Student Name\n"
+     "asmith,\"Smith Ann\"\n"},
+};
+
+TEST(GradebookFormats, WriteTheirFiles) {
+  qz::ClassRecord bare = SmallClass();
+  bare.students.resize(1);
+  for (qz::AssignmentRecord& assignment : bare.assignments) assignment.selected = false;
+  for (const Row& row : kRows) {
+    EXPECT_EQ(Exported(row.format, SmallClass(), row.useQuotes), row.file) << row.format;
+    EXPECT_EQ(Exported(row.format, bare, row.useQuotes), row.withoutAssignments) << row.format;
+  }
+}
+
+TEST(GradebookFormats, BothLaterBlackboardsWriteTheSameFile) {
+  for (const bool useQuotes : {true, false}) {
+    EXPECT_EQ(Exported("blackboard91", SmallClass(), useQuotes),
+              Exported("blackboard8", SmallClass(), useQuotes));
+  }
+}
+
+TEST(GradebookFormats, OnlyTheLaterBlackboardsCanLeaveOutQuotes) {
+  for (const FormatRow& format : FormatTable()) {
+    const bool differs =
+        Exported(format.key, SmallClass(), true) != Exported(format.key, SmallClass(), false);
+    EXPECT_EQ(differs, format.hasUnquotedVariant) << format.key;
+  }
+}
+
+TEST(GradebookFormats, TakeTheIdentifierFromTheChosenField) {
+  qz::ClassRecord record = SmallClass();
+  record.students.resize(1);
+  record.students[0].custom = {"c1", "c2", "c3"};
+  const char* expected[] = {"asmith", "Ann", "Smith", "1001", "asmith", "c1", "c2", "c3", "asmith"};
+  for (int32_t field = 0; field <= 8; ++field) {
+    record.userIDField = static_cast<qz::UserIDField>(field);
+    const std::string header = "User ID,Quiz '1',Quiz 2,Bonus\n";
+    EXPECT_EQ(Exported("moodle", record), header + expected[field] + ",7,,\n") << field;
+  }
+}
+
+TEST(GradebookFormats, StudentsWithOneIdShareItsResults) {
+  qz::ClassRecord record = SmallClass();
+  record.students[2].id = 7;
+  EXPECT_EQ(Exported("moodle", record),
+            "User ID,Quiz '1',Quiz 2,Bonus\nasmith,7,,\nb'l,0,2,1.23457e+06\n,7,,\n");
+}
+
+TEST(GradebookFormats, PointsBeyondAllMeasure) {
+  constexpr int32_t kMost = std::numeric_limits<int32_t>::max();
+  constexpr double kInfinity = std::numeric_limits<double>::infinity();
+  qz::ClassRecord record = SmallClass();
+  record.students.resize(1);
+  record.assignments[0].pointsPossible = kMost;
+  record.assignments[2].pointsPossible = kMost;
+  record.assignments[3].pointsPossible = -5;
+  record.assignments[0].results = {Results(7, {kInfinity})};
+  EXPECT_EQ(Exported("blackboard6", record),
+            "\"Last Name, First Name (User Name) | Student Id\","
+            "\"Quiz '1' [Pts: 2147483647 Weight:: 0% Category:: Quiz]\","
+            "\"Quiz 2 [Pts: 2147483647 Weight:: 0% Category:: Quiz]\","
+            "\"Bonus [Pts: -5 Weight:: 0% Category:: Quiz]\","
+            "\"Running Total [Pts: 2147483647]\",\"Running Weighted Total\"\n"
+            "\"Smith, Ann (asmith) | \",\"inf\",\"-\",\"-\",\"inf\",\"Not Applicable\"\n");
+  EXPECT_NE(Exported("canvas", record).find("Points Possible,,,2.14748e+09,2.14748e+09,-5\n"),
+            std::string::npos);
+}
+
+}  // namespace

@@ -1,0 +1,170 @@
+#include "Filters/GX_StdCsv/Session.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <random>
+#include <string>
+
+#include "Filters/GX_StdCsv/CommaSeparatedLine.h"
+#include "Filters/GX_StdCsv/GradeColumns.h"
+#include "Filters/GX_StdCsv/RosterCheck.h"
+#include "Filters/GX_StdCsv/SessionMgr.h"
+#include "Filters/GX_StdCsv/formats/Canvas.h"
+#include "Filters/GX_StdCsv/start.h"
+#include "tests/support/Exported.h"
+
+namespace {
+
+// What `write` puts into a file.
+template <typename Write>
+std::string Written(Write write) {
+  const std::string path = TestPath("written").string();
+  std::FILE* file = std::fopen(path.c_str(), "wb");
+  if (file == nullptr) return "no file";
+  write(file);
+  std::fclose(file);
+  return ReadFile(path);
+}
+
+TEST(SafeCsv, TurnsQuotesIntoApostrophes) {
+  const struct {
+    const char* text;
+    const char* written;
+  } rows[] = {{"", ""}, {"Say \"hi\"", "Say 'hi'"}, {"\"\"", "''"}, {"a,b\r\n\x8E%s'", "a,b\r\n\x8E%s'"}};
+  for (const auto& row : rows) {
+    EXPECT_EQ(Written([&row](std::FILE* file) { Session::WriteSafeCSVString(file, row.text); }), row.written);
+  }
+}
+
+TEST(CommaSeparatedLine, SeparatesTheItemsThatAreOn) {
+  EXPECT_EQ(Written([](std::FILE* file) {
+              CommaSeparatedLine line(file, 0x6);
+              line.InsertMaskedItem("off", 1);
+              line.InsertMaskedItem("on", 2);
+              line.InsertMaskedItem("half on", 3);
+              line.InsertMaskedItem("", 4);
+              line.InsertMaskedItem(nullptr, 4);
+              line.InsertMaskedItem("no \"mask\"", 0);
+              line.InsertNewLine();
+              line.InsertMaskedItem("", 2);
+              line.InsertComma();
+              line.InsertNewLine();
+            }),
+            "\"on\",,,\"no 'mask'\"\n,\n");
+}
+
+TEST(SessionMgr, NumbersSessionsUntilTheyEnd) {
+  SessionMgr manager;
+  QZEXPORTBEGIN begin{};
+  begin.formatIndex = 11;
+  EXPECT_THROW(manager.CreateSession(&begin), const char*);
+  begin.formatIndex = 6;
+  begin.host8[1] = 42;
+  begin.chooseFileValue = 99;
+  const unsigned long first = manager.CreateSession(&begin);
+  EXPECT_EQ(first, 0xFAA00000UL) << "a failed creation takes no number";
+  EXPECT_EQ(manager.CreateSession(&begin), 0xFAA00001UL);
+
+  Session* session = manager.GetSession(first);
+  ASSERT_NE(dynamic_cast<SessionCanvas*>(session), nullptr);
+  EXPECT_EQ(session->GetExportInfo().host8[1], 42U);
+  EXPECT_EQ(session->GetExportInfo().chooseFileValue, 99U);
+  EXPECT_EQ(session->GetClass()->customLabels[2], "Custom 3");
+  EXPECT_EQ(session->GetClass()->userIDField, qz::kUserIDAlias);
+
+  manager.EndSession(first);
+  manager.EndSession(first);
+  manager.EndSession(12345);
+  EXPECT_EQ(manager.GetSession(first), nullptr);
+  EXPECT_NE(manager.GetSession(0xFAA00001UL), nullptr);
+}
+
+TEST(EntryPoints, ListBeginAndEnd) {
+  EXPECT_EQ(QZFilter_GetNumExportFormatsA(), 11U);
+  QZEXPORTBEGIN begin{};
+  unsigned long id = 0;
+  begin.formatIndex = 11;
+  EXPECT_EQ(QZFilter_ExportBeginA(nullptr, &begin, &id), QZFILTER_FAILED);
+  EXPECT_EQ(QZFilter_ExportBeginA(nullptr, nullptr, &id), QZFILTER_FAILED);
+  EXPECT_EQ(QZFilter_ExportBeginA(nullptr, &begin, nullptr), QZFILTER_FAILED);
+  EXPECT_EQ(id, 0UL);
+  for (uint32_t index = 0; index < 11; ++index) {
+    begin.formatIndex = index;
+    ASSERT_EQ(QZFilter_ExportBeginA(nullptr, &begin, &id), QZFILTER_SUCCESS) << index;
+    EXPECT_EQ(g_sessionMgr.GetSession(id)->GetExportInfo().formatIndex, index);
+    EXPECT_EQ(QZFilter_ExportEnd(id), QZFILTER_SUCCESS);
+    EXPECT_NE(g_sessionMgr.GetSession(id), nullptr) << "the options dialog ends the session, not the host";
+    g_sessionMgr.EndSession(id);
+  }
+}
+
+TEST(Session, TellsWhyItsFileIsNotThere) {
+  for (const FormatRow& format : FormatTable()) {
+    const auto session = NewSession(format);
+    session->GetClass()->assignments.resize(1);
+    session->GetClass()->assignments[0].selected = true;
+    EXPECT_EQ(session->Export(TestPath("no-such-folder/x.csv").string().c_str()), QZFILTER_FILE_NOT_CREATED);
+    EXPECT_EQ(session->WriteError(), ENOENT) << format.key;
+    if (!std::filesystem::exists("/dev/full")) continue;
+    EXPECT_EQ(session->Export("/dev/full"), QZFILTER_SUCCESS) << "the host is told no more";
+    EXPECT_EQ(session->WriteError(), ENOSPC) << format.key;
+    Exported(session.get());  // and the next export starts afresh
+  }
+}
+
+qz::ClassRecord ClassWithIDs(const std::vector<std::string>& identifiers) {
+  qz::ClassRecord record;
+  for (const std::string& identifier : identifiers) record.students.emplace_back().alias = identifier;
+  return record;
+}
+
+TEST(RosterCheck, FindsEmptyAndRepeatedIdentifiers) {
+  using Groups = std::vector<std::vector<size_t>>;
+  const struct {
+    const char* what;
+    std::vector<std::string> identifiers;
+    bool someEmpty;
+    bool allEmpty;
+    Groups duplicates;
+  } rows[] = {
+      {"no students", {}, false, true, {}},
+      {"all different, case and blanks count", {"a", "A", "a "}, false, false, {}},
+      {"one empty", {"a", "", "b"}, true, false, {}},
+      {"two empty are equal", {"", "a", ""}, true, false, {{0, 2}}},
+      {"one student, empty", {""}, false, true, {}},
+      {"groups in order of their second student",
+       {"x", "y", "y", "x", "y", "z"},
+       false,
+       false,
+       {{1, 2, 4}, {0, 3}}},
+  };
+  for (const auto& row : rows) {
+    const RosterCheck check = CheckUserIDs(ClassWithIDs(row.identifiers), qz::kUserIDAlias);
+    EXPECT_EQ(check.studentCount, row.identifiers.size()) << row.what;
+    EXPECT_EQ(check.SomeEmpty(), row.someEmpty) << row.what;
+    EXPECT_EQ(check.AllEmpty(), row.allEmpty) << row.what;
+    EXPECT_EQ(check.duplicates, row.duplicates) << row.what;
+  }
+}
+
+// The index has to give the answers of the linear search, repeated ids and all.
+TEST(RosterIndex, AnswersAsTheLinearSearchDoes) {
+  std::mt19937 random(1);
+  std::uniform_int_distribution<int32_t> ids(-3, 12);
+  for (int round = 0; round < 200; ++round) {
+    std::vector<qz::StudentRecord> students(static_cast<size_t>(round % 20));
+    for (qz::StudentRecord& student : students) student.id = ids(random);
+    qz::AssignmentRecord assignment;
+    assignment.results.resize(static_cast<size_t>(round % 23));
+    for (qz::ResultsRecord& results : assignment.results) results.studentID = ids(random);
+
+    const auto found = RosterIndex(students).FindResults(assignment);
+    ASSERT_EQ(found.size(), students.size());
+    for (size_t i = 0; i < students.size(); ++i) {
+      EXPECT_EQ(found[i], assignment.FindResultsForStudent(students[i].id));
+    }
+  }
+}
+
+}  // namespace

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 #include <cstdio>
+#include <sstream>
 
 #include "Common/xmlcharmaps.h"
 #include "Common/xmlutil.h"
@@ -92,6 +93,19 @@ std::string AlignColumns(const std::vector<std::vector<std::string>>& rows) {
     }
     lines.erase(lines.find_last_not_of(' ') + 1);
     lines += '\n';
+  }
+  return lines;
+}
+
+std::vector<std::string> WrapText(const std::string& text, size_t width) {
+  std::vector<std::string> lines;
+  std::istringstream words(text);
+  for (std::string word; words >> word;) {
+    if (lines.empty() || _Width(lines.back()) + 1 + _Width(word) > width) {
+      lines.push_back(word);
+    } else {
+      lines.back().append(" ").append(word);
+    }
   }
   return lines;
 }

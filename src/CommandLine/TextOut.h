@@ -19,6 +19,9 @@ std::string PrintableUtf8(const std::string& text, bool keepLines = false);
 // Lines of left-aligned columns two spaces apart, each line ending with a line feed.
 std::string AlignColumns(const std::vector<std::vector<std::string>>& rows);
 
+// The words of the text as lines of at most `width` characters where words allow it.
+std::vector<std::string> WrapText(const std::string& text, size_t width);
+
 // The texts with `separator` between them.
 std::string Join(const std::vector<std::string>& texts, std::string_view separator);
 

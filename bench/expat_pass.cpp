@@ -19,7 +19,9 @@ struct Counts {
 void XMLCALL CountStart(void* counts, const XML_Char*, const XML_Char**) {
   ++static_cast<Counts*>(counts)->elements;
 }
-void XMLCALL CountEnd(void* counts, const XML_Char*) { ++static_cast<Counts*>(counts)->ends; }
+void XMLCALL CountEnd(void* counts, const XML_Char*) {
+  ++static_cast<Counts*>(counts)->ends;
+}
 void XMLCALL CountText(void* counts, const XML_Char*, int length) {
   static_cast<Counts*>(counts)->bytes += static_cast<uint64_t>(length);
 }

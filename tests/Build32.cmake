@@ -24,4 +24,4 @@ target_include_directories(unit_tests_32 PRIVATE ${PROJECT_SOURCE_DIR} ${PROJECT
 target_compile_options(unit_tests_32 PRIVATE -m32 -msse2 -mfpmath=sse)
 target_link_options(unit_tests_32 PRIVATE -m32)
 target_link_libraries(unit_tests_32 PRIVATE gradix::options gtest32)
-gtest_discover_tests(unit_tests_32 TEST_PREFIX "32-bit.")
+gtest_discover_tests(unit_tests_32 TEST_PREFIX "32-bit." ${test_environment})

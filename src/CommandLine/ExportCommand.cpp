@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <memory>
 #include <string>
 
 #include "CommandLine/ClassFile.h"
@@ -44,11 +45,20 @@ void _SelectAssignments(qz::ClassRecord* record, const std::vector<int32_t>& ids
   }
 }
 
+// The report is about the first selected assignment. Ids are not necessarily unique.
+void _WarnOfTwins(const qz::ClassRecord& record) {
+  const auto selected =
+      std::count_if(record.assignments.begin(), record.assignments.end(),
+                    [](const qz::AssignmentRecord& assignment) { return assignment.selected; });
+  if (selected > 1) Warn("several assignments have this id; the report is about the first of them");
+}
+
 void _SetUpReport(const ExportOptions& options, qz::ClassRecord* record) {
   const size_t count =
       options.assignmentIDs.empty() ? record->assignments.size() : options.assignmentIDs.size();
   if (count != 1)
     _Fail("the detailed report is about one assignment; name it with -a. " + _AssignmentList(*record));
+  _WarnOfTwins(*record);
   const ReportOptions& report = options.report;
   record->optionValue = static_cast<int32_t>(report.fieldMask);
   record->options[qz::kReportAnswerKey] = report.answerKey;

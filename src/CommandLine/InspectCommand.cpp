@@ -100,7 +100,6 @@ Json _AssignmentJson(const qz::AssignmentRecord& assignment) {
           {"category", Utf8FromRoman(assignment.category)},
           {"onlineID", Utf8FromRoman(assignment.onlineID)},
           {"date", Utf8FromRoman(assignment.date)},
-          {"sortKey", assignment.sortKey},
           {"pointsPossible", assignment.pointsPossible},
           {"questionCount", assignment.questions.size()},
           {"resultCount", assignment.results.size()}};

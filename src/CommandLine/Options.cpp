@@ -76,7 +76,7 @@ std::string _ExportFooter() {
     const char* field = row.idName == nullptr ? "" : ColumnOf(row.defaultUserIDField).key;
     formats.push_back({"  " + std::string(row.key), row.name, field});
   }
-  return "Formats, and the student field that -u stands at without being given:\n" + AlignColumns(formats) +
+  return "Formats, with the student field that is used without -u:\n" + AlignColumns(formats) +
          "\nStudent fields for -u:\n" + _IndentedList(UserIDFieldKeys()) +
          "\nStudent fields for --fields:\n" + _IndentedList(ReportFieldKeys()) + "\n" + kExportExamples;
 }
@@ -123,7 +123,7 @@ void _DefineGradebookOptions(CLI::App* command, ExportArguments* arguments) {
                    "standard output.")
       ->type_name("FILE");
   command->add_flag("--no-quotes", arguments->noQuotes,
-                    "Write texts without quotation marks. For " + UnquotedFormatKeys() + ".");
+                    "Write texts without quotation marks. Only for " + UnquotedFormatKeys() + ".");
   command->add_flag("--force", arguments->force,
                     "Export even if no student has an identifier, or if students share one.");
 }
@@ -184,7 +184,9 @@ ShowOptions _Answer(const CLI::App& app, const CLI::ParseError& thrown) {
   }
   std::ostringstream text;
   app.exit(thrown, text, text);
-  return {text.str()};
+  std::string shown = text.str();
+  if (!shown.ends_with('\n')) shown += '\n';
+  return {shown};
 }
 
 }  // namespace

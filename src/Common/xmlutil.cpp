@@ -70,22 +70,15 @@ class Escaper {
     const auto byte = static_cast<uint8_t>(character);
     if (byte >= 0x80) return EscapeHigh(byte);
     switch (character) {
-      case '<':
-        return "&lt;";
-      case '>':
-        return "&gt;";
-      case '&':
-        return "&amp;";
-      case '\'':
-        return "&apos;";
-      case '"':
-        return "&quot;";
+      case '<': return "&lt;";
+      case '>': return "&gt;";
+      case '&': return "&amp;";
+      case '\'': return "&apos;";
+      case '"': return "&quot;";
       case '\t':
       case '\n':
-      case '\r':
-        return {&character, 1};
-      default:
-        return byte < 0x20 ? " " : std::string_view(&character, 1);
+      case '\r': return {&character, 1};
+      default: return byte < 0x20 ? " " : std::string_view(&character, 1);
     }
   }
 

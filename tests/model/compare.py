@@ -18,8 +18,7 @@ from gxmodel import GRADEBOOKS, REPORT_FIELDS, ClassRecord, Options
 
 USER_FIELDS = ["first-name", "last-name", "student-id", "alias", "custom-1", "custom-2", "custom-3"]
 COLUMNS = {"responses": (True, False), "points": (False, True), "both": (True, True)}
-UNREADABLE = 3
-RUNS_PER_FILE = 5
+UNREADABLE, RUNS_PER_FILE = 3, 5
 Run = tuple[list[str], int, bytes]      # arguments, expected exit status, expected bytes
 
 
@@ -28,7 +27,9 @@ def detailed_run(r: random.Random, record: ClassRecord) -> Run:
     options = Options(assignments=[r.choice(record.assignments).id])
     options.responses, options.points = COLUMNS[columns]
     options.fields = r.choice([every, [], r.sample(every, r.randrange(1, 15))])
-    options.answer_key, options.points_possible, options.asterisks = (r.random() < 0.5 for _ in range(3))
+    options.answer_key = options.responses and r.random() < 0.5         # refused without its column
+    options.points_possible = options.points and r.random() < 0.5       # likewise
+    options.asterisks = r.random() < 0.5
     named = "all" if options.fields is every else ",".join(options.fields) or "none"
     flags = {"--answer-key": options.answer_key, "--points-possible": options.points_possible,
              "--no-asterisks": not options.asterisks}
@@ -45,8 +46,7 @@ def gradebook_run(r: random.Random, record: ClassRecord, key: str) -> Run:
     if record.assignments and r.random() < 0.4:
         some = r.sample(record.assignments, r.randrange(1, len(record.assignments) + 1))
         options.assignments = [assignment.id for assignment in some]
-        for number in options.assignments:
-            arguments += ["-a", str(number)]
+        arguments += [word for number in options.assignments for word in ("-a", str(number))]
     if key in ("blackboard8", "blackboard91") and r.random() < 0.5:
         options.quotes = False
         arguments.append("--no-quotes")
@@ -81,8 +81,7 @@ def keep(stem: Path, files: dict[str, bytes]) -> None:
 
 def compare(path: str, count: int, seed: str, kept: Path) -> tuple[collections.Counter[str], int]:
     """Runs by format, and how many of them differ."""
-    done: collections.Counter[str] = collections.Counter()
-    mismatches = 0
+    done, mismatches = collections.Counter(), 0
     with tempfile.TemporaryDirectory() as folder:
         file = Path(folder) / "class.xml"
         for i in range(count):

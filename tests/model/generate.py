@@ -76,17 +76,11 @@ class ClassFile:
 
     def noise(self) -> str:
         """What may stand between any two elements and inside any text."""
-        kind = self.r.randrange(7)
-        if kind == 0:
-            return "<!-- <first-name>no</first-name> & -->"
-        if kind == 1:
-            return "<?gradix keep='no'?>"
-        if kind == 2:
-            depth = self.r.choice([38, 39, 40, 41, 60])
-            return "<deep>" * depth + self.r.choice(MISPLACED) + "</deep>" * depth
-        if kind == 3 and self.entities:
-            return "&name;"
-        return f"<unknown a='1'>lost{self.r.choice(MISPLACED)}<b>lost</b></unknown>" if kind < 6 else "\n  "
+        depth, lost = self.r.choice([38, 39, 40, 41, 60]), self.r.choice(MISPLACED)
+        unknown = f"<unknown a='1'>lost{lost}<b>lost</b></unknown>"
+        return self.r.choice([unknown, unknown, "<deep>" * depth + lost + "</deep>" * depth,
+                              "<!-- <first-name>no</first-name> & -->", "<?gradix keep='no'?>",
+                              "&name;" if self.entities else "\n  "])
 
     def body(self, parts: list[str]) -> str:
         """Children of a container, with blanks, stray text and noise between them."""
@@ -117,16 +111,13 @@ class ClassFile:
         return self.r.choice(["", " ", "\t "]) + "".join(pieces) + end
 
     def piece(self, text: str) -> str:
-        kind = self.r.randrange(9)
-        if kind == 0 and "]]>" not in text:
-            return f"<![CDATA[{text}]]>"
-        if kind == 1:
-            return "".join(f"&#{ord(c)};" if self.chance(0.5) else f"&#x{ord(c):X};" for c in text)
-        if kind == 2 and self.entities:
-            return f"&{self.r.choice(self.entities + ['undeclared'] * self.outside)};"
-        if kind == 3:
-            return self.r.choice([self.noise(), *MISPLACED])
-        return escape(text)
+        pieces = [escape(text)] * 5 + [self.noise(), self.r.choice(MISPLACED)]
+        pieces.append("".join(f"&#{ord(c)};" if self.chance(0.5) else f"&#x{ord(c):X};" for c in text))
+        if "]]>" not in text:
+            pieces.append(f"<![CDATA[{text}]]>")
+        if self.entities:
+            pieces.append(f"&{self.r.choice(self.entities + ['undeclared'] * self.outside)};")
+        return self.r.choice(pieces)
 
     def leaf(self, name: str, value: str) -> list[str]:
         return [self.element(name, value if i == 0 else self.text()) for i in range(self.times())]

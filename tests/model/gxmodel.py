@@ -12,9 +12,7 @@ from dataclasses import dataclass
 from typing import NamedTuple
 from xml.parsers import expat
 
-CHUNK = 4095
-TEXT_LIMIT = 199
-LABEL_LIMIT = 200
+CHUNK, TEXT_LIMIT, LABEL_LIMIT = 4095, 199, 200
 
 _ROMAN = {bytes([code]).decode("mac_roman"): code for code in range(0x80, 0x100)}
 del _ROMAN["\uf8ff"], _ROMAN["\u03a9"]         # 0xF0 stands for nothing, 0xBD for the ohm sign
@@ -82,10 +80,9 @@ def _leaves(names: str) -> dict:
 # A leaf, {}, keeps its text and holds no element; anything else is a container.
 _STUDENT = _leaves("first-name last-name student-id alias password gender date-of-birth grade-level "
                    "sociological race other custom-1 custom-2 custom-3 pad-id")
-_RESULTS = {"response-list": {"response": _leaves("text points-earned")}}
 _ASSIGNMENT = _leaves("assignment-name points-possible") | {
     "question-list": {"question": _leaves("answer points-possible")},
-    "results-list": {"results": _RESULTS}}
+    "results-list": {"results": {"response-list": {"response": _leaves("text points-earned")}}}}
 SCHEMA = {"class": {"preferences": _leaves("custom-1 custom-2 custom-3"),
                     "student-list": {"student": _STUDENT},
                     "assignment-list": {"assignment": _ASSIGNMENT}}}
@@ -141,12 +138,10 @@ class _Builder:
         known = holder[1].get(_local(name)) if holder else None
         if known is None and len(self.open) == 1:
             raise Unreadable("not a class")
-        if known is None:
-            self.open.append(None)
-            return
         node = Node(_local(name), zip(map(_local, attributes[::2]), attributes[1::2]))
-        holder[0].children.append(node)
-        self.open.append((node, known))
+        if known is not None:
+            holder[0].children.append(node)
+        self.open.append(None if known is None else (node, known))
 
     def characters(self, text: str) -> None:
         if self.open[-1] and not self.open[-1][1]:
@@ -267,17 +262,15 @@ GRADEBOOKS = {
     "blackboard6": Gradebook(
         "alias", b'"Last Name, First Name (User Name) | Student Id"', b',"' + _PTS + b'"',
         b',"Running Total [Pts: %(sum)d]","Running Weighted Total"',
-        b'"%(last-name)b, %(first-name)b (%(user)b) | "', b',"%(running)b","Not Applicable"',
-        b',"%b"', b"-"),
+        b'"%(last-name)b, %(first-name)b (%(user)b) | "', b',"%(running)b","Not Applicable"', b',"%b"', b"-"),
     "angel": Gradebook("alias", b"Name,User ID", b',"%(name)b"', b"",
                        b'"%(last-name)b, %(first-name)b",%(user)b'),
     "blackboard8": _BLACKBOARD8,
     "blackboard91": _BLACKBOARD8._replace(user_field="student-id"),
     "canvas": Gradebook("student-id", b"Student,ID,Section", b",%(name)b",
-                        b"\nPoints Possible,,%(all points)b",
-                        b'"%(first-name)b %(last-name)b",%(user)b,'),
-    "d2l": Gradebook("custom-1", b"OrgDefinedId", b", %(name)b Points Grade",
-                     b", End-of-Line Indicator", b"%(user)b", b",#"),
+                        b"\nPoints Possible,,%(all points)b", b'"%(first-name)b %(last-name)b",%(user)b,'),
+    "d2l": Gradebook("custom-1", b"OrgDefinedId", b", %(name)b Points Grade", b", End-of-Line Indicator",
+                     b"%(user)b", b",#"),
     "moodle": Gradebook("custom-1", b"User ID", b",%(name)b", b"", b"%(user)b"),
     "schoology": Gradebook("student-id", b"User Unique ID", b",%(name)b", b"", b"%(user)b"),
     "sakai": Gradebook("student-id", b"Student ID,Student Name", b",%(name)b [%(points)d]", b"",
@@ -368,7 +361,6 @@ def export(record: ClassRecord, key: str, options: Options) -> bytes:
         book = GRADEBOOKS[key]
         user_field = options.user_field or book.user_field
         if not options.quotes and key in ("blackboard8", "blackboard91"):
-            book = book._replace(**{part: getattr(book, part).replace(b'"', b"")
-                                    for part in book._fields[1:]})
+            book = Gradebook(user_field, *(part.replace(b'"', b"") for part in book[1:]))
         lines = _gradebook(book, chosen, record.students, user_field, key == "angel")
     return b"".join(line + b"\n" for line in lines)

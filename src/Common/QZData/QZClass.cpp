@@ -17,9 +17,10 @@ const std::string& StudentRecord::GetUserID(UserIDField field) const {
   return alias;
 }
 
-const ResultsRecord* AssignmentRecord::FindResultsForStudent(int32_t wanted) const {
-  const auto found = std::find_if(results.begin(), results.end(),
-                                  [wanted](const ResultsRecord& record) { return record.studentID == wanted; });
+const ResultsRecord* AssignmentRecord::FindResultsForStudent(int32_t studentID) const {
+  const auto found = std::find_if(results.begin(), results.end(), [studentID](const ResultsRecord& record) {
+    return record.studentID == studentID;
+  });
   return found == results.end() ? nullptr : &*found;
 }
 

@@ -113,7 +113,9 @@ struct AssignmentRecord {
 
 // Orders assignments by their sort key.
 struct AssignmentLess {
-  bool operator()(const AssignmentRecord& a, const AssignmentRecord& b) const { return a.sortKey < b.sortKey; }
+  bool operator()(const AssignmentRecord& a, const AssignmentRecord& b) const {
+    return a.sortKey < b.sortKey;
+  }
 };
 
 // Index of a switch in ClassRecord::options, the detailed report's settings.

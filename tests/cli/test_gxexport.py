@@ -1,0 +1,412 @@
+"""The command line: options, refusals, messages, exit statuses and the treatment of output files."""
+import json
+import os
+import re
+import resource
+import signal
+import stat
+import subprocess
+import sys
+import threading
+import time
+import unittest
+import xml.etree.ElementTree as ElementTree
+
+sys.path.insert(0, os.path.dirname(__file__))
+from support import (ANN, BOB, CAT, CLASS_FILE, DONE, GXEXPORT, IDENTIFIERS, OUTPUT, QUIZ, SAMPLE, USAGE,  # noqa: E402
+                     FolderTest, assignment, class_xml, run, student)
+
+FORMATS = json.loads(run("formats", "--json").stdout)
+CONTROL = re.compile(r"[\x00-\x09\x0b-\x1f\x7f-\x9f]")  # all but the line feed
+
+
+class Usage(FolderTest):
+    def test_refusals(self):
+        rows = {
+            "no command": ([], "formats, inspect and export"),
+            "unknown command": (["convert"], "unknown command 'convert'"),
+            "no class file": (["inspect"], "CLASSFILE"),
+            "no format": (["export", SAMPLE], "--format"),
+            "unknown format": (["export", "-f", "excel", SAMPLE], "schoology, sakai"),
+            "index too large": (["export", "-f", "11", SAMPLE], "unknown format '11'"),
+            "index beyond 32 bits": (["export", "-f", "4294967302", SAMPLE], "unknown format"),
+            "index with a tail": (["export", "-f", "6x", SAMPLE], "unknown format '6x'"),
+            "two formats": (["export", "-f", "6", "-f", "7", SAMPLE], "--format"),
+            "unknown option": (["export", "-f", "6", "--quotes", SAMPLE], "--quotes"),
+            "two class files": (["export", "-f", "6", SAMPLE, SAMPLE], "not expected"),
+            "id is no number": (["export", "-f", "6", "-a", "12x", SAMPLE], "'12x' is no assignment id"),
+            "id beyond 32 bits": (["export", "-f", "6", "-a", "2147483648", SAMPLE], "'2147483648'"),
+            "unknown id": (["export", "-f", "6", "-a", "301", "-a", "-7", SAMPLE], "id -7", "302  Quiz 2: Membranes"),
+            "unknown user field": (["export", "-f", "6", "-u", "password", SAMPLE], "'password'", "alias, custom-1"),
+            "user field, detailed": (["export", "-f", "3", "-u", "alias", "-a", "301", SAMPLE], "-u does not apply"),
+            "no quotes, canvas": (["export", "-f", "6", "--no-quotes", SAMPLE], "blackboard8, blackboard91"),
+            "no quotes, detailed": (["export", "-f", "3", "-a", "301", "--no-quotes", SAMPLE], "--no-quotes"),
+            "no output name": (["export", "-f", "6", "-o", "", SAMPLE], "-o"),
+            "fields, canvas": (["export", "-f", "6", "--fields", "all", SAMPLE], "--fields applies to"),
+            "columns, canvas": (["export", "-f", "6", "--columns", "both", SAMPLE], "--columns applies to"),
+            "asterisks, canvas": (["export", "-f", "6", "--no-asterisks", SAMPLE], "--no-asterisks applies to"),
+            "unknown field": (["export", "-f", "3", "-a", "301", "--fields", "alias,iq", SAMPLE], "'iq'", "pad-id"),
+            "empty field": (["export", "-f", "3", "-a", "301", "--fields", "alias,", SAMPLE], "''"),
+            "all and more": (["export", "-f", "3", "-a", "301", "--fields", "all,alias", SAMPLE], "'all'"),
+            "unknown columns": (["export", "-f", "3", "-a", "301", "--columns", "none", SAMPLE], "'none'"),
+            "key without responses": (["export", "-f", "3", "-a", "301", "--columns", "points", "--answer-key", SAMPLE],
+                                      "--answer-key goes with"),
+            "possible without points": (["export", "-f", "3", "-a", "301", "--points-possible", SAMPLE],
+                                        "--points-possible goes with"),
+            "detailed, no id": (["export", "-f", "3", SAMPLE], "one assignment", "301  Quiz 1: Cells"),
+            "detailed, two ids": (["export", "-f", "3", "-a", "301", "-a", "302", SAMPLE], "one assignment"),
+        }
+        for name, (args, *fragments) in rows.items():
+            with self.subTest(name):
+                self.check(run(*args), USAGE, *fragments)
+
+    def test_help_and_version(self):
+        for args, text in [(["--help"], "Exit status"), (["--version"], "gxexport 1"), (["export", "--help"], "-u"),
+                           (["inspect", "-h"], "CLASSFILE"), (["formats", "-h"], "--json")]:
+            with self.subTest(args):
+                result = run(*args)
+                self.check(result, DONE)
+                self.assertIn(text, result.stdout.decode())
+                self.assertTrue(all(len(line) < 80 for line in result.stdout.decode().splitlines()))
+                self.assertTrue(result.stdout.endswith(b"\n"))
+
+    def test_odd_file_names(self):
+        expected = run("export", "-f", "canvas", SAMPLE).stdout
+        for name in ["[a,b]", "{}", " blank", "export", "%s%n"]:
+            with self.subTest(name):
+                (self.folder / name).write_bytes(SAMPLE.read_bytes())
+                self.assertEqual(run("export", "-f", "canvas", name, cwd=self.folder).stdout, expected)
+
+    def test_no_message_controls_the_terminal(self):
+        hostile = "a\x1b]0;b\x07\x9b1m\n\x7f"
+        twin = student(5, hostile, hostile, student_id=hostile)
+        path = self.write_class([twin | {"first-name": "\x7fx\n", "last-name": "\x85", "student-id": "\n\x7f"}] * 2,
+                                [assignment(1, "\nname\x7f"), assignment(2, "b")])
+        runs = [run(hostile), run("inspect", hostile), run("export", "-f", hostile, SAMPLE), run("inspect", path),
+                run("export", "-f", "3", "--fields", hostile, "-a", "1", SAMPLE), run("export", "-f", "3", path),
+                run("export", "-f", "6", "-o", "/nowhere/" + hostile, SAMPLE), run("export", "-f", "6", path),
+                run("export", "-f", "6", "-a", hostile, SAMPLE), run("inspect", b"\xff\xc3".decode("latin-1"))]
+        for result in runs:
+            with self.subTest(result.args):
+                self.assertNotRegex((result.stdout + result.stderr).decode(), CONTROL)
+        # Two lines for two students, whatever their names hold.
+        self.assertEqual(runs[3].stdout.decode().split("\n\n")[0].count("\n"), 3)
+
+
+class Reading(FolderTest):
+    def test_faults_are_located(self):
+        rows = {
+            "mismatched tag": (b"<class>\n <a>\n  </b>\n</class>", ":3:5: mismatched tag"),
+            "cut short": (SAMPLE.read_bytes()[:3000], ": no element found"),
+            "empty": (b"", ":1:1: no element found"),
+            "another document": (b"<html/>", "not class"),
+        }
+        for name, (data, message) in rows.items():
+            path = self.folder / "bad.xml"
+            path.write_bytes(data)
+            with self.subTest(name):
+                self.check(run("inspect", path), CLASS_FILE, f"gxexport: {path}:", message)
+                self.check(run("export", "-f", "6", "-", stdin=data), CLASS_FILE, "gxexport: (standard input):", message)
+
+    def test_unreadable(self):
+        self.check(run("inspect", "no.xml", cwd=self.folder), CLASS_FILE, "cannot open no.xml: No such file or directory")
+        self.check(run("inspect", self.folder), CLASS_FILE, f"cannot read {self.folder}: Is a directory")
+        with_closed_input = subprocess.run(f"'{GXEXPORT}' inspect - <&-", shell=True, capture_output=True)
+        self.check(with_closed_input, CLASS_FILE, "(standard input): Bad file descriptor")
+
+    def test_standard_input(self):
+        from_file = run("export", "-f", "moodle", SAMPLE)
+        piped = run("export", "-f", "moodle", "-o", "-", "-", stdin=SAMPLE.read_bytes())
+        self.check(piped, DONE)
+        self.assertEqual(piped.stdout, from_file.stdout)
+
+    def test_inspect(self):
+        tree = ElementTree.parse(SAMPLE)
+        result = run("inspect", "--json", SAMPLE)
+        self.check(result, DONE)
+        summary = json.loads(result.stdout.decode())
+        students = tree.findall("student-list/student")
+        roman = lambda text: (text or "").encode("mac_roman", "replace").decode("mac_roman")  # noqa: E731
+        self.assertEqual([[s["id"], s["firstName"], s["lastName"], s["custom"][1]] for s in summary["students"]],
+                         [[int(s.get("id")), *(roman(s.findtext(k)) for k in ["first-name", "last-name", "custom-2"])]
+                          for s in students])
+        self.assertEqual({(a["id"], a["name"], a["date"], a["questionCount"], a["resultCount"])
+                          for a in summary["assignments"]},
+                         {(int(a.get("id")), a.findtext("assignment-name"), a.findtext("assignment-date"),
+                           len(a.findall("question-list/question")), len(a.findall("results-list/results")))
+                          for a in tree.findall("assignment-list/assignment")})
+        self.assertEqual(summary["customLabels"], [tree.findtext(f"preferences/custom-{i}") for i in (1, 2, 3)])
+        for s in students:
+            self.assertNotIn(s.findtext("password"), result.stdout.decode())
+
+    def test_inspect_counts_useless_identifiers(self):
+        people = [ANN, BOB | {"alias": ""}, CAT | {"alias": "ann"}, student(4, "Dee", alias="")]
+        fields = json.loads(run("inspect", "--json", self.write_class(people)).stdout)["identifierFields"]
+        counts = {f["field"]: (f["empty"], f["shared"]) for f in fields}
+        self.assertEqual(counts["alias"], (2, 2))
+        self.assertEqual(counts["student-id"], (1, 0))
+        self.assertEqual(counts["last-name"], (0, 4))
+        self.assertEqual(counts["custom-3"], (4, 0))
+
+
+class Export(FolderTest):
+    def test_every_format_by_name_and_number(self):
+        outputs = set()
+        for row in FORMATS:
+            with self.subTest(row["key"]):
+                only = ["-a", "301"] if row["defaultField"] is None else []
+                by_name = run("export", "-f", row["key"], *only, SAMPLE)
+                self.check(by_name, DONE)
+                self.assertEqual(run("export", "-f", row["index"], *only, SAMPLE).stdout, by_name.stdout)
+                outputs.add(by_name.stdout)
+        self.assertEqual(len(outputs), 11)
+
+    def test_locale_does_not_matter(self):
+        known = subprocess.run(["locale", "-a"], capture_output=True, text=True).stdout.split()
+        names = [n for n in known if n.lower().replace("-", "") == "de_de.utf8"]
+        if not names:
+            self.skipTest("no German locale")
+        german = run("export", "-f", "canvas", SAMPLE, env=os.environ | {"LC_ALL": names[0]})
+        self.assertEqual(german.stdout, run("export", "-f", "canvas", SAMPLE).stdout)
+
+    def test_choice_of_assignments(self):
+        path = self.write_class([ANN], [assignment(7, "One"), assignment(8, "Two"), assignment(7, "Three")])
+        for ids, names in [([], "One,Two,Three"), ([8], "Two"), ([7], "One,Three"), ([8, 7, 8], "One,Two,Three")]:
+            with self.subTest(ids):
+                chosen = [f"-a{number}" for number in ids]
+                header = run("export", "-f", "canvas", *chosen, path).stdout.decode().split("\n")[0]
+                self.assertTrue(header.endswith("," + names), header)
+
+    def test_user_id_field_and_its_default(self):
+        person = student(1, "F", "L", student_id="S", alias="A", custom_1="C1", custom_2="C2", custom_3="C3")
+        path = self.write_class([person])
+        values = {"first-name": "F", "last-name": "L", "student-id": "S", "alias": "A",
+                  "custom-1": "C1", "custom-2": "C2", "custom-3": "C3"}
+        for key, value in values.items():
+            with self.subTest(key):
+                line = run("export", "-f", "d2l", "-u", key, path).stdout.decode().split("\n")[1]
+                self.assertEqual(line.split(",")[0], value)
+        for row in FORMATS:
+            if row["defaultField"] is not None:
+                given = run("export", "-f", row["key"], "-u", row["defaultField"], path).stdout
+                self.assertEqual(run("export", "-f", row["key"], path).stdout, given, row["key"])
+        proposed = {row["key"]: row["defaultField"] for row in FORMATS}
+        self.assertEqual([proposed[k] for k in ("webct", "canvas", "d2l")], ["alias", "student-id", "custom-1"])
+
+    def test_unquoted_variant(self):
+        for key in ("blackboard8", "blackboard91"):
+            self.assertIn(b'"', run("export", "-f", key, SAMPLE).stdout)
+            plain = run("export", "-f", key, "--no-quotes", SAMPLE)
+            self.check(plain, DONE)
+            self.assertNotIn(b'"', plain.stdout)
+
+    def test_no_assignments(self):
+        path = self.write_class([ANN], [])
+        self.check(run("export", "-f", "canvas", path), DONE, "no assignments")
+        self.check(run("export", "-f", "detailed", path), USAGE, "no assignments")
+
+    def test_detailed_report(self):
+        path = self.write_class([ANN])  # one assignment, so that it need not be named
+        names = '"Ann","Smith","1001",'
+        rows = {
+            "defaults": ([], ['"First name","Last name","Student ID",1,2', names + '"*B","A"']),
+            "no asterisks": (["--no-asterisks"], [None, names + '"B","A"']),
+            "answer key": (["--answer-key"], [None, ',,,"B","C"', names + '"*B","A"']),
+            "points": (["--columns", "points"], [None, names + "2,0"]),
+            "points possible": (["--columns", "points", "--points-possible"], [None, ",,,2,1", names + "2,0"]),
+            "everything": (["--columns", "both", "--answer-key", "--points-possible"],
+                           [None, ',,,"B",2,"C",1', names + '"*B",2,"A",0']),
+            "own fields": (["--fields", "alias,last-name"], ['"Last name","Student alias",1,2', '"Smith","ann","*B","A"']),
+            "no fields": (["--fields", "none"], ["1,2", '"*B","A"']),
+        }
+        for name, (args, lines) in rows.items():
+            with self.subTest(name):
+                written = run("export", "-f", "detailed", *args, path).stdout.decode().split("\n")
+                self.assertEqual(len(written), len(lines) + 1)
+                self.assertEqual([w for w, l in zip(written, lines) if l], [l for l in lines if l])
+        everybody = run("export", "-f", "detailed", "--fields", "all", "-a", "12", path).stdout.decode()
+        self.assertEqual(everybody.split("\n")[0].count('","'), 14)
+
+
+class Identifiers(FolderTest):
+    def test_some_missing(self):
+        result = run("export", "-f", "canvas", self.write_class([ANN, BOB | {"student-id": ""}, CAT]))
+        self.check(result, DONE, "1 of 3", "Bob Smith (id 2)", "Canvas User ID")
+        self.assertNotIn("Ann", result.stderr.decode())
+
+    def test_refused_unless_forced(self):
+        nobody = student(9, "Zoé")
+        shared = [ANN, BOB, CAT | {"student-id": "1001"}]
+        rows = {
+            "no students": ([], ["no students"]),
+            "nobody has one": ([nobody, nobody], ["empty for all students", "Zoé Smith (id 9), Zoé Smith"]),
+            "shared": (shared, ['"1001": Ann Smith (id 1), Cat Smith (id 3)']),
+            "two missing": ([ANN, nobody, BOB, nobody], ["2 of 4", "none: Zoé Smith (id 9), Zoé"]),
+        }
+        for name, (people, fragments) in rows.items():
+            with self.subTest(name):
+                path = self.write_class(people)
+                output = self.folder / "out.csv"
+                self.check(run("export", "-f", "canvas", "-o", output, path), IDENTIFIERS, "--force", *fragments)
+                self.assertFalse(output.exists())
+                forced = run("export", "-f", "canvas", "--force", path)
+                self.check(forced, DONE, "warning", *fragments)
+                self.assertEqual(forced.stdout.count(b"\n"), 2 + len(people))
+
+    def test_another_field_helps(self):
+        path = self.write_class([ANN, BOB | {"student-id": "1001"}])
+        result = run("export", "-f", "canvas", "-u", "alias", path)
+        self.check(result, DONE)
+        self.assertEqual(result.stderr, b"")
+
+    def test_the_report_needs_none(self):
+        result = run("export", "-f", "detailed", self.write_class([student(1, ""), student(1, "")]))
+        self.check(result, DONE)
+        self.assertEqual(result.stderr, b"")
+
+
+class Output(FolderTest):
+    def setUp(self):
+        super().setUp()
+        self.expected = run("export", "-f", "canvas", SAMPLE).stdout
+        self.output = self.folder / "out.csv"
+
+    def export(self, output, *, source=SAMPLE, **options):
+        return run("export", "-f", "canvas", "-o", output, source, **options)
+
+    def written(self, path=None):
+        return (path or self.output).read_bytes()
+
+    def assert_only(self, *names):
+        self.assertEqual(sorted(os.listdir(self.folder)), sorted(names))
+
+    def test_new_file_gets_usual_permissions(self):
+        self.check(self.export("out.csv", cwd=self.folder, umask=0o027), DONE)
+        self.assertEqual(self.written(), self.expected)
+        self.assertEqual(stat.S_IMODE(self.output.stat().st_mode), 0o640)
+        self.assert_only("out.csv")
+
+    def test_replaced_file_keeps_permissions(self):
+        self.output.write_bytes(b"old" * 10000)
+        self.output.chmod(0o604)
+        self.check(self.export(self.output), DONE)
+        self.assertEqual(self.written(), self.expected)
+        self.assertEqual(stat.S_IMODE(self.output.stat().st_mode), 0o604)
+
+    def test_symbolic_links_are_followed(self):
+        (self.folder / "deep").mkdir()
+        target = self.folder / "deep" / "target.csv"
+        link = self.folder / "link.csv"
+        link.symlink_to("deep/target.csv")
+        for name in ["new target", "old target"]:
+            with self.subTest(name):
+                self.check(self.export(link), DONE)
+                self.assertTrue(link.is_symlink())
+                self.assertEqual(self.written(target), self.expected)
+                target.write_bytes(b"old")
+        (self.folder / "loop").symlink_to("loop")
+        self.check(self.export(self.folder / "loop"), OUTPUT, "symbolic links")
+
+    def test_pipes_and_devices_are_written_directly(self):
+        fifo = self.folder / "fifo"
+        os.mkfifo(fifo)
+        received = []
+        reader = threading.Thread(target=lambda: received.append(fifo.read_bytes()))
+        reader.start()
+        self.check(self.export(fifo), DONE)
+        reader.join()
+        self.assertEqual(received, [self.expected])
+        self.assertTrue(fifo.is_fifo())
+        self.assertEqual(self.export("/dev/stdout").stdout, self.expected)
+        with open(self.output, "ab") as appended:
+            appended.write(b"before\n")
+            appended.flush()
+            self.export("/dev/stdout", stdout=appended)
+        self.assertEqual(self.written(), b"before\n" + self.expected)
+
+    def test_full_disk(self):
+        self.check(self.export("/dev/full"), OUTPUT, "cannot write /dev/full: No space left on device")
+        with open("/dev/full", "wb") as full:
+            for args in (["export", "-f", "6", SAMPLE], ["formats"], ["inspect", SAMPLE], ["--help"]):
+                self.check(run(*args, stdout=full), OUTPUT, "(standard output): No space left on device")
+
+    def test_interrupted_writing_leaves_the_old_file(self):
+        self.output.write_bytes(b"old")
+        limit = lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (1000, 1000))  # noqa: E731
+        self.check(self.export(self.output, preexec_fn=limit), OUTPUT, "File too large")
+        self.assertEqual(self.written(), b"old")
+        self.assert_only("out.csv")
+
+    def test_impossible_destinations(self):
+        self.check(self.export(self.folder), OUTPUT, "Is a directory")
+        self.check(self.export(self.folder / "no" / "out.csv"), OUTPUT, "No such file or directory")
+        self.check(self.export(self.folder / ("x" * 300)), OUTPUT, "File name too long")
+        self.assert_only()
+
+    def test_permissions_are_respected(self):
+        somebody = {"user": 65534, "group": 65534, "extra_groups": []} if os.geteuid() == 0 else {}
+        self.output.write_bytes(b"old")
+        self.output.chmod(0o444)
+        if somebody:
+            os.chown(self.folder, 65534, 65534)
+            os.chown(self.output, 65534, 65534)
+        source = self.folder / "class.xml"
+        source.write_bytes(SAMPLE.read_bytes())
+        self.check(self.export(self.output, source=source, **somebody), OUTPUT, "Permission denied")
+        self.folder.chmod(0o555)
+        self.addCleanup(self.folder.chmod, 0o755)
+        self.check(self.export(self.folder / "new.csv", source=source, **somebody), OUTPUT, "Permission denied")
+        self.assertEqual(self.written(), b"old")
+        self.assert_only("out.csv", "class.xml")
+
+    def test_the_class_file_is_not_overwritten(self):
+        source = self.write_class([ANN])
+        content = source.read_bytes()
+        (self.folder / "link").symlink_to("class.xml")
+        os.link(source, self.folder / "twin")
+        for name in ("class.xml", "link", "twin"):
+            self.check(self.export(self.folder / name, source=source), USAGE, "overwrite")
+        with open(source, "rb") as stream:
+            self.check(self.export(source, source="-", stdin_file=stream), USAGE, "overwrite")
+        with open(source, "ab") as appended:
+            self.check(self.export("-", source=source, stdout=appended), USAGE, "overwrite")
+        self.assertEqual(source.read_bytes(), content)
+
+    def test_malformed_class_leaves_the_old_file(self):
+        self.output.write_bytes(b"old")
+        self.check(self.export(self.output, source="-", stdin=SAMPLE.read_bytes()[:-20]), CLASS_FILE)
+        self.assertEqual(self.written(), b"old")
+
+    def test_a_closed_pipe_is_no_news(self):
+        reading, writing = os.pipe()
+        os.close(reading)
+        result = self.export("-", stdout=writing)
+        os.close(writing)
+        self.check(result, OUTPUT)
+        self.assertEqual(result.stderr, b"")
+
+    def test_closed_standard_streams(self):
+        command = f"'{GXEXPORT}' export -f canvas '{self.write_class([ANN, BOB | {'student-id': ''}])}'"
+        closed_output = subprocess.run(command + " >&-", shell=True, capture_output=True)
+        self.check(closed_output, OUTPUT, "Bad file descriptor")
+        # The warning about Bob must not end up in the file that takes the free descriptor.
+        subprocess.run(command + f" -o '{self.output}' 2>&-", shell=True, check=True)
+        self.assertEqual(self.written(), subprocess.run(command, shell=True, capture_output=True).stdout)
+
+    def test_a_signal_leaves_nothing_behind(self):
+        questions = [("A", 1)] * 2000
+        source = self.write_class([student(i, "Name") for i in range(4000)], [assignment(1, "Long", questions)])
+        self.output.write_bytes(b"old")
+        for number in (signal.SIGINT, signal.SIGTERM, signal.SIGHUP):
+            with self.subTest(number.name):
+                process = subprocess.Popen([GXEXPORT, "export", "-f", "detailed", "-o", self.output, source])
+                while process.poll() is None and len(os.listdir(self.folder)) < 3:
+                    time.sleep(0.0005)
+                process.send_signal(number)
+                self.assertEqual(process.wait(), -number)
+                self.assertEqual(self.written(), b"old")
+                self.assert_only("out.csv", "class.xml")
+
+
+if __name__ == "__main__":
+    unittest.main()

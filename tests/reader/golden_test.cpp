@@ -1,0 +1,82 @@
+// Whole files, byte for byte, from the sample class. After a change that is meant to alter them, run this
+// test with GRADIX_UPDATE_GOLDEN=1 and review the difference.
+#include <gtest/gtest.h>
+
+#include <clocale>
+#include <cstdlib>
+#include <fstream>
+#include <string>
+
+#include "Common/QZXMLParse/QZClassParse.h"
+#include "tests/support/Exported.h"
+
+namespace {
+
+constexpr uint32_t kDefaultFields = 0x7;
+constexpr uint32_t kAllFields = 0x7FFF;
+constexpr int32_t kReportedAssignment = 306;  // Quiz 5: DNA & RNA
+
+struct Report {
+  const char* name;
+  uint32_t fields;
+  std::array<bool, qz::kReportOptionCount>
+      options;  // answer key, responses, points, points possible, asterisks
+};
+
+const Report kReports[] = {
+    {"detailed", kDefaultFields, {false, true, false, false, true}},
+    {"detailed-everything", kAllFields, {true, true, true, true, true}},
+    {"detailed-points", kDefaultFields, {false, false, true, true, false}},
+    {"detailed-answer-key", 0x4, {true, true, false, false, false}},
+    {"detailed-no-fields", 0, {true, true, true, false, true}},
+};
+
+const qz::ClassRecord& SampleClass() {
+  static const qz::ClassRecord record = [] {
+    qz::ClassRecord parsed;
+    std::ifstream stream(SAMPLES "/secondary-school.xml", std::ios::binary);
+    EXPECT_TRUE(QZClassParse(&parsed, stream));
+    return parsed;
+  }();
+  return record;
+}
+
+void ExpectGolden(const std::string& name, const std::string& bytes) {
+  const std::string path = std::string(GOLDEN) + "/secondary-school." + name + ".csv";
+  if (std::getenv("GRADIX_UPDATE_GOLDEN") != nullptr) std::ofstream(path, std::ios::binary) << bytes;
+  EXPECT_EQ(ReadFile(path), bytes) << name;
+}
+
+void ExpectAllGolden() {
+  for (const FormatRow& format : FormatTable()) {
+    qz::ClassRecord record = SampleClass();
+    record.userIDField = format.defaultUserIDField;
+    if (format.index == kDetailedResultsFormat) continue;
+    for (qz::AssignmentRecord& assignment : record.assignments) assignment.selected = true;
+    ExpectGolden(format.key, Exported(format.key, record));
+    if (format.hasUnquotedVariant) {
+      ExpectGolden(std::string(format.key) + "-unquoted", Exported(format.key, record, false));
+    }
+  }
+  for (const Report& report : kReports) {
+    qz::ClassRecord record = SampleClass();
+    for (qz::AssignmentRecord& assignment : record.assignments) {
+      assignment.selected = assignment.id == kReportedAssignment;
+    }
+    record.optionValue = static_cast<int32_t>(report.fields);
+    record.options = report.options;
+    ExpectGolden(report.name, Exported("detailed", record));
+  }
+}
+
+TEST(Golden, EveryFormatOfTheSampleClass) {
+  ExpectAllGolden();
+}
+
+TEST(Golden, TheSameInAGermanProcess) {
+  if (std::setlocale(LC_ALL, "de_DE.UTF-8") == nullptr) GTEST_SKIP() << "no German locale on this machine";
+  ExpectAllGolden();
+  std::setlocale(LC_ALL, "C");
+}
+
+}  // namespace

@@ -1,14 +1,10 @@
 // gxexport: the export formats without a display.
 
-#include <fcntl.h>
-#include <unistd.h>
-
 #include <csignal>
 #include <cstdio>
 #include <exception>
 #include <iostream>
 #include <new>
-#include <string_view>
 #include <variant>
 
 #include "CommandLine/CommandError.h"
@@ -26,17 +22,8 @@ struct CommandRunner {
   void operator()(const ExportOptions& options) const { RunExport(options); }
 };
 
-// A file opened while a standard stream is closed would become that stream and take its data. The other way
-// round they fail as closed ones do.
-void _OccupyClosedStreams() {
-  for (int stream = STDIN_FILENO; stream <= STDERR_FILENO; ++stream) {
-    if (fcntl(stream, F_GETFD) < 0) open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY);
-  }
-}
-
 // A closed pipe and a size limit are failed writes, not reasons to die with a half-written file.
 void _SetUpProcess() {
-  _OccupyClosedStreams();
   std::signal(SIGPIPE, SIG_IGN);
   std::signal(SIGXFSZ, SIG_IGN);
   std::ios::sync_with_stdio(false);

@@ -311,10 +311,10 @@ class Output(FolderTest):
         fifo = self.folder / "fifo"
         os.mkfifo(fifo)
         received = []
-        reader = threading.Thread(target=lambda: received.append(fifo.read_bytes()))
+        reader = threading.Thread(target=lambda: received.append(fifo.read_bytes()), daemon=True)
         reader.start()
         self.check(self.export(fifo), DONE)
-        reader.join()
+        reader.join(10)
         self.assertEqual(received, [self.expected])
         self.assertTrue(fifo.is_fifo())
         self.assertEqual(self.export("/dev/stdout").stdout, self.expected)

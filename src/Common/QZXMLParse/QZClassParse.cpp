@@ -57,7 +57,8 @@ bool QZClassParse(qz::ClassRecord* record, std::istream& stream, QZClassParseErr
   _SetCallbacks();
   cXmlParserContext context(record);
   const bool parsed = context.ProcessFile(stream);
-  std::sort(record->assignments.begin(), record->assignments.end(), qz::AssignmentLess());
+  // Files give no sort key. Equal keys may come out in any order; file order is what a teacher expects.
+  std::stable_sort(record->assignments.begin(), record->assignments.end(), qz::AssignmentLess());
   if (error != nullptr) *error = context.Error();
   return parsed;
 }

@@ -1,0 +1,193 @@
+// Cost per student of reading a class, of writing it in each format, and of checking its identifiers, at
+// 1,000, 10,000 and 100,000 students; with the floors of reading (expat with empty handlers) and of writing
+// (fwrite of the same bytes).
+
+#include <benchmark/benchmark.h>
+#include <expat.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <map>
+#include <memory>
+#include <numeric>
+#include <random>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "Common/QZXMLParse/QZClassParse.h"
+#include "Filters/GX_StdCsv/FormatTable.h"
+#include "Filters/GX_StdCsv/RosterCheck.h"
+#include "Filters/GX_StdCsv/Session.h"
+
+namespace {
+
+constexpr int kAssignments = 4;
+constexpr int kQuestions = 5;
+
+void WriteStudents(std::ostream& out, int64_t students) {
+  out << "<student-list>\n";
+  for (int64_t id = 1; id <= students; ++id) {
+    out << "<student id=\"" << id << "\">\n<first-name>First" << id << "</first-name>\n<last-name>Last" << id
+        << "</last-name>\n<student-id>" << 100000000 + id << "</student-id>\n<alias>user" << id
+        << "</alias>\n<custom-1>login" << id << "</custom-1>\n</student>\n";
+  }
+  out << "</student-list>\n";
+}
+
+void WriteResults(std::ostream& out, const std::vector<int64_t>& ids) {
+  out << "<results-list>\n";
+  for (const int64_t id : ids) {
+    out << "<results id=\"" << id << "\">\n<response-list>\n";
+    for (int question = 1; question <= kQuestions; ++question) {
+      out << "<response question-id=\"" << question << "\" bank-id=\"1\"><text>B</text><points-earned>0.5"
+          << "</points-earned></response>\n";
+    }
+    out << "</response-list>\n</results>\n";
+  }
+  out << "</results-list>\n";
+}
+
+// A class file; results in shuffled order.
+std::string MakeClassFile(int64_t students) {
+  std::ostringstream out;
+  out << "<class>\n";
+  WriteStudents(out, students);
+  out << "<assignment-list>\n";
+  std::vector<int64_t> ids(static_cast<size_t>(students));
+  std::iota(ids.begin(), ids.end(), 1);
+  std::mt19937 random(1);
+  for (int assignment = 1; assignment <= kAssignments; ++assignment) {
+    out << "<assignment id=\"" << assignment << "\">\n<assignment-name>Quiz " << assignment
+        << "</assignment-name>\n<points-possible>5</points-possible>\n<question-list>\n";
+    for (int question = 1; question <= kQuestions; ++question) {
+      out << "<question number=\"" << question << "\" type=\"MC\" question-id=\"" << question
+          << "\" bank-id=\"1\"><answer>B</answer><points-possible>1</points-possible></question>\n";
+    }
+    out << "</question-list>\n";
+    std::shuffle(ids.begin(), ids.end(), random);
+    WriteResults(out, ids);
+    out << "</assignment>\n";
+  }
+  out << "</assignment-list>\n</class>\n";
+  return out.str();
+}
+
+const std::string& ClassFile(int64_t students) {
+  static std::map<int64_t, std::string> files;
+  const auto [entry, isNew] = files.try_emplace(students);
+  if (isNew) entry->second = MakeClassFile(students);
+  return entry->second;
+}
+
+const qz::ClassRecord& Class(int64_t students) {
+  static std::map<int64_t, qz::ClassRecord> records;
+  const auto [entry, isNew] = records.try_emplace(students);
+  if (isNew) {
+    std::istringstream stream(ClassFile(students));
+    QZClassParse(&entry->second, stream);
+    for (qz::AssignmentRecord& assignment : entry->second.assignments) assignment.selected = true;
+    entry->second.optionValue = 7;
+    entry->second.options.fill(true);
+  }
+  return entry->second;
+}
+
+void ReportPerStudent(benchmark::State& state) {
+  state.counters["time/student"] =
+      benchmark::Counter(static_cast<double>(state.range(0)) * static_cast<double>(state.iterations()),
+                         benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
+}
+
+void BM_ReadFloor(benchmark::State& state) {
+  const std::string& file = ClassFile(state.range(0));
+  for (auto _ : state) {
+    XML_Parser parser = XML_ParserCreateNS(nullptr, '#');
+    XML_SetElementHandler(
+        parser, [](void*, const char*, const char**) {}, [](void*, const char*) {});
+    XML_SetCharacterDataHandler(parser, [](void*, const char*, int) {});
+    for (size_t done = 0; done < file.size();) {
+      const size_t length = std::min<size_t>(4095, file.size() - done);
+      std::copy_n(file.data() + done, length, static_cast<char*>(XML_GetBuffer(parser, 4096)));
+      done += length;
+      XML_ParseBuffer(parser, static_cast<int>(length), done == file.size() ? XML_TRUE : XML_FALSE);
+    }
+    XML_ParserFree(parser);
+  }
+  ReportPerStudent(state);
+}
+
+void BM_Read(benchmark::State& state) {
+  const std::string& file = ClassFile(state.range(0));
+  for (auto _ : state) {
+    std::istringstream stream(file);
+    qz::ClassRecord record;
+    if (!QZClassParse(&record, stream)) state.SkipWithError("does not parse");
+    benchmark::DoNotOptimize(record.students.data());
+  }
+  ReportPerStudent(state);
+}
+
+std::unique_ptr<Session> NewSession(const FormatRow& format, int64_t students) {
+  QZEXPORTBEGIN begin{};
+  begin.formatIndex = format.index;
+  std::unique_ptr<Session> session = format.make(&begin);
+  *session->GetClass() = Class(students);
+  return session;
+}
+
+struct FileCloser {
+  void operator()(std::FILE* file) const { std::fclose(file); }
+};
+using File = std::unique_ptr<std::FILE, FileCloser>;
+
+// Both benchmarks write to a real file, over and over.
+void BM_Write(benchmark::State& state, const FormatRow* format) {
+  const std::unique_ptr<Session> session = NewSession(*format, state.range(0));
+  const File file(std::tmpfile());
+  for (auto _ : state) {
+    session->ExportTo(file.get());
+    std::rewind(file.get());
+  }
+  ReportPerStudent(state);
+}
+
+void BM_WriteFloor(benchmark::State& state, const FormatRow* format) {
+  const File file(std::tmpfile());
+  NewSession(*format, state.range(0))->ExportTo(file.get());
+  std::string bytes(static_cast<size_t>(std::ftell(file.get())), '\0');
+  std::rewind(file.get());
+  if (std::fread(bytes.data(), 1, bytes.size(), file.get()) != bytes.size())
+    state.SkipWithError("cannot read");
+  for (auto _ : state) {
+    std::rewind(file.get());
+    std::fwrite(bytes.data(), 1, bytes.size(), file.get());
+    std::fflush(file.get());
+  }
+  state.counters["bytes"] = static_cast<double>(bytes.size());
+  ReportPerStudent(state);
+}
+
+void BM_CheckIdentifiers(benchmark::State& state) {
+  const qz::ClassRecord& record = Class(state.range(0));
+  for (auto _ : state) benchmark::DoNotOptimize(CheckUserIDs(record, qz::kUserIDStudentID));
+  ReportPerStudent(state);
+}
+
+void Sizes(benchmark::internal::Benchmark* benchmark) {
+  benchmark->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
+}
+
+[[maybe_unused]] const bool kRegistered = [] {
+  benchmark::RegisterBenchmark("read_floor", BM_ReadFloor)->Apply(Sizes);
+  benchmark::RegisterBenchmark("read", BM_Read)->Apply(Sizes);
+  benchmark::RegisterBenchmark("check_identifiers", BM_CheckIdentifiers)->Apply(Sizes);
+  for (const FormatRow& format : FormatTable()) {
+    const std::string key = format.key;
+    benchmark::RegisterBenchmark(("write_" + key).c_str(), BM_Write, &format)->Apply(Sizes);
+    benchmark::RegisterBenchmark(("write_floor_" + key).c_str(), BM_WriteFloor, &format)->Apply(Sizes);
+  }
+  return true;
+}();
+
+}  // namespace

@@ -13,8 +13,8 @@ import unittest
 import xml.etree.ElementTree as ElementTree
 
 sys.path.insert(0, os.path.dirname(__file__))
-from support import (ANN, BOB, CAT, CLASS_FILE, DONE, GXEXPORT, IDENTIFIERS, OUTPUT, QUIZ, SAMPLE, USAGE,  # noqa: E402
-                     FolderTest, assignment, class_xml, run, student)
+from support import (ANN, BOB, CAT, CLASS_FILE, DONE, GXEXPORT, IDENTIFIERS, OUTPUT, QUIZ, SAMPLE,  # noqa: E402
+                     UNPRIVILEGED, USAGE, FolderTest, assignment, class_xml, run, student)
 
 FORMATS = json.loads(run("formats", "--json").stdout)
 CONTROL = re.compile(r"[\x00-\x09\x0b-\x1f\x7f-\x9f]")  # all but the line feed
@@ -325,7 +325,9 @@ class Output(FolderTest):
         self.assertEqual(self.written(), b"before\n" + self.expected)
 
     def test_full_disk(self):
-        self.check(self.export("/dev/full"), OUTPUT, "cannot write /dev/full: No space left on device")
+        data = SAMPLE.read_bytes()
+        direct = self.export("/dev/full", source="-", stdin=data, **UNPRIVILEGED)
+        self.check(direct, OUTPUT, "cannot write /dev/full: No space left on device")
         with open("/dev/full", "wb") as full:
             for args in (["export", "-f", "6", SAMPLE], ["formats"], ["inspect", SAMPLE], ["--help"]):
                 self.check(run(*args, stdout=full), OUTPUT, "(standard output): No space left on device")
@@ -344,18 +346,17 @@ class Output(FolderTest):
         self.assert_only()
 
     def test_permissions_are_respected(self):
-        somebody = {"user": 65534, "group": 65534, "extra_groups": []} if os.geteuid() == 0 else {}
         self.output.write_bytes(b"old")
         self.output.chmod(0o444)
-        if somebody:
+        if UNPRIVILEGED:
             os.chown(self.folder, 65534, 65534)
             os.chown(self.output, 65534, 65534)
         source = self.folder / "class.xml"
         source.write_bytes(SAMPLE.read_bytes())
-        self.check(self.export(self.output, source=source, **somebody), OUTPUT, "Permission denied")
+        self.check(self.export(self.output, source=source, **UNPRIVILEGED), OUTPUT, "Permission denied")
         self.folder.chmod(0o555)
         self.addCleanup(self.folder.chmod, 0o755)
-        self.check(self.export(self.folder / "new.csv", source=source, **somebody), OUTPUT, "Permission denied")
+        self.check(self.export(self.folder / "new.csv", source=source, **UNPRIVILEGED), OUTPUT, "Permission denied")
         self.assertEqual(self.written(), b"old")
         self.assert_only("out.csv", "class.xml")
 

@@ -1,0 +1,80 @@
+// Fails each allocation of a read in turn: the read has to tell, keep what was complete, and leak nothing.
+//
+// The tree's malloc and realloc are wrapped by the linker; operator new is replaced. The parser's own
+// allocations are its library's business.
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <fstream>
+#include <new>
+#include <sstream>
+#include <string>
+
+#include "Common/QZXMLParse/QZClassParse.h"
+#include "tests/support/Exported.h"
+
+namespace {
+
+constexpr long kNever = -1;
+long g_allocationsLeft = kNever;  // until the one that fails
+
+bool Fails() {
+  if (g_allocationsLeft == kNever) return false;
+  return g_allocationsLeft == 0 || --g_allocationsLeft == 0;
+}
+
+}  // namespace
+
+extern "C" {
+void* __real_malloc(size_t size);
+void* __real_realloc(void* block, size_t size);
+void* __wrap_malloc(size_t size) {
+  return Fails() ? nullptr : __real_malloc(size);
+}
+void* __wrap_realloc(void* block, size_t size) {
+  return Fails() ? nullptr : __real_realloc(block, size);
+}
+}
+
+// Not inlined, or the compiler sees through them and takes new and free for a mismatch.
+[[gnu::noinline]] void* operator new(size_t size) {
+  void* block = Fails() ? nullptr : __real_malloc(size);
+  if (block == nullptr) throw std::bad_alloc();
+  return block;
+}
+[[gnu::noinline]] void* operator new(size_t size, const std::nothrow_t&) noexcept {
+  return Fails() ? nullptr : __real_malloc(size);
+}
+[[gnu::noinline]] void operator delete(void* block) noexcept {
+  std::free(block);
+}
+[[gnu::noinline]] void operator delete(void* block, size_t) noexcept {
+  std::free(block);
+}
+
+namespace {
+
+TEST(OutOfMemory, EveryAllocationMayFail) {
+  const std::string document = ReadFile(SAMPLES "/village-school.xml");
+  long failing = 1;
+  for (bool parsed = false; !parsed; failing += failing < 3000 ? 1 : 97) {
+    std::istringstream stream(document);
+    qz::ClassRecord record;
+    QZClassParseError error;
+    g_allocationsLeft = failing;
+    parsed = QZClassParse(&record, stream, &error);
+    g_allocationsLeft = kNever;
+    ASSERT_EQ(error.reason == nullptr, parsed) << failing;
+    if (!parsed) {
+      ASSERT_STREQ(error.reason, "out of memory") << failing;
+      ASSERT_GT(error.line, 0U);
+    }
+    ASSERT_LE(record.students.size(), 8U);
+    if (parsed) {
+      EXPECT_EQ(record.assignments.size(), 3U);
+    }
+  }
+  EXPECT_GT(failing, 500) << "the reader allocates more often than that";
+}
+
+}  // namespace

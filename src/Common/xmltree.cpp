@@ -1,6 +1,7 @@
 #include "Common/xmltree.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdlib>
 #include <cstring>
@@ -23,6 +24,38 @@ struct NodeBlock {
   char bytes[64];
 };
 static_assert(offsetof(NodeBlock, node) == 0, "a node's address is its block's");
+
+// Freed blocks, kept for the next nodes: a reader frees and makes the same few again with every record. Not
+// under AddressSanitizer, which then sees any use of a freed node.
+class SpareBlocks {
+ public:
+  ~SpareBlocks() {
+    while (m_count > 0) std::free(m_blocks[--m_count]);
+  }
+
+  NodeBlock* Take() {
+    return m_count > 0 ? m_blocks[--m_count] : static_cast<NodeBlock*>(std::malloc(sizeof(NodeBlock)));
+  }
+
+  void Give(NodeBlock* block) {
+    if (m_count < kCapacity) {
+      m_blocks[m_count++] = block;
+    } else {
+      std::free(block);
+    }
+  }
+
+ private:
+#if defined(__SANITIZE_ADDRESS__)
+  static constexpr size_t kCapacity = 0;
+#else
+  static constexpr size_t kCapacity = 16;
+#endif
+  std::array<NodeBlock*, 16> m_blocks{};
+  size_t m_count = 0;
+};
+
+thread_local SpareBlocks g_spareBlocks;
 
 NodeBlock* _Block(_XmlTreeTag* node) {
   return reinterpret_cast<NodeBlock*>(node);
@@ -122,7 +155,7 @@ void _FreeSubtree(_XmlTreeTag* top) {
     }
     _XmlTreeTag* parent = node == top ? nullptr : node->parent;
     _FreeItemArray(node);
-    std::free(node);
+    g_spareBlocks.Give(_Block(node));
     node = parent;
   }
 }
@@ -196,12 +229,12 @@ bool _JoinAllText(const _XmlTreeTag* node, char* buffer, int32_t size, MapCodePo
 }  // namespace
 
 _XmlTreeTag* XmlTreeNewNode(_XmlTreeTag* parent, int32_t elementID, int32_t line, long byteIndex) {
-  auto* block = static_cast<NodeBlock*>(std::malloc(sizeof(NodeBlock)));
+  NodeBlock* block = g_spareBlocks.Take();
   if (block == nullptr) return nullptr;
   block->node = {elementID, line, byteIndex, parent, 0, 0, nullptr};
   block->bytesUsed = 0;
   if (parent != nullptr && !_AddItem(parent, kXmlTreeChild, nullptr, &block->node)) {
-    std::free(block);
+    g_spareBlocks.Give(block);
     return nullptr;
   }
   return &block->node;

@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr size_t kBufferSize = 64 * 1024;
+constexpr size_t kBufferSize = size_t{64} * 1024;
 
 [[noreturn]] void _Fail(const std::string& text) {
   throw CommandError(kExitClassFile, text);

@@ -83,10 +83,10 @@ ReportOptions _MakeReportOptions(const ExportArguments& arguments) {
   ReportOptions report;
   _ParseReportColumns(arguments.columns, &report);
   if (arguments.answerKey && !report.responses) {
-    _Fail("--answer-key goes with the responses; use --columns responses or both");
+    Warn("--answer-key has no effect without the responses; see --columns");
   }
   if (arguments.pointsPossible && !report.pointsEarned) {
-    _Fail("--points-possible goes with the points; use --columns points or both");
+    Warn("--points-possible has no effect without the points; see --columns");
   }
   report.fieldMask = _ParseReportFields(arguments.fields);
   report.answerKey = arguments.answerKey;
@@ -95,24 +95,26 @@ ReportOptions _MakeReportOptions(const ExportArguments& arguments) {
   return report;
 }
 
-// Refuses what the format would ignore.
-void _RefuseForeignOptions(const ExportArguments& arguments, const FormatRow& format) {
-  const FormatRow& detailed = *FindFormat(kDetailedResultsFormat);
-  if (&format == &detailed && arguments.userIDField) {
-    _Fail("-u does not apply to the detailed report, which has no user identifier; see --fields");
+// Refuses the report's options with other formats; only warns of general ones that a format has no use for.
+void _CheckApplicability(const ExportArguments& arguments, const FormatRow& format) {
+  const bool isDetailed = format.index == kDetailedResultsFormat;
+  if (!isDetailed && !arguments.reportOptions.empty()) {
+    _Fail(arguments.reportOptions.front() + " applies to the format " +
+          FindFormat(kDetailedResultsFormat)->key + " only");
   }
-  if (&format != &detailed && !arguments.reportOptions.empty()) {
-    _Fail(arguments.reportOptions.front() + " applies to the format " + detailed.key + " only");
+  if (isDetailed && arguments.userIDField) {
+    Warn("-u has no effect on the detailed report, which has no user identifier; see --fields");
   }
   if (arguments.noQuotes && !format.hasUnquotedVariant) {
-    _Fail(std::string("--no-quotes does not apply to ") + format.key +
-          "; the formats that can do without are " + UnquotedFormatKeys());
+    Warn(std::string("--no-quotes has no effect on ") + format.key +
+         "; the formats that can do without quotes are " + UnquotedFormatKeys());
   }
 }
 
 template <typename Rows, typename KeyOf>
 std::string _JoinKeys(const Rows& rows, KeyOf keyOf) {
   std::vector<std::string> keys;
+  keys.reserve(rows.size());
   for (const auto& row : rows) keys.emplace_back(keyOf(row));
   return Join(keys, ", ");
 }
@@ -122,7 +124,7 @@ std::string _JoinKeys(const Rows& rows, KeyOf keyOf) {
 ExportOptions MakeExportOptions(const ExportArguments& arguments) {
   ExportOptions options;
   options.format = &_ParseFormat(arguments.format);
-  _RefuseForeignOptions(arguments, *options.format);
+  _CheckApplicability(arguments, *options.format);
   if (arguments.output.empty()) _Fail("-o needs the name of a file");
   options.classFile = arguments.classFile;
   options.outputFile = arguments.output;

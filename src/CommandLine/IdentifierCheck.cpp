@@ -24,6 +24,7 @@ std::string _StudentText(const qz::StudentRecord& student) {
 
 std::string _StudentTexts(const qz::ClassRecord& record, const std::vector<size_t>& students) {
   std::vector<std::string> texts;
+  texts.reserve(students.size());
   for (const size_t index : students) texts.push_back(_StudentText(record.students[index]));
   return Join(texts, ", ");
 }

@@ -19,8 +19,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kMaximumLinks = 40;
-
 [[noreturn]] void _Fail(int error) {
   throw std::system_error(error, std::generic_category());
 }
@@ -42,12 +40,10 @@ bool _IsStandardOutput(const struct stat& state) {
   return fstat(STDOUT_FILENO, &standardOutput) == 0 && _IsSame(state, standardOutput);
 }
 
-// The file that a chain of symbolic links ends at, which need not exist.
+// The file that a chain of symbolic links ends at, which need not exist. The system has followed the chain
+// before, so it does end.
 fs::path _FollowLinks(fs::path path) {
-  for (int links = 0; fs::is_symlink(fs::symlink_status(path)); ++links) {
-    if (links == kMaximumLinks) _Fail(ELOOP);
-    path = path.parent_path() / fs::read_symlink(path);
-  }
+  while (fs::is_symlink(fs::symlink_status(path))) path = path.parent_path() / fs::read_symlink(path);
   return path;
 }
 

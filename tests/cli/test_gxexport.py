@@ -38,9 +38,6 @@ class Usage(FolderTest):
             "id beyond 32 bits": (["export", "-f", "6", "-a", "2147483648", SAMPLE], "'2147483648'"),
             "unknown id": (["export", "-f", "6", "-a", "301", "-a", "-7", SAMPLE], "id -7", "302  Quiz 2: Membranes"),
             "unknown user field": (["export", "-f", "6", "-u", "password", SAMPLE], "'password'", "alias, custom-1"),
-            "user field, detailed": (["export", "-f", "3", "-u", "alias", "-a", "301", SAMPLE], "-u does not apply"),
-            "no quotes, canvas": (["export", "-f", "6", "--no-quotes", SAMPLE], "blackboard8, blackboard91"),
-            "no quotes, detailed": (["export", "-f", "3", "-a", "301", "--no-quotes", SAMPLE], "--no-quotes"),
             "no output name": (["export", "-f", "6", "-o", "", SAMPLE], "-o"),
             "fields, canvas": (["export", "-f", "6", "--fields", "all", SAMPLE], "--fields applies to"),
             "columns, canvas": (["export", "-f", "6", "--columns", "both", SAMPLE], "--columns applies to"),
@@ -49,16 +46,21 @@ class Usage(FolderTest):
             "empty field": (["export", "-f", "3", "-a", "301", "--fields", "alias,", SAMPLE], "''"),
             "all and more": (["export", "-f", "3", "-a", "301", "--fields", "all,alias", SAMPLE], "'all'"),
             "unknown columns": (["export", "-f", "3", "-a", "301", "--columns", "none", SAMPLE], "'none'"),
-            "key without responses": (["export", "-f", "3", "-a", "301", "--columns", "points", "--answer-key", SAMPLE],
-                                      "--answer-key goes with"),
-            "possible without points": (["export", "-f", "3", "-a", "301", "--points-possible", SAMPLE],
-                                        "--points-possible goes with"),
             "detailed, no id": (["export", "-f", "3", SAMPLE], "one assignment", "301  Quiz 1: Cells"),
             "detailed, two ids": (["export", "-f", "3", "-a", "301", "-a", "302", SAMPLE], "one assignment"),
         }
         for name, (args, *fragments) in rows.items():
             with self.subTest(name):
                 self.check(run(*args), USAGE, *fragments)
+
+    def test_superfluous_options_are_told(self):
+        report = ["-f", "detailed", "-a", "301"]
+        for plain, option in [(["-f", "canvas"], ["--no-quotes"]), (report, ["--no-quotes"]), (report, ["-u", "alias"]),
+                              (report, ["--points-possible"]), ([*report, "--columns", "points"], ["--answer-key"])]:
+            with self.subTest(option):
+                result = run("export", *plain, *option, SAMPLE)
+                self.check(result, DONE, f"{option[0]} has no effect")
+                self.assertEqual(result.stdout, run("export", *plain, SAMPLE).stdout)
 
     def test_help_and_version(self):
         for args, text in [(["--help"], "Exit status"), (["--version"], "gxexport 1"), (["export", "--help"], "-u"),

@@ -27,8 +27,8 @@ def detailed_run(r: random.Random, record: ClassRecord) -> Run:
     options = Options(assignments=[r.choice(record.assignments).id])
     options.responses, options.points = COLUMNS[columns]
     options.fields = r.choice([every, [], r.sample(every, r.randrange(1, 15))])
-    options.answer_key = options.responses and r.random() < 0.5         # refused without its column
-    options.points_possible = options.points and r.random() < 0.5       # likewise
+    options.answer_key = r.random() < 0.5
+    options.points_possible = r.random() < 0.5
     options.asterisks = r.random() < 0.5
     named = "all" if options.fields is every else ",".join(options.fields) or "none"
     flags = {"--answer-key": options.answer_key, "--points-possible": options.points_possible,

@@ -162,7 +162,7 @@ class ClassFile:
 
     def content(self) -> str:
         students = [self.student() for _ in range(self.r.choice([0, 1, 3, 6, 12]))]
-        assignments = [self.assignment() for _ in range(self.r.choice([0, 1, 1, 2, 3, 5, 16]))]
+        assignments = [self.assignment() for _ in range(self.r.choice([0, 1, 1, 2, 3, 5, 24]))]
         parts = [self.preferences() for _ in range(self.r.choice([0, 1, 1, 2, 3]))]
         parts += self.leaf("class-name", self.text())
         for name, items in (("student-list", students), ("assignment-list", assignments)):

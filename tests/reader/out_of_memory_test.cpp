@@ -74,7 +74,8 @@ TEST(OutOfMemory, EveryAllocationMayFail) {
       EXPECT_EQ(record.assignments.size(), 3U);
     }
   }
-  EXPECT_GT(failing, 500) << "the reader allocates more often than that";
+  // Freed nodes are reused, but the records' texts and lists alone are more than this.
+  EXPECT_GT(failing, 200) << "the failures did not reach the reader";
 }
 
 }  // namespace

@@ -33,8 +33,8 @@ uint32_t Session::Export(const char* path) {
 
 void Session::ExportTo(std::FILE* file) {
   m_writeError = 0;
+  errno = 0;  // afterwards the reason of the last write that failed
   Write(file);
-  errno = 0;
   if (std::fflush(file) != 0 || std::ferror(file) != 0) m_writeError = _StreamError();
 }
 

@@ -1,6 +1,7 @@
 #include "Common/QZData/QZClass.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace qz {
 
@@ -34,7 +35,9 @@ const ResponseRecord* ResultsRecord::FindResponseForQuestion(const QuestionRecor
 
 double ResultsRecord::GetTotalPoints() const {
   double total = 0.0;
-  for (const ResponseRecord& response : responses) total += response.pointsEarned;
+  for (const ResponseRecord& response : responses) {
+    if (!std::isnan(total)) total += response.pointsEarned;  // of two NaNs the first stays
+  }
   return total;
 }
 

@@ -1,5 +1,7 @@
 #include "Filters/GX_StdCsv/GradebookSession.h"
 
+#include <cmath>
+
 void GradebookSession::Write(std::FILE* file) {
   const Columns columns = SelectedColumns(Class());
   WriteHeader(file, columns);
@@ -11,7 +13,7 @@ void GradebookSession::Write(std::FILE* file) {
     for (const GradeColumn& column : columns) {
       const std::optional<double> points = column.points[row];
       WriteScore(file, *column.assignment, points);
-      runningTotal += points.value_or(0.0);
+      if (!std::isnan(runningTotal)) runningTotal += points.value_or(0.0);  // of two NaNs the first stays
     }
     WriteRowEnd(file, runningTotal);
     WriteText(file, "\n");

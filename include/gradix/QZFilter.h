@@ -24,7 +24,12 @@ extern "C" {
 #define QZFILTER_API
 #endif
 
-/* A file reference: a four-byte tag and a pointer to a path, opaque to the host. 80 bytes, any alignment. */
+/* A file reference, 80 bytes at any alignment. Any host can make one:
+ *   0..3   the tag, bytes 0x46 0x53 0x72 0x66
+ *   4..7   zero
+ *   8      pointer, in the process's width and byte order, to an absolute, NUL-terminated path in the file
+ *          system's bytes; the path must stay valid as long as the reference or a copy of it is used
+ *   then   zero */
 typedef struct FSRef {
   uint8_t hidden[80];
 } FSRef;

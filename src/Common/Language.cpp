@@ -1,0 +1,3 @@
+#include "Common/Language.h"
+
+int16_t gLang = 0;

@@ -1,0 +1,140 @@
+#include "Platform/Core/CFBundle.h"
+
+#include <gtest/gtest.h>
+
+#include "Platform/Core/StringsTable.h"
+#include "tests/platform/temp_folder.h"
+
+namespace {
+
+// A string that lives to the end of the expression; null for a null text.
+class Text {
+ public:
+  explicit Text(const char* text) : m_string(CFStringCreateWithCString(text, kCFStringEncodingUTF8)) {}
+  Text(const Text&) = delete;
+  Text& operator=(const Text&) = delete;
+  ~Text() { CFRelease(m_string); }
+  operator CFStringRef() const { return m_string; }
+
+ private:
+  CFStringRef m_string;
+};
+
+std::string Localized(CFBundleRef bundle, const char* key, const char* value, const char* table) {
+  const CFStringRef text = CFBundleCopyLocalizedString(bundle, Text(key), Text(value), Text(table));
+  std::string result = text == nullptr ? "(null)" : CFStringGetUTF8(text);
+  CFRelease(text);
+  return result;
+}
+
+std::string ResourcePath(CFBundleRef bundle, const char* name, const char* type, const char* subfolder) {
+  const CFURLRef url = CFBundleCopyResourceURL(bundle, Text(name), Text(type), Text(subfolder));
+  std::string path = url == nullptr ? "(none)" : url->path;
+  CFRelease(url);
+  return path;
+}
+
+TEST(CFBundle, FollowsTheEnvironment) {
+  const TempFolder folder;
+  folder.Write("One.bundle/Resources/x", "");
+  folder.Write("Two.bundle/Resources/x", "");
+  folder.Write("file", "");
+  ScopedEnvironment variable("GRADIX_BUNDLE", folder.Path("One.bundle"));
+  const CFBundleRef one = CFBundleGetMainBundle();
+  ASSERT_NE(one, nullptr);
+  variable.Set(folder.Path("Two.bundle/"));
+  EXPECT_NE(CFBundleGetMainBundle(), one);
+  EXPECT_EQ(ResourcePath(CFBundleGetMainBundle(), "x", nullptr, nullptr),
+            folder.Path("Two.bundle/Resources/x"));
+  variable.Set(folder.Path("One.bundle"));
+  EXPECT_EQ(CFBundleGetMainBundle(), one);
+  for (const char* name : {"missing", "file"}) {
+    variable.Set(folder.Path(name));
+    EXPECT_EQ(CFBundleGetMainBundle(), nullptr) << name;
+  }
+  const CFURLRef url = CFBundleCopyBundleURL(one);
+  EXPECT_EQ(url->path, folder.Path("One.bundle"));
+  CFRelease(url);
+  EXPECT_EQ(CFBundleCopyBundleURL(nullptr), nullptr);
+}
+
+TEST(CFBundle, FindsResourcesInsideOnly) {
+  const TempFolder folder;
+  folder.Write("outside", "");
+  folder.Write("B.bundle/Info", "");
+  folder.Write("B.bundle/Resources/page.html", "");
+  folder.Write("B.bundle/Resources/help/page.html", "");
+  const ScopedEnvironment variable("GRADIX_BUNDLE", folder.Path("B.bundle"));
+  const CFBundleRef bundle = CFBundleGetMainBundle();
+  const struct {
+    const char *name, *type, *subfolder, *expected;
+  } rows[] = {
+      {"page.html", nullptr, nullptr, "page.html"}, {"page", "html", "", "page.html"},
+      {"page", "html", "help", "help/page.html"},   {"page", nullptr, nullptr, nullptr},
+      {"help", nullptr, nullptr, nullptr},          {"help/page", "html", nullptr, nullptr},
+      {"page", "html", "help/../help", nullptr},    {"Info", nullptr, "..", nullptr},
+      {"../Info", nullptr, nullptr, nullptr},       {"", nullptr, nullptr, nullptr},
+      {nullptr, "html", nullptr, nullptr},          {"page", "html/../../Info", nullptr, nullptr},
+  };
+  for (const auto& row : rows) {
+    const std::string expected =
+        row.expected == nullptr ? "(none)" : folder.Path(std::string("B.bundle/Resources/") + row.expected);
+    EXPECT_EQ(ResourcePath(bundle, row.name, row.type, row.subfolder), expected)
+        << (row.name == nullptr ? "(null)" : row.name);
+  }
+  EXPECT_EQ(ResourcePath(nullptr, "page.html", nullptr, nullptr), "(none)");
+}
+
+TEST(CFBundle, LocalizesStrings) {
+  const TempFolder folder;
+  folder.Write("B.bundle/Resources/Main.strings", "\"ok\" = \"D'accord\";\n\"empty\" = \"\";\n");
+  folder.Write("B.bundle/Resources/Localizable.strings", "\"ok\" = \"default\";");
+  const ScopedEnvironment variable("GRADIX_BUNDLE", folder.Path("B.bundle"));
+  const CFBundleRef bundle = CFBundleGetMainBundle();
+  EXPECT_EQ(Localized(bundle, "ok", "OK", "Main"), "D'accord");
+  EXPECT_EQ(Localized(bundle, "empty", "x", "Main"), "");
+  EXPECT_EQ(Localized(bundle, "ok", "OK", nullptr), "default");
+  EXPECT_EQ(Localized(bundle, "missing", "value", "Main"), "value");
+  EXPECT_EQ(Localized(bundle, "missing", "", "Main"), "missing");
+  EXPECT_EQ(Localized(bundle, "missing", nullptr, "Main"), "missing");
+  EXPECT_EQ(Localized(bundle, "ok", "value", "NoTable"), "value");
+  EXPECT_EQ(Localized(bundle, "ok", "value", "../Resources/Main"), "value");
+  EXPECT_EQ(Localized(nullptr, "ok", "value", "Main"), "value");
+  EXPECT_EQ(Localized(bundle, nullptr, nullptr, "Main"), "(null)");
+
+  folder.Write("B.bundle/Resources/Main.strings", "\"ok\" = \"changed\";");
+  EXPECT_EQ(Localized(bundle, "ok", "OK", "Main"), "D'accord") << "read once";
+}
+
+TEST(StringsTable, ReadsUpToTheFirstMalformedEntry) {
+  const struct {
+    const char *name, *text;
+    StringsTable expected;
+  } rows[] = {
+      {"empty", "", {}},
+      {"comments", "/* \"x\" = \"y\"; **/ // \"x\"=\"y\";\n\"a\"/*=*/=\"b\" ;", {{u"a", u"b"}}},
+      {"no comment inside a text", "\"/*a\" = \"//b\";", {{u"/*a", u"//b"}}},
+      {"escapes", R"("\"\\" = "\n\r\t\U00e9\U20AC\'";)", {{u"\"\\", u"\n\r\té€'"}}},
+      {"surrogates", R"("a" = "\UD83D\UDE00";)", {{u"a", u"\U0001F600"}}},
+      {"first counts", "\"a\" = \"1\";\"a\" = \"2\";", {{u"a", u"1"}}},
+      {"UTF-8", "\xEF\xBB\xBF\"\xC3\xA9\"=\"\xE2\x82\xAC\";", {{u"é", u"€"}}},
+      {"malformed UTF-8", "\"a\"=\"\xFF\";", {}},
+      {"no semicolon", "\"a\"=\"1\";\"b\"=\"2\" \"c\"=\"3\";", {{u"a", u"1"}}},
+      {"no closing quote", "\"a\"=\"1\";\"b\"=\"2;", {{u"a", u"1"}}},
+      {"unfinished escape", "\"a\"=\"1\";\"b\"=\"\\", {{u"a", u"1"}}},
+      {"short hexadecimal", "\"a\"=\"1\";\"b\"=\"\\U12\";", {{u"a", u"1"}}},
+      {"no hexadecimal", "\"a\"=\"1\";\"b\"=\"\\U12G4\";", {{u"a", u"1"}}},
+      {"unfinished comment", "\"a\"=\"1\";/* \"b\"=\"2\";", {{u"a", u"1"}}},
+      {"without quotes", "\"a\"=\"1\"; b = \"2\";", {{u"a", u"1"}}},
+  };
+  for (const auto& row : rows) EXPECT_EQ(ParseStringsBytes(row.text), row.expected) << row.name;
+
+  const std::string little("\xFF\xFE\"\0\xE9\0\"\0=\0\"\0\xAC\x20\"\0;\0", 18);
+  std::string big;
+  for (size_t i = 0; i < little.size(); i += 2) big.append({little[i + 1], little[i]});
+  EXPECT_EQ(ParseStringsBytes(little), (StringsTable{{u"é", u"€"}}));
+  EXPECT_EQ(ParseStringsBytes(big), (StringsTable{{u"é", u"€"}}));
+  EXPECT_EQ(ParseStringsBytes(little.substr(0, 17)), StringsTable());
+}
+
+}  // namespace

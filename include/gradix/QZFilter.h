@@ -34,8 +34,11 @@ typedef struct FSRef {
   uint8_t hidden[80];
 } FSRef;
 
+/* Windows pass as the window system's id of the window (winId() in Qt), cast to a pointer; null for none. */
+
 /* Asks the user for the output file: receives the dialog window, 0, a buffer of `size` bytes for the path,
- * its size (256) and the host's value from QZEXPORTBEGIN. Returns 0 when a file was chosen. */
+ * its size (256) and the host's value from QZEXPORTBEGIN. Returns 0 when a file was chosen, with its path, in
+ * the file system's bytes, in the buffer. */
 typedef int32_t (*QZFilter_ChooseFileProc)(void* dialog, int32_t reserved, char* path, int32_t size,
                                            uintptr_t value);
 
@@ -66,13 +69,36 @@ typedef struct QZEXPORTFILE {
 /* Returns the number of export formats; their indices start at 0. */
 QZFILTER_API uint32_t QZFilter_GetNumExportFormatsA(void);
 
+/* The session's language: 6 is Spanish, anything else English. Zero at load; the host sets it.
+ * QZFilter_GetExportFormatInfoA sets it back to 0, so set it right before QZFilter_ExportFileA. */
+QZFILTER_API extern int16_t gLang;
+
+/* Tells of the format at a 0-based index. Returns 1, or 0 with the record untouched: for an index that does
+ * not exist, and, after an alert, when the filter's resource file is missing. Sets gLang to 0. */
+QZFILTER_API uint32_t QZFilter_GetExportFormatInfoA(QZEXPORTFORMAT* info, unsigned long index);
+
 /* Begins an export in the format that `begin` names and stores the new session's id in `*id`.
  * Returns QZFILTER_SUCCESS, or QZFILTER_FAILED for a format index that does not exist. `host` is not read. */
 QZFILTER_API uint32_t QZFilter_ExportBeginA(void* host, const QZEXPORTBEGIN* begin, unsigned long* id);
 
+/* Reads the class file into the session, preselects the assignment and shows the options dialog. Returns at
+ * once: the dialog lives in the host's event loop and writes the file when the user presses OK. The dialog
+ * ends the session when it closes. Returns 1 when the class file was read, 0 when it or the filter's resource
+ * file could not be read (no dialog then), QZFILTER_FAILED for an unknown session. `hostWindow` will own the
+ * dialog; `module` is the filter's handle, kept for the call. */
+QZFILTER_API uint32_t QZFilter_ExportFileA(void* hostWindow, unsigned long id, const QZEXPORTFILE* file,
+                                           void* module);
+
 /* Ends an export run. Returns QZFILTER_SUCCESS and does nothing else: the options dialog ends its session
  * when it closes. */
 QZFILTER_API uint32_t QZFilter_ExportEnd(unsigned long id);
+
+/* Returns 0; this filter has no messages of its own. */
+QZFILTER_API uint32_t QZFilter_GetCustomMessageA(void* host, unsigned long id, char* buffer, uint32_t size);
+
+/* Told of the module's being loaded (reason 1) and unloaded; returns 1. A host calls it with its handle of
+ * the module right after loading. */
+QZFILTER_API int32_t DllMain(void* module, uint32_t reason, void* reserved);
 
 #ifdef __cplusplus
 } /* extern "C" */

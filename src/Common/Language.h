@@ -8,9 +8,7 @@
 
 inline constexpr int16_t kLanguageSpanish = 6;
 
-// Set by the host, 0 at first: 6 means Spanish, anything else English.
-extern "C" QZFILTER_API int16_t gLang;
-
+// Of gLang, which the host sets.
 inline bool IsSpanish() {
   return gLang == kLanguageSpanish;
 }

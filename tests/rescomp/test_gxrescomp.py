@@ -38,9 +38,9 @@ class Bytes(FolderTest):
 
     def test_tiny_dialog(self):
         source = dialog(
-            item(1, "button", (192, 160, 88, 30), title="Sí", flags=["notify", "tab"], default=True, cancel=True),
+            item(1, "button", (192, 160, 88, 30), title="Sí", flags=["notify"], default=True, cancel=True),
             item(2, "text", (10, 10, 90, 18), title="Name", labels=3),
-            item(3, "edit", (110, 10, 90, 28), flags=["disabled"], maxLength=1000, tag="Any"),
+            item(3, "edit", (110, 10, 90, 28), flags=["tab", "disabled"], maxLength=1000, tag="Any"),
             item(4, 31, (10, 50, 20, 20), control="user", flags=["hidden"]),
             bounds=[-20, 40, 300, 200], window="movable-modal", closeBox=True, title="Tú")
         self.assertEqual(self.compile(source), {
@@ -53,9 +53,9 @@ class Bytes(FolderTest):
                 "00000000 0032 000A 0046 001E 00 00"),
             ("luDI", 600): hex_bytes(
                 "0000 0004",
-                "00000001 000000F0 0003",
+                "00000001 000000D0 0003",
                 "00000003 000000C0 0003",
-                "00000002 00000180 03E8",
+                "00000002 000001A0 03E8",
                 "0000001F 00000040"),
             ("STR#", 600): hex_bytes("0004 00 00 03", b"Any", "00"),
         })
@@ -156,7 +156,6 @@ class Messages(FolderTest):
             "unknown key": ({"stringLists": [{"id": 1, "string": []}]}, ': stringLists[0]: unknown key "string"'),
             "missing key": ({"stringLists": [{"id": 1}]}, ': stringLists[0]: "strings" is missing'),
             "id": (string_list(0), ": stringLists[0].id: must be from 1 to 32767"),
-            "id beyond 64 bits": (string_list(2 ** 64 - 1), ": stringLists[0].id: must be from 1 to 32767"),
             "fraction": (string_list(1.5), ": stringLists[0].id: must be a whole number"),
             "no text": (string_list(1, "a", 2), ": stringLists[0].strings[1]: must be a text"),
             "not in Roman": (string_list(1, "a", "日"),
@@ -201,6 +200,7 @@ class Messages(FolderTest):
             "window": (dialog(window="modal"), '.window: "modal" is none of movable-modal, modeless, floating'),
             "close box": (dialog(closeBox=1), ".closeBox: must be true or false"),
             "no window": (dialog(bounds=[0, 0, 300, 0]), ".bounds: is empty"),
+            "beyond 63 bits": (dialog(bounds=[2 ** 64 - 1, 0, 300, 9]), ".bounds[0]: must be from -32768 to 32767"),
             "window beyond": (dialog(bounds=[32000, 0, 800, 10]), ".bounds: reaches beyond 32767"),
             "control id": (dialog(button, item(2, "combo", (70, 10, 9, 9)), id=32767),
                            ".items[1]: its control would have the id 32768, beyond 32767"),

@@ -32,8 +32,8 @@ CFStringRef QZLoadCFString(int id) {
   char digits[16];
   std::snprintf(digits, sizeof digits, "%d", id);
   const CFOwned<CFString> key(CFStringCreateWithCString(digits, kCFStringEncodingMacRoman));
-  const CFOwned<CFString> table(CFStringCreateWithCString(IsSpanish() ? "GradixStringsESP" : "GradixStringsENU",
-                                                          kCFStringEncodingMacRoman));
+  const CFOwned<CFString> table(CFStringCreateWithCString(
+      IsSpanish() ? "GradixStringsESP" : "GradixStringsENU", kCFStringEncodingMacRoman));
   if (key == nullptr || table == nullptr) return nullptr;
   return CFBundleCopyLocalizedString(bundle, key.get(), key.get(), table.get());
 }
@@ -45,7 +45,8 @@ std::string QZLoadString(int id) {
 
 std::string VeyCFStringToCString(CFStringRef string) {
   // Room for UTF-8, though the text becomes Mac OS Roman.
-  const CFIndex size = CFStringGetMaximumSizeForEncoding(CFStringGetLength(string), kCFStringEncodingUTF8) + 1;
+  const CFIndex size =
+      CFStringGetMaximumSizeForEncoding(CFStringGetLength(string), kCFStringEncodingUTF8) + 1;
   std::vector<char> buffer(static_cast<size_t>(size));
   CFStringGetCString(string, buffer.data(), size, kCFStringEncodingMacRoman);
   return buffer.data();

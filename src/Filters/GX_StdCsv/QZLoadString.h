@@ -6,8 +6,9 @@
 
 #include "Platform/Core/CFString.h"
 
-// Opens a resource file of the main bundle, its name with extension, and makes it the current one. False, with
-// the current one as it was, when there is no such file. The file stays open for the life of the process.
+// Opens a resource file of the main bundle, its name with extension, and makes it the current one. False,
+// with the current one as it was, when there is no such file. The file stays open for the life of the
+// process.
 bool _LoadExtraResourceFile(const char* name);
 
 // The resource file of the session's language.

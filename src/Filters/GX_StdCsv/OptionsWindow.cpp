@@ -1,0 +1,225 @@
+#include "Filters/GX_StdCsv/OptionsWindow.h"
+
+#include "Common/Language.h"
+#include "Common/help.h"
+#include "Filters/GX_StdCsv/OptionsDialog.h"
+#include "Filters/GX_StdCsv/OptionsTexts.h"
+#include "Filters/GX_StdCsv/QZLoadString.h"
+#include "Filters/GX_StdCsv/RosterCheck.h"
+#include "Toolkit/Alert.h"
+#include "Toolkit/Buttons.h"
+#include "Toolkit/CBCombo.h"
+#include "Toolkit/DLGFocus.h"
+#include "Toolkit/DLGItems.h"
+#include "Toolkit/DLGManager.h"
+#include "Toolkit/LBList.h"
+
+namespace {
+
+constexpr int32_t kOptionsDialog = 29000;
+
+enum Item : int32_t {
+  kPrompt = 3,
+  kPopupLabel = 4,
+  kFieldPopup = 5,
+  kAssignments = 7,
+  kSelectAll = 8,
+  kClearAll = 9,
+  kHelp = 10,
+  kOK = 11,
+  kCancel = 12,
+  kAssignmentsLabel = 14,
+  kIDName = 15,
+  kFirstBlackboardItem = 16,
+  kStandardFile = 18,
+  kWithQuotes = 19,
+  kWithoutQuotes = 20,
+};
+
+constexpr int32_t kDateTab = 200;
+constexpr size_t kLongName = 30;
+constexpr size_t kKeptName = 31;
+constexpr int kSavedMessage = 70066;
+constexpr int kAssignmentsLabelID = 70336;
+constexpr int16_t kNothingChecked = 1;  // information
+constexpr int16_t kText = 1;            // error
+constexpr int32_t kHelpTopic = 1;       // command
+
+Session* m_ptSession = nullptr;
+qz::ClassRecord* m_ptClass = nullptr;
+qz::UserIDField s_nUserIDField = qz::kUserIDAlias;  // as the last successful OK had it
+
+}  // namespace
+
+// Takes up the session of the dialog at work. False when it is gone.
+static bool _UseSession(const DLGRecord* dialog) {
+  m_ptSession = SessionOfDialog(dialog);
+  m_ptClass = m_ptSession == nullptr ? nullptr : m_ptSession->GetClass();
+  return m_ptSession != nullptr;
+}
+
+static uint32_t _FormatIndex() {
+  return m_ptSession->GetExportInfo().formatIndex;
+}
+
+// The texts of a format that has none.
+static const OptionsTexts& _Texts() {
+  static constexpr OptionsTexts kNone{"", "", "", kOtherHelpTopic, "", "", 0, 0, 0, false, false};
+  const OptionsTexts* texts = FindOptionsTexts(_FormatIndex());
+  return texts == nullptr ? kNone : *texts;
+}
+
+static void _SetFormatTexts(DLGRecord* dialog, const OptionsTexts& texts) {
+  if (IsSpanish() && texts.spanishIDName != 0) {
+    SetText(dialog, kIDName, QZLoadString(texts.spanishIDName).c_str(), true);
+    SetText(dialog, kPrompt, QZLoadString(texts.spanishPrompt).c_str(), false);
+    SetText(dialog, kPopupLabel, QZLoadString(texts.spanishPopupLabel).c_str(), false);
+    return;
+  }
+  SetText(dialog, kIDName, texts.idName, true);
+  SetText(dialog, kPrompt, texts.prompt, false);
+  SetText(dialog, kPopupLabel, texts.popupLabel, false);
+}
+
+static void _SetUpBlackboardItems(DLGRecord* dialog, const OptionsTexts& texts) {
+  for (int32_t item = kStandardFile; item <= kWithoutQuotes; ++item) {
+    EnableDLGItem(dialog, item, texts.hasQuotes);
+  }
+  if (!texts.isBlackboard) return;
+  for (int32_t item = kFirstBlackboardItem; item <= kWithoutQuotes; ++item) ShowDLGItem(dialog, item, true);
+}
+
+static void _FillFieldPopup(DLGRecord* dialog) {
+  static constexpr const char* kEnglish[] = {"First name", "Last name", "Student ID", "Student alias"};
+  static constexpr const char* kSpanish[] = {"Nombre", "Apellido", "Id. de estudiante",
+                                             "Alias del estudiante"};
+  for (const char* field : IsSpanish() ? kSpanish : kEnglish) {
+    CBInsertItem(dialog, kFieldPopup, field, kRowLast);
+  }
+  for (const std::string& label : m_ptClass->customLabels) {
+    CBInsertItem(dialog, kFieldPopup, label.c_str(), kRowLast);
+  }
+  CBSetSelect(dialog, kFieldPopup, DefaultUserIDRow(_FormatIndex()));
+}
+
+static void _FillAssignments(DLGRecord* dialog) {
+  LBSetTabs(dialog, kAssignments, 1, &kDateTab);
+  for (qz::AssignmentRecord& assignment : m_ptClass->assignments) {
+    // Cuts long names in the record, so the file has them cut, too. Of exactly 30 characters there is nothing
+    // to cut: erase throws, and hosts know such an export as one that fails.
+    if (assignment.name.size() >= kLongName) assignment.name.erase(kKeptName);
+    const std::string row = std::string(assignment.name).append("\t").append(assignment.date);
+    const int32_t index = LBInsertItem(dialog, kAssignments, row.c_str(), kRowLast);
+    if (index >= 0) LBSetCheck(dialog, kAssignments, index, assignment.selected);
+  }
+  LBSelectItem(dialog, kAssignments, 0, true);
+}
+
+static void _FillMainOptions(DLGRecord* dialog) {
+  if (IsSpanish()) SetText(dialog, kAssignmentsLabel, QZLoadString(kAssignmentsLabelID).c_str(), true);
+  SetExportTitle(dialog, *m_ptSession);  // from here on the language is English
+  _SetFormatTexts(dialog, _Texts());
+  _SetUpBlackboardItems(dialog, _Texts());
+  _FillFieldPopup(dialog);
+  _FillAssignments(dialog);
+}
+
+static bool _IsAnyChecked(DLGRecord* dialog) {
+  for (int32_t row = 0; row < LBGetCount(dialog, kAssignments); ++row) {
+    if (LBGetCheck(dialog, kAssignments, row) != 0) return true;
+  }
+  return false;
+}
+
+static qz::UserIDField _ChosenField(DLGRecord* dialog) {
+  const int32_t row = CBGetSelect(dialog, kFieldPopup);
+  constexpr int32_t kLastRow = qz::kUserIDCustom3 - 1;
+  return row >= 0 && row <= kLastRow ? static_cast<qz::UserIDField>(row + 1) : s_nUserIDField;
+}
+
+// Warns of students without an identifier. False when the export cannot go on; the dialog may be gone.
+static bool _CheckIdentifiers(DLGRecord* dialog, qz::UserIDField field) {
+  const RosterCheck check = CheckUserIDs(*m_ptClass, field);
+  const DLGWatch watch(dialog);
+  if (check.SomeEmpty()) {
+    ErrorAlert(kText, Utf8Text{SomeEmptyMessage(_Texts(), check.empty.size(), check.studentCount)});
+  } else if (check.AllEmpty()) {
+    ErrorAlert(kText, Utf8Text{AllEmptyMessage(_Texts())});
+    return false;
+  }
+  return watch.IsLive() && !check.HasDuplicates();  // duplicates stop without a word
+}
+
+static void _StoreChoices(DLGRecord* dialog, qz::UserIDField field, const std::string& path) {
+  m_ptClass->exportPath = path;
+  for (size_t i = 0; i < m_ptClass->assignments.size(); ++i) {
+    m_ptClass->assignments[i].selected = LBGetCheck(dialog, kAssignments, static_cast<int32_t>(i)) == 1;
+  }
+  s_nUserIDField = field;
+  m_ptClass->userIDField = field;
+}
+
+static void OnOK(DLGRecord* dialog) {
+  if (!_IsAnyChecked(dialog)) {
+    InfoAlert(kNothingChecked);
+    return;
+  }
+  const qz::UserIDField field = _ChosenField(dialog);
+  if (!_CheckIdentifiers(dialog, field)) return;
+  std::string path;
+  if (!ChooseOutputFile(dialog, &path) || !_UseSession(dialog)) return;
+  _StoreChoices(dialog, field, path);
+  ExportAndClose(dialog, kSavedMessage);
+}
+
+static void OnCancel(DLGRecord* dialog) {
+  MyCloseDialog(dialog);
+}
+
+static void OnSelectAll(DLGRecord* dialog) {
+  CheckAllRows(dialog, kAssignments, true);
+}
+
+static void OnClearAll(DLGRecord* dialog) {
+  CheckAllRows(dialog, kAssignments, false);
+}
+
+// Of the three kinds of file the one that was chosen last is marked.
+static void _ChooseFileKind(DLGRecord* dialog, int32_t chosen) {
+  m_ptSession->SetUseQuotes(chosen != kWithoutQuotes);
+  for (int32_t item = kStandardFile; item <= kWithoutQuotes; ++item) {
+    CKSetCheck(dialog, item, item == chosen ? 1 : 0, 0, false);
+  }
+}
+
+static intptr_t _DoOptions(DLGRecord* dialog, int32_t item) {
+  if (!_UseSession(dialog) && item != kCancel) return 0;
+  switch (item) {
+    case kSelectAll: OnSelectAll(dialog); break;
+    case kClearAll: OnClearAll(dialog); break;
+    case kHelp: Help(dialog->window, kHelpTopic, _Texts().helpTopic); break;
+    case kOK: OnOK(dialog); break;
+    case kCancel: OnCancel(dialog); break;
+    case kStandardFile:
+      _ChooseFileKind(dialog, item);
+      EnableDLGItem(dialog, kWithQuotes, false);
+      EnableDLGItem(dialog, kWithQuotes, false);
+      break;
+    case kWithQuotes:
+    case kWithoutQuotes: _ChooseFileKind(dialog, item); break;
+    default: break;
+  }
+  return 0;
+}
+
+bool DisplayOptionsDialog(void* hostWindow, Session* session, qz::ClassRecord* record) {
+  m_ptSession = session;
+  m_ptClass = record;
+  return ShowOptionsDialog(hostWindow, kOptionsDialog, _DoOptions, [](DLGRecord* dialog) {
+    LBSetRedraw(dialog, kAssignments, true);
+    _FillMainOptions(dialog);
+    SetFocusDLG(dialog, kAssignments);
+    CenterDLG(dialog);
+    dialog->changed = 0;
+  });
+}

@@ -1,0 +1,114 @@
+#include "Platform/Ui/Drawing.h"
+
+#include <QApplication>
+#include <QFontMetrics>
+#include <QStyle>
+#include <QStyleOptionButton>
+#include <algorithm>
+#include <string>
+
+#include "Platform/Ui/Events.h"
+#include "Platform/Ui/QtDrawing.h"
+#include "Platform/Ui/QtRegistry.h"
+#include "Platform/Ui/QtText.h"
+
+namespace ui {
+
+QRect ToQRect(const Rect& rect) {
+  return {rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top};
+}
+
+Rect ToRect(const QRect& rect) {
+  return {ToInt16(rect.top()), ToInt16(rect.left()), ToInt16(rect.top() + rect.height()),
+          ToInt16(rect.left() + rect.width())};
+}
+
+}  // namespace ui
+
+static QStyle* _StyleOf(const DrawContext& context) {
+  return context.widget != nullptr ? context.widget->style() : QApplication::style();
+}
+
+static QStyleOptionViewItem _OptionFor(const DrawContext& context, const Rect& bounds, DrawState state) {
+  QStyleOptionViewItem option = *context.option;
+  option.rect = ui::ToQRect(bounds);
+  option.state.setFlag(QStyle::State_Selected, state.selected);
+  option.state.setFlag(QStyle::State_Enabled, state.active);
+  option.state.setFlag(QStyle::State_HasFocus, state.focused);
+  return option;
+}
+
+// In the frontmost row of a list with the keyboard, the focus mark is drawn as well.
+void DrawThemeRow(DrawContext* context, const Rect& bounds, DrawState state) {
+  if (context == nullptr) return;
+  const QStyleOptionViewItem option = _OptionFor(*context, bounds, state);
+  QStyle* const style = _StyleOf(*context);
+  style->drawPrimitive(QStyle::PE_PanelItemViewItem, &option, context->painter, context->widget);
+  if (!state.focused || !context->option->state.testFlag(QStyle::State_HasFocus)) return;
+  QStyleOptionFocusRect focus;
+  focus.QStyleOption::operator=(option);
+  focus.state |= QStyle::State_KeyboardFocusChange | QStyle::State_Item;
+  focus.backgroundColor = option.palette.color(state.selected ? QPalette::Highlight : QPalette::Base);
+  style->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, context->painter, context->widget);
+}
+
+static QPalette::ColorGroup _ColorGroup(const DrawContext& context, DrawState state) {
+  if (!state.active) return QPalette::Disabled;
+  return context.option->state.testFlag(QStyle::State_Active) ? QPalette::Normal : QPalette::Inactive;
+}
+
+void DrawThemeText(DrawContext* context, std::string_view text, const Rect& bounds, DrawState state) {
+  if (context == nullptr) return;
+  const QRect place = ui::ToQRect(bounds);
+  const QPalette::ColorRole role = state.selected ? QPalette::HighlightedText : QPalette::Text;
+  QPainter& painter = *context->painter;
+  painter.save();
+  painter.setFont(context->option->font);
+  painter.setPen(context->option->palette.color(_ColorGroup(*context, state), role));
+  const QString shown =
+      QFontMetrics(painter.font()).elidedText(ui::FromMacRoman(text), Qt::ElideRight, place.width());
+  painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, shown);
+  painter.restore();
+}
+
+void DrawThemeCheckBox(DrawContext* context, const Rect& bounds, bool checked, DrawState state) {
+  if (context == nullptr) return;
+  QStyleOptionViewItem option = _OptionFor(*context, bounds, state);
+  option.state.setFlag(QStyle::State_HasFocus, false);
+  option.state.setFlag(checked ? QStyle::State_On : QStyle::State_Off);
+  option.features |= QStyleOptionViewItem::HasCheckIndicator;
+  option.checkState = checked ? Qt::Checked : Qt::Unchecked;
+  _StyleOf(*context)->drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &option, context->painter,
+                                    context->widget);
+}
+
+Point GetThemeCheckBoxSize() {
+  if (!InitApplication()) return {};
+  const QStyle* const style = QApplication::style();
+  return {ui::ToInt16(style->pixelMetric(QStyle::PM_IndicatorHeight)),
+          ui::ToInt16(style->pixelMetric(QStyle::PM_IndicatorWidth))};
+}
+
+static Point _Measure(std::string_view text, const QFont& font) {
+  const QFontMetrics metrics(font);
+  QString shown = ui::FromMacRoman(text);
+  shown.replace(QLatin1Char('\r'), QLatin1Char('\n'));
+  int width = 0;
+  int lines = 0;
+  for (const QString& line : shown.split(QLatin1Char('\n'))) {
+    width = std::max(width, metrics.horizontalAdvance(line));
+    ++lines;
+  }
+  return {ui::ToInt16(metrics.height() + (lines - 1) * metrics.lineSpacing()), ui::ToInt16(width)};
+}
+
+Point GetThemeTextDimensions(std::string_view text, int16_t themeFont, bool /*active*/) {
+  if (!InitApplication()) return {};
+  const int size = themeFont > 0 ? -themeFont : themeFont;
+  return _Measure(text, ui::FontOf(0, ui::ToInt16(size)));
+}
+
+Point MeasurePortText(WindowRef window, std::string_view text, int16_t font, int16_t size) {
+  if (ui::FindWindow(window) == nullptr) return {};
+  return _Measure(text, ui::FontOf(font, size));
+}

@@ -1,0 +1,139 @@
+#include "Platform/Ui/Events.h"
+
+#include <QApplication>
+#include <QCursor>
+#include <QTimer>
+#include <algorithm>
+#include <chrono>
+#include <limits>
+
+#include "Platform/Ui/EventQueue.h"
+#include "Platform/Ui/QtRegistry.h"
+#include "Platform/Ui/QtText.h"
+
+constexpr int kTicksPerSecond = 60;
+
+static uint32_t g_beepCount = 0;
+
+void InstallDialogEventHandlers(const DialogEventHandlers& handlers) {
+  ui::EventQueue::Get().SetHandlers(handlers);
+}
+
+// Never freed: it must outlive every widget.
+static void _MakeApplication() {
+  static int argumentCount = 1;
+  static char name[] = "gradix";
+  static char* arguments[] = {name, nullptr};
+  static auto* const application = new QApplication(argumentCount, arguments);
+  application->setQuitOnLastWindowClosed(false);
+}
+
+bool InitApplication() {
+  if (QCoreApplication::instance() == nullptr) _MakeApplication();
+  if (qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr) return false;
+  ui::EventQueue::Get().Connect();
+  return true;
+}
+
+bool IsFrontProcess() {
+  if (FrontWindow() == nullptr || QCoreApplication::instance() == nullptr) return true;
+  if (QGuiApplication::platformName() == QLatin1String("offscreen")) return true;
+  return QGuiApplication::applicationState() == Qt::ApplicationActive;
+}
+
+void RunEventPass(uint32_t ticks) {
+  if (!InitApplication()) return;
+  constexpr uint32_t kMostTicks = 60 * 60 * 60;
+  QEventLoop::ProcessEventsFlags flags = QEventLoop::AllEvents;
+  QTimer limit;
+  if (ticks > 0) {
+    flags |= QEventLoop::WaitForMoreEvents;
+    limit.setSingleShot(true);
+    limit.setTimerType(Qt::PreciseTimer);
+    limit.start(static_cast<int>(std::min(ticks, kMostTicks) * 1000 / kTicksPerSecond));
+  }
+  QCoreApplication::processEvents(flags);
+  ui::FreeRemovedWidgets();
+}
+
+uint32_t TickCount() {
+  using Ticks = std::chrono::duration<int64_t, std::ratio<1, kTicksPerSecond>>;
+  const auto now = std::chrono::steady_clock::now().time_since_epoch();
+  return static_cast<uint32_t>(std::chrono::duration_cast<Ticks>(now).count());
+}
+
+bool StillDown() {
+  return ui::EventQueue::Get().StillDown();
+}
+
+Point GetMouse(WindowRef window) {
+  const ui::WindowRecord* const record = ui::FindWindow(window);
+  if (record == nullptr) return {};
+  const QPoint position = record->widget->mapFromGlobal(ui::EventQueue::Get().LastMousePosition());
+  return {ui::ToInt16(position.y()), ui::ToInt16(position.x())};
+}
+
+uint16_t GetCurrentKeyModifiers() {
+  if (QCoreApplication::instance() == nullptr) return 0;
+  return ui::ModifiersOf(QGuiApplication::keyboardModifiers());
+}
+
+uint32_t GetCaretTicks() {
+  constexpr uint32_t kDefault = 30;
+  if (!InitApplication()) return kDefault;
+  const int milliseconds = QApplication::cursorFlashTime() / 2;
+  return milliseconds <= 0 ? kDefault : static_cast<uint32_t>(milliseconds * kTicksPerSecond / 1000);
+}
+
+void SysBeep(int16_t /*duration*/) {
+  ++g_beepCount;
+  if (InitApplication()) QApplication::beep();
+}
+
+uint32_t GetBeepCount() {
+  return g_beepCount;
+}
+
+void InitCursor() {
+  if (!InitApplication()) return;
+  while (QApplication::overrideCursor() != nullptr) QApplication::restoreOverrideCursor();
+}
+
+struct OpaqueEventLoopTimer : QTimer {
+  bool firing = false;
+  bool removed = false;
+};
+
+static void _Fire(EventLoopTimerRef timer, void (*proc)(void* data), void* data) {
+  if (timer->firing || timer->removed) return;
+  timer->firing = true;
+  try {
+    proc(data);
+  } catch (...) {
+    timer->removed = true;
+  }
+  timer->firing = false;
+  if (timer->removed) {
+    timer->stop();
+    timer->deleteLater();
+  }
+}
+
+EventLoopTimerRef InstallEventLoopTimer(uint32_t milliseconds, void (*proc)(void* data), void* data) {
+  constexpr uint32_t kLongest = std::numeric_limits<int>::max();
+  if (proc == nullptr || !InitApplication()) return nullptr;
+  auto* const timer = new OpaqueEventLoopTimer;
+  QObject::connect(timer, &QTimer::timeout, timer, [timer, proc, data] { _Fire(timer, proc, data); });
+  timer->start(static_cast<int>(std::min(milliseconds, kLongest)));
+  return timer;
+}
+
+void RemoveEventLoopTimer(EventLoopTimerRef timer) {
+  if (timer == nullptr) return;
+  timer->stop();
+  if (timer->firing) {
+    timer->removed = true;  // freed when its procedure has returned
+  } else {
+    delete timer;
+  }
+}

@@ -1,0 +1,111 @@
+#include "Toolkit/Alert.h"
+
+#include "Platform/Core/CFOwned.h"
+#include "Platform/Core/CFString.h"
+#include "Platform/Core/Resources.h"
+#include "Platform/Ui/Alerts.h"
+#include "Platform/Ui/Events.h"
+
+namespace {
+
+constexpr int16_t kBeepDuration = 12;
+
+struct AlertResources {
+  void* instance = nullptr;
+  int16_t error = 0;
+  int16_t caution = 0;
+  int16_t information = 0;
+};
+
+AlertResources s_resources;
+
+}  // namespace
+
+int32_t mapTable[kAlertMapSize];
+
+void SetAlertMap(uint32_t index, int32_t value) {
+  if (index < kAlertMapSize) mapTable[index] = value;
+}
+
+void InitAlert(void* instance, int16_t errorID, int16_t cautionID, int16_t informationID) {
+  s_resources = {instance, errorID, cautionID, informationID};
+}
+
+static std::string _TextOf(const AlertArgument& argument) {
+  if (const auto* number = std::get_if<int64_t>(&argument)) return std::to_string(*number);
+  if (const auto* utf8 = std::get_if<Utf8Text>(&argument)) return utf8->text;
+  return MacRomanToUTF8(std::get<std::string>(argument));
+}
+
+namespace {
+
+// A place for an argument at the front of a text, or "%%".
+struct Place {
+  size_t length = 0;  // 0: no place
+  char conversion = '\0';
+};
+
+}  // namespace
+
+static Place _PlaceAt(std::string_view text) {
+  const size_t end = text.find_first_not_of('l', 1);
+  if (end == std::string_view::npos || end > 3) return {};
+  const char conversion = text[end];
+  const bool known = std::string_view("diu").find(conversion) != std::string_view::npos ||
+                     (end == 1 && (conversion == 's' || conversion == '%'));
+  return known ? Place{end + 1, conversion} : Place{};
+}
+
+std::string ExpandAlertText(std::string_view format, std::span<const AlertArgument> arguments) {
+  std::string roman;  // what was copied from the format so far and not yet converted
+  std::string result;
+  const auto flush = [&] {
+    result += MacRomanToUTF8(roman);
+    roman.clear();
+  };
+  while (!format.empty()) {
+    const Place place = format.front() == '%' ? _PlaceAt(format) : Place{};
+    const bool percent = place.conversion == '%';
+    const bool fits = place.length > 0 && !percent && !arguments.empty() &&
+                      (place.conversion == 's' || std::holds_alternative<int64_t>(arguments.front()));
+    if (fits) {
+      flush();
+      result += _TextOf(arguments.front());
+      arguments = arguments.subspan(1);
+    } else {
+      roman += format.front();
+    }
+    format.remove_prefix(fits || percent ? place.length : 1);
+  }
+  flush();
+  return result;
+}
+
+// The arguments' texts, for an alert whose string is missing.
+static std::string _JoinArguments(std::span<const AlertArgument> arguments) {
+  std::string text;
+  for (const AlertArgument& argument : arguments) {
+    if (!text.empty()) text += ' ';
+    text += _TextOf(argument);
+  }
+  return text;
+}
+
+void ShowNumberedAlert(AlertStrings strings, int16_t number, std::span<const AlertArgument> arguments) {
+  const int16_t id = strings == AlertStrings::error     ? s_resources.error
+                     : strings == AlertStrings::caution ? s_resources.caution
+                                                        : s_resources.information;
+  const AlertType type = strings == AlertStrings::error     ? kAlertStopAlert
+                         : strings == AlertStrings::caution ? kAlertCautionAlert
+                                                            : kAlertNoteAlert;
+  const std::string format = GetIndString(id, number);
+  const std::string text = format.empty() ? _JoinArguments(arguments) : ExpandAlertText(format, arguments);
+  if (text.empty() || !InitApplication()) {
+    SysBeep(kBeepDuration);
+    return;
+  }
+  const CFStringRef message =
+      CFStringCreateWithBytes(text.data(), static_cast<CFIndex>(text.size()), kCFStringEncodingUTF8);
+  StandardAlert(type, message, nullptr, {});
+  CFRelease(message);
+}

@@ -1,0 +1,103 @@
+#include "Toolkit/Buttons.h"
+
+#include "Platform/Ui/Events.h"
+#include "Toolkit/DLGManager.h"
+#include "Toolkit/ItemControls.h"
+#include "Toolkit/LBInternal.h"
+
+namespace {
+
+enum ButtonBits : uint16_t { kButtonDefault = 0x01, kButtonCancel = 0x02 };
+
+void MarkDefault(DLGRecord* dialog, int32_t item) {
+  dialog->defaultButton = item;
+  SetDialogDefaultItem(dialog->dialog, static_cast<int16_t>(item));
+}
+
+bool IsItemOrNone(DLGRecord* dialog, int32_t item) {
+  return item == -1 || DLGFindItem(dialog, item) != nullptr;
+}
+
+}  // namespace
+
+static intptr_t _CreateButton(DLGRecord* dialog, int32_t item, intptr_t data) {
+  uint16_t bits = 0;
+  if (!ReadItemWord(dialog, data, &bits)) return -1;
+  if ((bits & kButtonDefault) != 0) MarkDefault(dialog, item);
+  if ((bits & kButtonCancel) != 0) dialog->cancelItem = item;
+  return sizeof bits;
+}
+
+// Return belongs to a focused list that has a use for it, Enter never does.
+static bool _ClaimsKey(DLGRecord* dialog, int32_t item, DLGKeyPress key) {
+  if (item == dialog->defaultButton && key.modifiers == 0) {
+    if (key.character == kEnterChar) return true;
+    if (key.character == kReturnChar && !LBUsesReturn(dialog, dialog->focusItem)) return true;
+  }
+  if (item == dialog->cancelItem) {
+    if (key.character == kEscapeChar && key.modifiers == 0) return true;
+    if (key.character == '.' && key.modifiers == cmdKey) return true;
+  }
+  return false;
+}
+
+intptr_t BTItemProc(DLGRecord* dialog, int32_t item, int32_t message, intptr_t param1, intptr_t param2) {
+  const DLGItem* const found = DLGFindItem(dialog, item);
+  if (found == nullptr) return 0;
+  switch (message) {
+    case kDLGCreate: return _CreateButton(dialog, item, param1);
+    case kDLGHotKey: return ItemReacts(*found) && _ClaimsKey(dialog, item, DLGUnpackKey(param1)) ? 1 : 0;
+    case kDLGKey:
+      return ItemReacts(*found) && IsPressingSpace(DLGUnpackKey(param1)) ? kKeyChanged : kKeyNotUsed;
+    default: return ControlItemProc(dialog, item, message, param1, param2);
+  }
+}
+
+void BTSetDefButton(DLGRecord* dialog, int32_t item) {
+  if (DialogIsValid(dialog) && IsItemOrNone(dialog, item)) MarkDefault(dialog, item);
+}
+
+void BTSetCancelItem(DLGRecord* dialog, int32_t item) {
+  if (DialogIsValid(dialog) && IsItemOrNone(dialog, item)) dialog->cancelItem = item;
+}
+
+intptr_t CKItemProc(DLGRecord* dialog, int32_t item, int32_t message, intptr_t param1, intptr_t param2) {
+  if (message != kDLGKey) return ControlItemProc(dialog, item, message, param1, param2);
+  const DLGItem* const found = DLGFindItem(dialog, item);
+  if (found == nullptr || !ItemReacts(*found) || !IsPressingSpace(DLGUnpackKey(param1))) return kKeyNotUsed;
+  SetControlValue(found->control, GetControlValue(found->control) == 0 ? 1 : 0);
+  return kKeyChanged;
+}
+
+void CKSetCheck(DLGRecord* dialog, int32_t item, int16_t value, int32_t /*unused*/, bool markChanged) {
+  const DLGItem* const found = FindItemOfLiveDialog(dialog, item);
+  if (found == nullptr) return;
+  SetControlValue(found->control, value);
+  if (markChanged) dialog->changed = 1;
+}
+
+int16_t CKGetCheck(DLGRecord* dialog, int32_t item) {
+  const DLGItem* const found = FindItemOfLiveDialog(dialog, item);
+  return found != nullptr ? static_cast<int16_t>(GetControlValue(found->control)) : int16_t{0};
+}
+
+intptr_t RBItemProc(DLGRecord* dialog, int32_t item, int32_t message, intptr_t param1, intptr_t param2) {
+  static bool s_wasOn = false;  // when the press under way began
+  const DLGItem* const found = DLGFindItem(dialog, item);
+  if (found == nullptr) return 0;
+  const bool isOn = GetControlValue(found->control) != 0;
+  switch (message) {
+    case kDLGKey:
+      if (!ItemReacts(*found) || !IsPressingSpace(DLGUnpackKey(param1))) return kKeyNotUsed;
+      SetControlValue(found->control, 1);
+      return isOn ? kKeyUsed : kKeyChanged;
+    case kDLGMouseDown: s_wasOn = isOn; break;
+    case kDLGMouseUp:
+      if (!s_wasOn) break;
+      ControlItemProc(dialog, item, message, param1, param2);
+      SetControlValue(found->control, 1);
+      return 0;
+    default: break;
+  }
+  return ControlItemProc(dialog, item, message, param1, param2);
+}

@@ -1,0 +1,66 @@
+#include "Toolkit/DLGTimers.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "Platform/Ui/Events.h"
+#include "Toolkit/DLGItems.h"
+#include "Toolkit/DLGLive.h"
+#include "Toolkit/DLGManager.h"
+
+int32_t gTimerInterval = 0;
+
+bool DLGInit(int32_t timerInterval) {
+  gTimerInterval = timerInterval;
+  return true;
+}
+
+// Runs while any dialog has a timer.
+static EventLoopTimerRef s_eventLoopTimer = nullptr;
+
+static bool _IsDue(const DLGTimerEntry& entry) {
+  return static_cast<int32_t>(TickCount() - entry.due) >= 0;  // the tick count may wrap around
+}
+
+bool DLGServeTimers(DLGRecord* dialog) {
+  if (dialog->trackingItem > 0) return false;
+  const DLGWatch watch(dialog);
+  bool served = false;
+  while (watch.IsLive()) {
+    DLGTimerEntry* end = dialog->timers + dialog->timerCount;
+    DLGTimerEntry* due = std::find_if(dialog->timers, end, _IsDue);
+    if (due == end) break;
+    const int32_t item = due->item;
+    std::copy(due + 1, end, due);
+    --dialog->timerCount;
+    served = true;
+    DLGNotifyChange(dialog, item);
+  }
+  return served;
+}
+
+static void _ServeAllTimers(void* /*data*/) {
+  bool waiting = false;
+  for (DLGRecord* dialog : DLGLiveRecords()) {
+    if (!DialogIsValid(dialog)) continue;
+    DLGServeTimers(dialog);
+    waiting = waiting || (DialogIsValid(dialog) && dialog->timerCount > 0);
+  }
+  if (waiting) return;
+  RemoveEventLoopTimer(s_eventLoopTimer);
+  s_eventLoopTimer = nullptr;
+}
+
+bool DLGRegisterTimer(DLGRecord* dialog, int32_t item, uint32_t ticks) {
+  if (!DialogIsValid(dialog) || dialog->timerCount >= DLGRecord::kMaxTimers) return false;
+  if (dialog->timers == nullptr) {
+    dialog->timers = static_cast<DLGTimerEntry*>(std::calloc(DLGRecord::kMaxTimers, sizeof(DLGTimerEntry)));
+    if (dialog->timers == nullptr) return false;
+  }
+  dialog->timers[dialog->timerCount++] = {item, TickCount() + ticks};
+  if (s_eventLoopTimer == nullptr) {
+    const auto interval = static_cast<uint32_t>(std::max(gTimerInterval, 1));
+    s_eventLoopTimer = InstallEventLoopTimer(interval, _ServeAllTimers, nullptr);
+  }
+  return true;
+}

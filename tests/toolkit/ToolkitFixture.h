@@ -1,0 +1,172 @@
+// Opens the test dialogs and records what they report.
+#ifndef GRADIX_TESTS_TOOLKITFIXTURE_H
+#define GRADIX_TESTS_TOOLKITFIXTURE_H
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QPointer>
+#include <QWidget>
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "Platform/Core/Files.h"
+#include "Platform/Core/Resources.h"
+#include "Platform/Ui/Events.h"
+#include "Toolkit/DLGEvents.h"
+#include "Toolkit/DLGFocus.h"
+#include "Toolkit/DLGItems.h"
+#include "Toolkit/DLGManager.h"
+#include "Toolkit/StartUp.h"
+
+// Items of the demo dialog.
+enum DemoItem : int32_t {
+  kDemoOK = 1,
+  kDemoCancel,
+  kDemoEditLabel,
+  kDemoEdit,
+  kDemoComboLabel,
+  kDemoCombo,
+  kDemoCheckListLabel,
+  kDemoCheckList,
+  kDemoSelectAll,
+  kDemoClearAll,
+  kDemoListLabel,
+  kDemoList,
+  kDemoMultipleLabel,
+  kDemoMultiple,
+  kDemoCheck,
+  kDemoRadio1,
+  kDemoRadio2,
+  kDemoSeparator,
+  kDemoGroup,
+  kDemoHelp,
+  kDemoDisabledCheck,
+  kDemoParagraph,
+};
+inline constexpr int32_t kDemoDialog = 500;
+
+class ToolkitTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    static const bool s_started = Start();
+    ASSERT_TRUE(s_started);
+    ActiveTest() = this;
+  }
+
+  void TearDown() override {
+    onHit = nullptr;
+    for (DLGRecord* dialog : m_opened) DisposeDLG(dialog);  // those that are gone are ignored
+    RunEventPass(0);
+    ActiveTest() = nullptr;
+  }
+
+  // Shown; null when it cannot be made. Closed at the end of the test.
+  DLGRecord* Open(int32_t id, int32_t kind = kDLGModal, WindowRef parent = nullptr) {
+    DLGRecord* const dialog =
+        GetDialogResource(parent, kind, nullptr, id, 0, RecordHit, RecordClose, nullptr);
+    if (dialog == nullptr) return nullptr;
+    m_opened.push_back(dialog);
+    ShowDLG(dialog);
+    RunEventPass(0);
+    return dialog;
+  }
+
+  // A press and its release near the left edge, where a button's title is, as the window system sends them.
+  static void Click(DLGRecord* dialog, int32_t item) {
+    const Rect bounds = GetControlBounds(DLGGetChildControl(dialog, item));
+    ClickAt(dialog,
+            {static_cast<int16_t>((bounds.top + bounds.bottom) / 2), static_cast<int16_t>(bounds.left + 10)});
+  }
+  // The same at a point of the window. With `doubleClick` it is the second one of a double click.
+  static void ClickAt(DLGRecord* dialog, Point where, bool doubleClick = false) {
+    QWidget* const window = Window(dialog);
+    ASSERT_NE(window, nullptr);
+    QPointer<QWidget> target = window->childAt(where.h, where.v);
+    if (target == nullptr) target = window;
+    const QPointF at = target->mapFrom(window, QPointF(where.h, where.v));
+    const QPointF onScreen = target->mapToGlobal(at);
+    QMouseEvent press(doubleClick ? QEvent::MouseButtonDblClick : QEvent::MouseButtonPress, at, onScreen,
+                      Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(target, &press);
+    QMouseEvent release(QEvent::MouseButtonRelease, at, onScreen, Qt::LeftButton, Qt::NoButton,
+                        Qt::NoModifier);
+    if (target != nullptr) QCoreApplication::sendEvent(target, &release);
+    RunEventPass(0);
+  }
+
+  static bool Key(DLGRecord* dialog, uint16_t character, uint16_t modifiers = 0) {
+    return DLGHandleKey(dialog->window, character, modifiers);
+  }
+  // The item's own answer to a key.
+  static intptr_t ItemKey(DLGRecord* dialog, int32_t item, uint16_t character, uint16_t modifiers = 0) {
+    return SendDLGItemMessage(dialog, item, kDLGKey, DLGPackKey(character, modifiers));
+  }
+
+  static void Wait(uint32_t ticks) {
+    const uint32_t begin = TickCount();
+    while (TickCount() - begin < ticks) RunEventPass(1);
+  }
+
+  // The dialog's window, found by its title.
+  static QWidget* Window(DLGRecord* dialog) {
+    const QString title = QString::fromStdString(GetWTitle(dialog->window));
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      if (window->isVisible() && window->windowTitle() == title) return window;
+    }
+    return nullptr;
+  }
+  static QWidget* Widget(DLGRecord* dialog, int32_t item) {
+    QWidget* const window = Window(dialog);
+    return window != nullptr ? window->findChild<QWidget*>(QStringLiteral("item%1").arg(item)) : nullptr;
+  }
+
+  // The items reported to the dialogs' item-hit procedure since the last call.
+  std::vector<int32_t> TakeHits() { return std::exchange(m_hits, {}); }
+
+  std::function<void(DLGRecord*, int32_t)> onHit;
+  bool mayClose = true;
+  int closeCount = 0;  // how often a dialog asked whether it may close
+
+ private:
+  static ToolkitTest*& ActiveTest() {
+    static ToolkitTest* s_active = nullptr;
+    return s_active;
+  }
+
+  static intptr_t RecordHit(DLGRecord* dialog, int32_t item) {
+    ToolkitTest* const test = ActiveTest();
+    if (test == nullptr) return 0;
+    test->m_hits.push_back(item);
+    if (const auto hit = test->onHit) hit(dialog, item);  // which may replace onHit
+    return 1;
+  }
+
+  static bool RecordClose(DLGRecord* /*dialog*/) {
+    ToolkitTest* const test = ActiveTest();
+    if (test == nullptr) return true;
+    ++test->closeCount;
+    return test->mayClose;
+  }
+
+  static bool OpenResources(const std::string& name) {
+    const std::string path = std::string(TOOLKIT_RESOURCES).append("/").append(name);
+    FSRef file;
+    ResFileRefNum number = -1;
+    return FSPathMakeRef(path.c_str(), &file, nullptr) == noErr &&
+           FSOpenResourceFile(&file, 0, nullptr, fsRdPerm, &number) == noErr;
+  }
+
+  static bool Start() {
+    return InitApplication() && _InitLumoLibrary(nullptr) == 1 && OpenResources("demo.rsrc") &&
+           OpenResources("cases.rsrc");
+  }
+
+  std::vector<DLGRecord*> m_opened;
+  std::vector<int32_t> m_hits;
+};
+
+#endif  // GRADIX_TESTS_TOOLKITFIXTURE_H

@@ -1,0 +1,214 @@
+// Dialogs from resources, their items, and controls as such.
+#include <QAccessible>
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QToolTip>
+
+#include "Platform/Ui/Drawing.h"
+#include "Platform/Ui/HelpTags.h"
+#include "tests/ui/DialogFixture.h"
+
+namespace {
+
+TEST_F(DialogTest, ItemsAreTheStandardControls) {
+  EXPECT_EQ(CountDITL(m_dialog), kItemCount);
+  EXPECT_EQ(GetWTitle(m_window), "Café");
+  EXPECT_EQ(GetWRefCon(m_window), 77);
+  EXPECT_EQ(GetWindowClass(m_window), kMovableModalWindowClass);
+  EXPECT_FALSE(IsWindowVisible(m_window));
+  EXPECT_TRUE(GetWindowScreenBounds(m_window) == (Rect{100, 120, 400, 420}));
+  const ControlKind kinds[] = {kControlKindPushButton, kControlKindCheckBox, kControlKindRadioButton,
+                               kControlKindStaticText, kControlKindEditText, kControlKindPopupButton,
+                               kControlKindListBox,    kControlKindGroupBox, kControlKindSeparator,
+                               kControlKindUserPane,   kControlKindNone};
+  for (int16_t item = 1; item <= kItemCount; ++item) {
+    EXPECT_EQ(GetControlKind(Item(item)), kinds[item - 1]) << item;
+    EXPECT_EQ(FindDialogItemOfControl(m_dialog, Item(item)), item == kPicture ? 0 : item);
+  }
+  Rect bounds;
+  EXPECT_TRUE(GetDialogItemBounds(m_dialog, kPicture, &bounds));
+  EXPECT_TRUE(bounds == (Rect{230, 10, 250, 30}));
+  SetDialogItemBounds(m_dialog, kCheck, {1, 2, 30, 40});
+  Show();
+  EXPECT_EQ(ItemWidget(kCheck)->geometry(), QRect(2, 1, 38, 29));
+  EXPECT_EQ(ItemWidget<QLabel>(kText)->text(), "A & B");
+  EXPECT_EQ(ItemWidget<QPushButton>(kButton)->text(), "Save && Quit");
+  EXPECT_EQ(GetDialogItemAsControl(m_dialog, 0), nullptr);
+  EXPECT_EQ(GetDialogItemAsControl(m_dialog, kItemCount + 1), nullptr);
+}
+
+TEST_F(DialogTest, AssistiveTechnologyReadsAndWorksIt) {
+  SetControlLabel(Item(kEdit), "Name:");
+  SetControlLabel(Item(kList), "Students");
+  SetControlLabel(Item(kButton), "not this");
+  HMSetControlHelpContent(Item(kCheck), "Helps");
+  Show();
+  const struct {
+    int16_t item;
+    QAccessible::Role role;
+    const char* name;
+  } rows[] = {
+      {kButton, QAccessible::Button, "Save & Quit"},   {kCheck, QAccessible::CheckBox, "Check me"},
+      {kRadio, QAccessible::RadioButton, "Choose me"}, {kText, QAccessible::StaticText, "A & B"},
+      {kEdit, QAccessible::EditableText, "Name:"},     {kPopup, QAccessible::ComboBox, ""},
+      {kList, QAccessible::List, "Students"},          {kGroup, QAccessible::Grouping, "Group & Co"},
+  };
+  for (const auto& row : rows) {
+    QAccessibleInterface* const item = QAccessible::queryAccessibleInterface(ItemWidget(row.item));
+    EXPECT_EQ(item->role(), row.role) << row.item;
+    EXPECT_EQ(item->text(QAccessible::Name).toStdString(), row.name) << row.item;
+  }
+  QAccessibleInterface* const window = QAccessible::queryAccessibleInterface(WidgetOf(m_window));
+  EXPECT_EQ(window->role(), QAccessible::Dialog);
+  EXPECT_EQ(window->text(QAccessible::Name), "Café");
+  QAccessibleInterface* const check = QAccessible::queryAccessibleInterface(ItemWidget(kCheck));
+  EXPECT_EQ(check->text(QAccessible::Description), "Helps");
+
+  check->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+  EXPECT_EQ(GetControlValue(Item(kCheck)), 1);
+  EXPECT_EQ(TakeLog(), EventLog{"action item2"});
+  QAccessibleInterface* const button = QAccessible::queryAccessibleInterface(ItemWidget(kButton));
+  button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  QTest::qWait(200);  // it is shown pressed for a moment
+  EXPECT_EQ(TakeLog(), EventLog{"action item1"});
+  QAccessibleInterface* const radio = QAccessible::queryAccessibleInterface(ItemWidget(kRadio));
+  for (int i = 0; i < 2; ++i) radio->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+  EXPECT_EQ(GetControlValue(Item(kRadio)), 1);
+  EXPECT_EQ(TakeLog(), (EventLog{"action item3", "action item3"}));
+  ItemWidget<QCheckBox>(kCheck)->click();
+  EXPECT_EQ(TakeLog(), EventLog{"action item2"});
+}
+
+TEST_F(DialogTest, SettersReportNothing) {
+  Show();
+  SetControlValue(Item(kCheck), 1);
+  SetControlValue(Item(kRadio), 1);
+  SetControlValue(Item(kRadio), 0);
+  SetControlText(Item(kEdit), "caf\x8E");
+  InsertMenuItem(GetControlPopupMenuHandle(Item(kPopup)), "row", 0);
+  SetControlValue(Item(kPopup), 1);
+  EXPECT_EQ(TakeLog(), EventLog{});
+  EXPECT_EQ(GetControlValue(Item(kCheck)), 1);
+  EXPECT_EQ(GetControlValue(Item(kRadio)), 0);
+  EXPECT_EQ(ItemWidget<QLineEdit>(kEdit)->text(), "café");
+  EXPECT_EQ(GetControlText(Item(kEdit)), "caf\x8E");
+}
+
+TEST_F(DialogTest, MenusKeepTheSelectedNumber) {
+  MenuRef menu = GetControlPopupMenuHandle(Item(kPopup));
+  EXPECT_EQ(GetControlPopupMenuHandle(Item(kButton)), nullptr);
+  InsertMenuItem(menu, "b & (c;<", 0);
+  EXPECT_EQ(GetControlValue(Item(kPopup)), 0);
+  InsertMenuItem(menu, "z", 99);
+  SetControlValue(Item(kPopup), 2);
+  InsertMenuItem(menu, "a", 0);
+  EXPECT_EQ(GetControlValue(Item(kPopup)), 2);
+  EXPECT_EQ(GetMenuItemText(menu, 2), "b & (c;<");
+  SetMenuItemText(menu, 3, std::string(300, 'x'));
+  EXPECT_EQ(GetMenuItemText(menu, 3), std::string(255, 'x'));
+  DeleteMenuItem(menu, 1);
+  EXPECT_EQ(GetControlValue(Item(kPopup)), 2);
+  DeleteMenuItem(menu, 2);
+  EXPECT_EQ(GetControlValue(Item(kPopup)), 0);
+  EXPECT_EQ(CountMenuItems(menu), 1);
+  SetControlValue(Item(kPopup), 7);
+  EXPECT_EQ(GetControlValue(Item(kPopup)), 0);
+  EXPECT_EQ(GetMenuItemText(menu, 0) + GetMenuItemText(menu, 2), "");
+}
+
+TEST_F(DialogTest, ItemsComeAndGo) {
+  const OpenFork more({{"DITL",
+                        {{200, ItemListData({{{1, 1, 9, 9}, 5, "New"}, {{1, 1, 9, 9}, 7, "\1\1"}})},
+                         {201, ItemListData({{{1, 1, 9, 9}, 5, "New"}})}}}});
+  EXPECT_FALSE(AppendDialogItemList(m_dialog, 200)) << "names a control that does not exist";
+  EXPECT_EQ(CountDITL(m_dialog), kItemCount);
+  EXPECT_TRUE(AppendDialogItemList(m_dialog, 201));
+  const ControlRef added = Item(kItemCount + 1);
+  EXPECT_EQ(GetControlText(added), "New");
+  const ControlRef pane = Item(kPane);
+  ShortenDITL(m_dialog, 3);
+  EXPECT_EQ(CountDITL(m_dialog), kItemCount - 2);
+  EXPECT_FALSE(IsValidControl(added));
+  EXPECT_FALSE(IsValidControl(pane));
+  ShortenDITL(m_dialog, 1000);
+  EXPECT_EQ(CountDITL(m_dialog), 0);
+}
+
+TEST_F(DialogTest, AHelpTagAppearsWhereTheMouseRests) {
+  HMSetControlHelpContent(Item(kCheck), "Check <b>this</b>");
+  HMSetControlHelpContent(Item(kRadio), "Plain");
+  HMSetTagDelay(50);
+  Show();
+  QTest::mouseMove(Handle(), MiddleOf(kRadio));
+  EXPECT_FALSE(QToolTip::isVisible());
+  QTest::qWait(150);
+  EXPECT_EQ(QToolTip::text(), "Plain");
+  QTest::mouseMove(Handle(), MiddleOf(kCheck));
+  QTest::qWait(150);
+  EXPECT_EQ(QToolTip::text(), "<p>Check &lt;b&gt;this&lt;/b&gt;");
+  QTest::mouseMove(Handle(), MiddleOf(kButton));
+  QTest::qWait(500);
+  EXPECT_FALSE(QToolTip::isVisible());
+  HMSetTagDelay(500);
+}
+
+TEST_F(DialogTest, TextsAreMeasuredByLinesAndFont) {
+  const Point one = GetThemeTextDimensions("Width", 0, true);
+  const Point two = GetThemeTextDimensions("Width\rW", 0, true);
+  EXPECT_EQ(two.h, one.h);
+  EXPECT_GE(two.v, 2 * one.v - 1);
+  EXPECT_LT(GetThemeTextDimensions("Width", -2, true).h, one.h);
+  EXPECT_GT(MeasurePortText(m_window, "Width", 3, 40).v, MeasurePortText(m_window, "Width", 3, 10).v);
+  EXPECT_EQ(MeasurePortText(nullptr, "Width", 3, 10).h, 0);
+}
+
+// Opens the dialog with one resource replaced.
+void ExpectNoDialog(const std::string& type, int16_t id, const std::string& data, const std::string& name) {
+  TestTypes types = AllKinds();
+  for (auto& [typeName, resources] : types) {
+    for (TestResource& resource : resources) {
+      if (typeName == type && resource.id == id) resource.data = data;
+    }
+  }
+  const OpenFork fork(types);
+  EXPECT_EQ(GetNewDialog(128), nullptr) << name;
+}
+
+class DamagedDialogTest : public DialogTest {
+ protected:
+  void SetUp() override {}
+};
+
+TEST_F(DamagedDialogTest, IsRefusedAtEveryLength) {
+  const size_t widgets = static_cast<size_t>(QApplication::allWidgets().size());
+  for (const auto& [type, resources] : AllKinds()) {
+    for (const TestResource& resource : resources) {
+      for (size_t length = 0; length < resource.data.size(); ++length) {
+        const std::string name =
+            type + " " + std::to_string(resource.id) + " cut to " + std::to_string(length);
+        ExpectNoDialog(type, resource.id, resource.data.substr(0, length), name);
+      }
+    }
+  }
+  EXPECT_EQ(GetWindowList(), nullptr);
+  EXPECT_EQ(static_cast<size_t>(QApplication::allWidgets().size()), widgets);
+}
+
+TEST_F(DamagedDialogTest, IsRefusedForWhatDoesNotExist) {
+  const std::string button = ItemListData({{{0, 0, 9, 9}, 4, "OK"}}).substr(2);
+  std::string many;
+  for (int i = 0; i < 1001; ++i) many += button;
+  ExpectNoDialog("DLOG", 128, DialogData("x", 5, 999), "missing item list");
+  ExpectNoDialog("DITL", 100, ItemListData({{{0, 0, 9, 9}, 7, BigEndian(999, 2)}}), "missing control");
+  ExpectNoDialog("DITL", 100, ItemListData({{{0, 0, 9, 9}, 7, "\1"}}), "short control id");
+  ExpectNoDialog("CNTL", 352, ControlData(352, "", 999), "missing list description");
+  ExpectNoDialog("DITL", 100, BigEndian(1000, 2) + many, "too many items");
+  ExpectNoDialog("DITL", 100, BigEndian(0x8000, 2) + many, "negative count");
+  EXPECT_EQ(GetNewDialog(4711), nullptr);
+}
+
+}  // namespace

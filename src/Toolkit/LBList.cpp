@@ -48,21 +48,8 @@ LBRange LBView::Selection() const {
   return range;
 }
 
-// Every single change costs, so as few rows as possible are touched.
 void LBView::Select(LBRange range) const {
-  const LBRange old = Selection();
-  const int32_t first = std::max(range.first, 0);
-  const int32_t last = std::min(range.last, count() - 1);
-  const int32_t kept = std::max(std::min(last, old.last) - std::max(first, old.first) + 1, 0);
-  if (kept <= (old.last - old.first + 1) / 2) {
-    LClearSelection(m_list);
-  } else {
-    for (int32_t row = old.first; row < first; ++row) LSetSelect(m_list, row, false);
-    for (int32_t row = last + 1; row <= old.last; ++row) LSetSelect(m_list, row, false);
-  }
-  for (int32_t row = first; row <= last; ++row) {
-    if (!LIsSelected(m_list, row)) LSetSelect(m_list, row, true);
-  }
+  LSelectRange(m_list, range.first, range.first < 0 ? -1 : range.last);
 }
 
 void LBView::ToggleCheck(int32_t row) const {

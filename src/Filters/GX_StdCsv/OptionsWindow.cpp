@@ -87,6 +87,7 @@ static void _SetUpBlackboardItems(DLGRecord* dialog, const OptionsTexts& texts) 
   }
   if (!texts.isBlackboard) return;
   for (int32_t item = kFirstBlackboardItem; item <= kWithoutQuotes; ++item) ShowDLGItem(dialog, item, true);
+  CKSetCheck(dialog, kWithQuotes, 1, 0, false);  // how a new session writes
 }
 
 static void _FillFieldPopup(DLGRecord* dialog) {

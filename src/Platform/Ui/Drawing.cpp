@@ -38,7 +38,7 @@ static QStyleOptionViewItem _OptionFor(const DrawContext& context, const Rect& b
   return option;
 }
 
-// In the frontmost row of a list with the keyboard, the focus mark is drawn as well.
+// The current row of a list with the keyboard has the focus mark as well.
 void DrawThemeRow(DrawContext* context, const Rect& bounds, DrawState state) {
   if (context == nullptr) return;
   const QStyleOptionViewItem option = _OptionFor(*context, bounds, state);

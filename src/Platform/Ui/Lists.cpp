@@ -128,6 +128,23 @@ int32_t LNextSelected(ListRef list, int32_t from) {
   return -1;
 }
 
+void LSelectRange(ListRef list, int32_t first, int32_t last) {
+  QtListView* const view = ListViewOf(list);
+  if (view == nullptr) return;
+  first = std::max(first, 0);
+  last = std::min(last, view->rows().Count() - 1);
+  if (last < first) {
+    LClearSelection(list);
+    return;
+  }
+  const ui::Quiet quiet;
+  const QItemSelection range(view->rows().index(first), view->rows().index(last));
+  view->selectionModel()->select(range, QItemSelectionModel::ClearAndSelect);
+  view->setAutoScroll(false);
+  view->selectionModel()->setCurrentIndex(view->rows().index(last), QItemSelectionModel::NoUpdate);
+  view->setAutoScroll(true);
+}
+
 void LClearSelection(ListRef list) {
   const ui::Quiet quiet;
   if (QtListView* const view = ListViewOf(list)) view->selectionModel()->clearSelection();

@@ -48,6 +48,8 @@ std::string LGetCell(ListRef list, int32_t row);  // empty when there is no such
 // One selected row at most, or any number.
 void LSetMultipleSelection(ListRef list, bool on);
 void LSetSelect(ListRef list, int32_t row, bool on);  // others stay; reports nothing
+// Selects the rows first..last and no others, in one step; none when last < first. Reports nothing.
+void LSelectRange(ListRef list, int32_t first, int32_t last);
 bool LIsSelected(ListRef list, int32_t row);
 int32_t LNextSelected(ListRef list, int32_t from);  // the first selected row at or after `from`, or -1
 void LClearSelection(ListRef list);

@@ -21,6 +21,15 @@ namespace ui {
 
 namespace {
 
+// A press anywhere in the item's rectangle is for it.
+class CheckBox : public QCheckBox {
+ public:
+  using QCheckBox::QCheckBox;
+
+ protected:
+  bool hitButton(const QPoint& where) const override { return rect().contains(where); }
+};
+
 // Leaves it to the program which radio buttons exclude each other: it is alone in a group that excludes none.
 // Without autoExclusive, it would be a check box to assistive technology.
 class RadioButton : public QRadioButton {
@@ -32,6 +41,7 @@ class RadioButton : public QRadioButton {
 
  protected:
   void nextCheckState() override { setChecked(true); }
+  bool hitButton(const QPoint& where) const override { return rect().contains(where); }
 
  private:
   QButtonGroup m_group;
@@ -75,7 +85,7 @@ static QWidget* _MakePane(QWidget* parent) {
 static QWidget* _MakeWidget(ControlKind kind, QWidget* parent) {
   switch (kind) {
     case kControlKindPushButton: return _MakePushButton(parent);
-    case kControlKindCheckBox: return new QCheckBox(parent);
+    case kControlKindCheckBox: return new CheckBox(parent);
     case kControlKindRadioButton: return new RadioButton(parent);
     case kControlKindStaticText: return _MakeLabel(parent);
     case kControlKindEditText: return _MakeEdit(parent);

@@ -113,8 +113,16 @@ static void _TakeCollapseBoxes(WindowRef modal) {
   }
 }
 
+static void _RemovePlaceholder() {
+  for (const WindowRef window : _Windows()) {
+    DLGRecord* dialog = DLGFromHwnd(window);
+    if (dialog != nullptr && dialog->resourceID == kPlaceholderID) DisposeDLG(dialog);
+  }
+}
+
 void DLGEndModality() {
   if (_CountModalDialogs() > 0) return;
+  _RemovePlaceholder();
   for (const WindowRef window : _Uncollapsible()) {
     ChangeWindowAttributes(window, kWindowCollapseBoxAttribute, 0);
   }

@@ -19,6 +19,14 @@ void InstallDialogEventHandlers(const DialogEventHandlers& handlers) {
   ui::EventQueue::Get().SetHandlers(handlers);
 }
 
+// Whether an application of our own would find something to show its windows on. Qt ends a process without.
+static bool _HasDisplay() {
+  for (const char* variable : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"}) {
+    if (qEnvironmentVariableIsSet(variable)) return true;
+  }
+  return false;
+}
+
 // Never freed: it must outlive every widget.
 static void _MakeApplication() {
   static int argumentCount = 1;
@@ -29,7 +37,7 @@ static void _MakeApplication() {
 }
 
 bool InitApplication() {
-  if (QCoreApplication::instance() == nullptr) _MakeApplication();
+  if (QCoreApplication::instance() == nullptr && _HasDisplay()) _MakeApplication();
   if (qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr) return false;
   ui::EventQueue::Get().Connect();
   return true;
@@ -76,13 +84,6 @@ Point GetMouse(WindowRef window) {
 uint16_t GetCurrentKeyModifiers() {
   if (QCoreApplication::instance() == nullptr) return 0;
   return ui::ModifiersOf(QGuiApplication::keyboardModifiers());
-}
-
-uint32_t GetCaretTicks() {
-  constexpr uint32_t kDefault = 30;
-  if (!InitApplication()) return kDefault;
-  const int milliseconds = QApplication::cursorFlashTime() / 2;
-  return milliseconds <= 0 ? kDefault : static_cast<uint32_t>(milliseconds * kTicksPerSecond / 1000);
 }
 
 void SysBeep(int16_t /*duration*/) {

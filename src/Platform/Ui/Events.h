@@ -60,7 +60,7 @@ struct DialogEventHandlers {
 void InstallDialogEventHandlers(const DialogEventHandlers& handlers);
 
 // Uses the process's QApplication, or makes one where there is none. False when there can be none (the host
-// runs a Qt application without widgets).
+// runs a Qt application without widgets, or there is no display).
 bool InitApplication();
 bool IsFrontProcess();  // one of the process's windows is active, or none is shown yet
 
@@ -71,7 +71,6 @@ uint32_t TickCount();              // sixtieths of a second since some moment in
 bool StillDown();                  // the mouse button of the last press has not been released
 Point GetMouse(WindowRef window);  // in the window
 uint16_t GetCurrentKeyModifiers();
-uint32_t GetCaretTicks();
 
 void SysBeep(int16_t duration);
 uint32_t GetBeepCount();  // of SysBeep, since the process began

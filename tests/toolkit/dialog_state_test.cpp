@@ -1,0 +1,153 @@
+// The rest of a dialog's operations: showing and hiding, item fields, hooks, start-up, numbered alerts.
+#include <QAbstractButton>
+#include <QMessageBox>
+#include <QScreen>
+#include <QTimer>
+#include <QtTest/QTest>
+
+#include "Toolkit/Alert.h"
+#include "Toolkit/Buttons.h"
+#include "Toolkit/DLGRegister.h"
+#include "Toolkit/Toolkit.h"
+#include "ToolkitFixture.h"
+
+namespace {
+
+constexpr int32_t kFields = 501, kFloatingDialog = 504, kPlaceholder = 900;
+constexpr int32_t kFirst = 3;
+
+class State : public ToolkitTest {
+ protected:
+  // Answers the next message box and gives what it said.
+  static QString AnswerAlert(const std::function<void()>& show) {
+    QString text;
+    QTimer::singleShot(20, [&text] {
+      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      if (box == nullptr) return;
+      text = box->text();
+      QTest::mouseClick(static_cast<QWidget*>(box->buttons().front()), Qt::LeftButton);
+    });
+    show();
+    return text;
+  }
+};
+
+TEST_F(State, ShowingHidingAndCentring) {
+  DLGRecord* dialog = Open(kFields, kDLGModeless);
+  EXPECT_TRUE(IsWindowVisible(dialog->window));
+  HideDLG(dialog);
+  EXPECT_FALSE(IsWindowVisible(dialog->window));
+  CenterDLG(dialog);
+  const Rect bounds = GetWindowScreenBounds(dialog->window);
+  const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+  EXPECT_NEAR((bounds.left + bounds.right) / 2, screen.center().x(), 20);
+  ShowDLG(dialog);
+  EXPECT_TRUE(IsWindowVisible(dialog->window));
+  EXPECT_TRUE(IsWindowHilited(dialog->window));
+}
+
+TEST_F(State, AModalDialogTakesTheOthersActivityAndCollapseBoxes) {
+  DLGRecord* fields = Open(kFields, kDLGModeless);
+  DLGRecord* floating = Open(kFloatingDialog, kDLGFloating);
+  ChangeWindowAttributes(fields->window, kWindowCollapseBoxAttribute, 0);
+  DLGRecord* modal = Open(kDemoDialog);
+  EXPECT_FALSE(IsWindowHilited(fields->window) || IsWindowHilited(floating->window));
+  EXPECT_EQ(GetWindowAttributes(fields->window) & kWindowCollapseBoxAttribute, 0U);
+  EXPECT_EQ(FrontNonFloatingWindow(), modal->window);
+  ASSERT_TRUE(MyCloseDialog(modal));
+  EXPECT_TRUE(IsWindowHilited(fields->window));
+  EXPECT_NE(GetWindowAttributes(fields->window) & kWindowCollapseBoxAttribute, 0U);
+}
+
+TEST_F(State, APlaceholderStandsInWhileFloatingWindowsRest) {
+  DLGRecord* fields = Open(kFields, kDLGModeless);
+  fields->flags |= kDLGPlaceholder;
+  DLGRecord* modal = Open(kDemoDialog);
+  EXPECT_TRUE(DLGIsOpen(kPlaceholder));
+  EXPECT_EQ(FrontWindow(), modal->window);
+  MyCloseDialog(modal);
+  EXPECT_FALSE(DLGIsOpen(kPlaceholder));
+}
+
+TEST_F(State, ItemFields) {
+  DLGRecord* dialog = Open(kFields, kDLGModeless);
+  AddItemFlags(dialog, kFirst, 0x1000);
+  EXPECT_EQ(GetItemFlags(dialog, kFirst) & 0x1000, 0x1000U);
+  RemoveItemFlags(dialog, kFirst, 0x1000);
+  EXPECT_EQ(GetItemFlags(dialog, kFirst) & 0x1000, 0U);
+  SetItemType(dialog, kFirst, 18);
+  EXPECT_EQ(GetItemType(dialog, kFirst), 18);
+  SetIRefCon(dialog, kFirst, 4711);
+  EXPECT_EQ(GetIRefCon(dialog, kFirst), 4711);
+  EXPECT_NE(DLGGetChildControl(dialog, kFirst), nullptr);
+  EXPECT_TRUE(IsItemVisible(dialog, kFirst));
+  HideDLGItem(dialog, kFirst, true);
+  EXPECT_FALSE(IsItemVisible(dialog, kFirst));
+  for (const int32_t item : {0, -1, 9}) {
+    AddItemFlags(dialog, item, 0x10);
+    SetIRefCon(dialog, item, 1);
+    EXPECT_EQ(GetItemFlags(dialog, item), 0U);
+    EXPECT_EQ(GetIRefCon(dialog, item), 0);
+    EXPECT_EQ(GetItemType(dialog, item), 0);
+    EXPECT_EQ(DLGGetChildControl(dialog, item), nullptr);
+    EXPECT_FALSE(IsItemEnabled(dialog, item) || IsItemVisible(dialog, item) || DLGNotifyChange(dialog, item));
+  }
+}
+
+TEST_F(State, ANewRectangleIsTold) {
+  static intptr_t s_size;
+  s_size = 0;
+  DLGRecord* dialog = Open(kFields, kDLGModeless);
+  SetItemProc(dialog, kFirst,
+              [](DLGRecord*, int32_t, int32_t message, intptr_t param1, intptr_t) -> intptr_t {
+                if (message == kDLGResize) s_size = param1;
+                return 0;
+              });
+  SizeDLGItem(dialog, kFirst, {10, 20, 40, 220});
+  EXPECT_EQ(s_size, (30 << 16) | 200);
+  EXPECT_EQ(Widget(dialog, kFirst)->geometry(), QRect(20, 10, 200, 30));
+}
+
+TEST_F(State, GlobalHooks) {
+  static std::vector<std::string> s_calls;
+  s_calls.clear();
+  DLGSetGlobalOpenProc([](DLGRecord* d) { s_calls.push_back("open " + std::to_string(d->resourceID)); });
+  DLGSetGlobalCloseProc([](DLGRecord* d) { s_calls.push_back("close " + std::to_string(d->resourceID)); });
+  MyCloseDialog(Open(kFields, kDLGModeless));
+  DLGSetGlobalOpenProc(nullptr);
+  DLGSetGlobalCloseProc(nullptr);
+  EXPECT_EQ(s_calls, (std::vector<std::string>{"open 501", "close 501"}));
+}
+
+TEST_F(State, ASecondStartKeepsWhatTheFirstRegistered) {
+  const int32_t rows = numRegisterItems;
+  EXPECT_EQ(_InitLumoLibrary(nullptr), 0);
+  EXPECT_EQ(numRegisterItems, rows);
+  EXPECT_EQ(gTimerInterval, 100);
+  EXPECT_EQ(gDefaultFont, 3);
+  for (const int32_t type : {21, 23, 24, 32}) EXPECT_EQ(DLGFindItemProc(type), nullptr);
+  EXPECT_EQ(itemRegisterList[0].type, 1);
+  EXPECT_EQ(itemRegisterList[20].type, 22);
+}
+
+TEST_F(State, NumberedAlerts) {
+  // The demo's resources hold no alert strings: the argument is what there is to say.
+  EXPECT_EQ(AnswerAlert([] { InfoAlert(3, Utf8Text{"Saved in \xC3\xB1.csv"}); }),
+            QString::fromUtf8("Saved in \xC3\xB1.csv"));
+  EXPECT_EQ(AnswerAlert([] { ErrorAlert(1, "100%s"); }), "100%s");
+  const uint32_t beeps = GetBeepCount();
+  InfoAlert(1);  // nothing to say, nothing to answer
+  EXPECT_EQ(GetBeepCount(), beeps + 1);
+}
+
+TEST_F(State, TheDialogGoesWhileAnAlertIsUp) {
+  DLGRecord* dialog = Open(kFields, kDLGModeless);
+  QTimer::singleShot(20, [dialog] { DisposeDLG(dialog); });
+  QTimer::singleShot(200, [] {
+    if (QWidget* box = QApplication::activeModalWidget()) box->close();
+  });
+  ErrorAlert(1, "gone");
+  EXPECT_FALSE(DialogIsValid(dialog));
+}
+
+}  // namespace

@@ -51,9 +51,8 @@ static Place _PlaceAt(std::string_view text) {
   const size_t end = text.find_first_not_of('l', 1);
   if (end == std::string_view::npos || end > 3) return {};
   const char conversion = text[end];
-  const bool known = std::string_view("diu").find(conversion) != std::string_view::npos ||
-                     (end == 1 && (conversion == 's' || conversion == '%'));
-  return known ? Place{end + 1, conversion} : Place{};
+  const std::string_view known = end == 1 ? "dius%" : "diu";
+  return known.find(conversion) == std::string_view::npos ? Place{} : Place{end + 1, conversion};
 }
 
 std::string ExpandAlertText(std::string_view format, std::span<const AlertArgument> arguments) {

@@ -74,21 +74,21 @@ static void _ShowActive(WindowRef window) {
   SelectWindow(window);
 }
 
+static void _ShowInactive(WindowRef window) {
+  HiliteWindow(window, false);
+  ShowWindow(window);
+}
+
 static void _ShowInOrder(DLGRecord* dialog) {
   const WindowRef window = dialog->window;
   const WindowRef front = FrontNonFloatingWindow();
-  if (!IsFrontProcess()) {
-    HiliteWindow(window, false);
-    ShowWindow(window);
-  } else if (dialog->kind == kDLGFloating || front == nullptr) {
-    _ShowActive(window);
-  } else if (IsWindowInFrontOf(window, front)) {
-    ActivateWindow(front, false);
-    _ShowActive(window);
-  } else {
-    HiliteWindow(window, false);
-    ShowWindow(window);
+  const bool alone = dialog->kind == kDLGFloating || front == nullptr;
+  if (!IsFrontProcess() || (!alone && !IsWindowInFrontOf(window, front))) {
+    _ShowInactive(window);
+    return;
   }
+  if (!alone) ActivateWindow(front, false);
+  _ShowActive(window);
 }
 
 static void _DrawGrowIcon(const DLGRecord& dialog) {

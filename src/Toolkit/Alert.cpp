@@ -49,7 +49,7 @@ struct Place {
 
 static Place _PlaceAt(std::string_view text) {
   const size_t end = text.find_first_not_of('l', 1);
-  if (end == std::string_view::npos || end > 3) return {};
+  if (end > 3) return {};  // also when there is nothing but those
   const char conversion = text[end];
   const std::string_view known = end == 1 ? "dius%" : "diu";
   return known.find(conversion) == std::string_view::npos ? Place{} : Place{end + 1, conversion};

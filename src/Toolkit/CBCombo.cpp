@@ -140,7 +140,6 @@ int32_t CBInsertItem(DLGRecord* dialog, int32_t item, const char* text, int32_t 
   const int32_t count = CountMenuItems(combo.menu);
   if (count >= kCBMaxRows) return -1;
   const int32_t row = ResolveRowPosition(position, text, count, _RowText, combo.menu);
-  if (row < 0) return -1;
 
   int32_t* const value = combo.values->values + row;
   std::copy_backward(value, combo.values->values + count, combo.values->values + count + 1);

@@ -173,10 +173,9 @@ static void _InsertCheckState(const LBView& view, int32_t row, int32_t count) {
 
 int32_t LBInsertItem(DLGRecord* dialog, int32_t item, const char* text, int32_t position) {
   const LBView view = LBView::OfLiveItem(dialog, item);
-  if (!view) return -1;
+  if (!view) return 0;
   const int32_t count = view.count();
   const int32_t row = ResolveRowPosition(position, text, count, _RowText, view.list());
-  if (row < 0) return -1;
   ++view->rowCount;
   if (count < view->checkCapacity) _InsertCheckState(view, row, count);
   LAddRow(view.list(), row);
@@ -231,7 +230,7 @@ void LBSetCheck(DLGRecord* dialog, int32_t item, int32_t row, bool on) {
 
 int32_t LBGetSelect(DLGRecord* dialog, int32_t item) {
   const LBView view = LBView::OfLiveItem(dialog, item);
-  return view ? LNextSelected(view.list(), 0) : -1;
+  return view ? LNextSelected(view.list(), 0) : 0;
 }
 
 void LBSetSelect(DLGRecord* dialog, int32_t item, int32_t row) {

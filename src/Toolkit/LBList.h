@@ -52,7 +52,7 @@ intptr_t LBItemProc(DLGRecord* dialog, int32_t item, int32_t message, intptr_t p
 // assistive technology.
 void LBRegisterListDefinition(int16_t id, bool withChecks);
 
-// `position` is a RowPosition or a row index. The new row's index, or -1 when there is no such place.
+// `position` is a RowPosition or a row index. The new row's index.
 int32_t LBInsertItem(DLGRecord* dialog, int32_t item, const char* text, int32_t position);
 int32_t LBGetCount(DLGRecord* dialog, int32_t item);
 void LBSelectItem(DLGRecord* dialog, int32_t item, int16_t row, bool on);

@@ -26,5 +26,5 @@ int32_t ResolveRowPosition(int32_t position, const char* text, int32_t count,
     while (row < count && !LessNoCase(wanted, textOf(rows, row))) ++row;
     return row;
   }
-  return position >= 0 && position <= count ? position : -1;
+  return std::clamp(position, 0, count);
 }

@@ -12,8 +12,8 @@ enum RowPosition : int32_t {
   kRowSorted = -3,  // before the first row that is greater, without regard to ASCII case
 };
 
-// The row index that a position stands for in `count` rows whose texts `textOf` gives; -1 when there is no
-// such place, 0..count otherwise. `textOf` is asked for kRowSorted only.
+// The row index, 0..count, that a position stands for in `count` rows whose texts `textOf` gives; an index
+// outside of them is the nearer end. `textOf` is asked for kRowSorted only.
 int32_t ResolveRowPosition(int32_t position, const char* text, int32_t count,
                            std::string (*textOf)(void* rows, int32_t row), void* rows);
 

@@ -50,15 +50,14 @@ TEST_F(ComboTest, InsertsWhereThePositionSays) {
       {"z", 3, 3, {"x", "b", "m", "z"}},
       {"W", kRowSorted, 0, {"W", "x", "b", "m", "z"}},
       {"Y", kRowSorted, 4, {"W", "x", "b", "m", "Y", "z"}},
-      {"y", 7, -1, {"W", "x", "b", "m", "Y", "z"}},
-      {"y", -4, -1, {"W", "x", "b", "m", "Y", "z"}},
-      {nullptr, kRowLast, 6, {"W", "x", "b", "m", "Y", "z", ""}},
+      {"y", 9, 6, {"W", "x", "b", "m", "Y", "z", "y"}},
+      {nullptr, kRowLast, 7, {"W", "x", "b", "m", "Y", "z", "y", ""}},
   };
   for (const auto& step : steps) {
     EXPECT_EQ(Insert(step.text, step.position), step.row);
     EXPECT_EQ(Rows(), step.rows);
   }
-  EXPECT_EQ(GetControlMaximum(DLGGetChildControl(m_dialog, kDemoCombo)), 7);
+  EXPECT_EQ(GetControlMaximum(DLGGetChildControl(m_dialog, kDemoCombo)), 8);
   EXPECT_EQ(CBGetSelect(m_dialog, kDemoCombo), -1) << "no row selects itself";
 }
 

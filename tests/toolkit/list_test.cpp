@@ -164,10 +164,10 @@ TEST_F(ListTest, OnlyCheckListsHaveChecks) {
   LBSetCheck(m_dialog, kDemoList, 0, true);
   EXPECT_EQ(LBGetCheck(m_dialog, kDemoList, 0), 0);
   EXPECT_EQ(LBGetCheck(m_dialog, kDemoEdit, 0), 0);
-  EXPECT_EQ(LBInsertItem(m_dialog, kDemoEdit, "a", kRowTop), -1);
+  EXPECT_EQ(LBInsertItem(m_dialog, kDemoEdit, "a", kRowTop), 0);
   DLGRecord* const closed = m_dialog;
   DisposeDLG(closed);
-  EXPECT_EQ(LBInsertItem(closed, kDemoCheckList, "a", kRowTop), -1);
+  EXPECT_EQ(LBInsertItem(closed, kDemoCheckList, "a", kRowTop), 0);
   EXPECT_EQ(LBGetCount(closed, kDemoCheckList), 0);
 }
 
@@ -187,8 +187,8 @@ TEST_F(ListTest, InsertsWhereThePositionSays) {
       {{"a", "_", "Z", "1", ""}, kRowSorted, {"", "1", "_", "a", "Z"}},  // "_" lies between the cases
       {{"\x8E", "z", "~"}, kRowSorted, {"z", "~", "\x8E"}},
       {{"b", nullptr}, kRowSorted, {"", "b"}},
-      {{"a"}, 1, {}},
-      {{"a"}, -4, {}},
+      {{"a", "b", "c"}, 9, {"a", "b", "c"}},
+      {{"a", "b", "c"}, -4, {"c", "b", "a"}},
   };
   for (const auto& row : rows) {
     DisposeDLG(m_dialog);

@@ -1,0 +1,41 @@
+// A window that shows an exported file as a table and as text.
+#ifndef GRADIX_RESULTWINDOW_H
+#define GRADIX_RESULTWINDOW_H
+
+#include <QString>
+#include <QWidget>
+
+class QFormLayout;
+class QLabel;
+class QPushButton;
+class QTabWidget;
+
+namespace host {
+
+// A window of its own that goes with its parent and destroys itself when it is closed.
+class ResultWindow : public QWidget {
+ public:
+  // Reads the file, a very large one in part.
+  ResultWindow(QWidget* parent, const QString& path);
+
+  // Told of a change of the language.
+  void Retranslate();
+
+ private:
+  void AddTabs(const QByteArray& bytes);
+  void AddDetails(const QString& path);
+  void AddButtons(const QString& path);
+
+  QString m_fileName;
+  qint64 m_size = 0;
+  QTabWidget* m_tabs;
+  QLabel* m_cut;
+  QFormLayout* m_details;
+  QLabel* m_sizeText;
+  QPushButton* m_openFolder;
+  QPushButton* m_close;
+};
+
+}  // namespace host
+
+#endif  // GRADIX_RESULTWINDOW_H

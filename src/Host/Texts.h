@@ -1,0 +1,137 @@
+// The host's own texts, in English and Spanish.
+#ifndef GRADIX_HOST_TEXTS_H
+#define GRADIX_HOST_TEXTS_H
+
+#include <QString>
+#include <cstdint>
+
+namespace host {
+
+enum class Language : uint8_t { kEnglish, kSpanish };
+
+enum class TextID : uint8_t {
+  kProgram,
+  kDescription,
+  kClassFileArgument,
+  // menus
+  kFileMenu,
+  kOpen,
+  kRecentMenu,
+  kNoRecentFiles,
+  kQuit,
+  kExportMenu,
+  kExport,
+  kNoFormats,
+  kLanguageMenu,
+  kEnglish,
+  kSpanish,
+  kHelpMenu,
+  kAbout,
+  kAboutTitle,
+  kAboutText,
+  kToolBar,
+  // the class
+  kEmptyHint,
+  kEmptyButton,
+  kOpenTitle,
+  kOpenButton,
+  kClassFiles,
+  kAllFiles,
+  kReading,
+  kBusyReading,
+  kClassTable,
+  kStudentName,
+  kStudentID,
+  kNoResult,
+  kPointsPossibleTip,
+  kDateTip,
+  kClassSummary,
+  // the assignment panel
+  kPanel,
+  kAssignment,
+  kNoAssignments,
+  kStatistics,
+  kStudents,
+  kResults,
+  kMissing,
+  kMean,
+  kMedian,
+  kMinimum,
+  kMaximum,
+  kStandardDeviation,
+  kPointsPossible,
+  kHistogram,
+  kHistogramPoints,
+  kHistogramStudents,
+  kHistogramEmpty,
+  kHistogramBin,
+  // reading faults
+  kCannotOpen,
+  kCannotOpenAdvice,
+  kCannotRead,
+  kMalformed,
+  kMalformedReason,
+  kMalformedAdvice,
+  kNotAClass,
+  kNotAClassAdvice,
+  kOutOfMemory,
+  kOutOfMemoryAdvice,
+  kRecentGone,
+  kRecentGoneAdvice,
+  // the filter
+  kFilterNotFound,
+  kFilterNotFoundAdvice,
+  kFilterNotLoadable,
+  kFilterMissingSymbol,
+  kFilterReinstall,
+  kFilterWithoutFormats,
+  kFilterWithoutFormatsAdvice,
+  kBeginFailed,
+  kExportFileFailed,
+  kExportFileFailedAdvice,
+  kSessionUnknown,
+  kTryAgain,
+  kExportUnderWay,
+  kExportCanceled,
+  kExported,
+  kCloseDialogFirst,
+  // choosing the file
+  kSaveTitle,
+  kCsvFiles,
+  kSave,
+  kCancel,
+  kFileNameLabel,
+  kFileTypeLabel,
+  kLookInLabel,
+  kReplaceTitle,
+  kReplaceQuestion,
+  kReplace,
+  kPathTooLong,
+  kPathTooLongAdvice,
+  kNotWritten,
+  kNotWrittenAdvice,
+  // the exported file
+  kResultTitle,
+  kResultTable,
+  kResultText,
+  kResultPath,
+  kResultSize,
+  kResultTooLarge,
+  kOpenFolder,
+  kClose,
+  kOk,
+  kCount,
+};
+
+// The text in the current language.
+QString Text(TextID id);
+
+// The same in a given language; for the test that none is missing.
+QString TextIn(Language language, TextID id);
+
+Language CurrentLanguage();
+void SetCurrentLanguage(Language language);
+
+}  // namespace host
+
+#endif  // GRADIX_HOST_TEXTS_H

@@ -1,0 +1,55 @@
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QIcon>
+#include <QMetaObject>
+#include <algorithm>
+#include <iterator>
+#include <memory>
+#include <string_view>
+
+#include "Host/LanguageSetting.h"
+#include "Host/MainWindow.h"
+#include "Host/Texts.h"
+
+// Whether only a text is asked for, which needs no display.
+static bool _IsAskedForText(int argc, char** argv) {
+  constexpr std::string_view kOptions[] = {"-h", "--help", "-v", "--version"};
+  return std::any_of(argv + 1, argv + argc, [&kOptions](const char* argument) {
+    return std::find(std::begin(kOptions), std::end(kOptions), argument) != std::end(kOptions);
+  });
+}
+
+static void _ParseArguments(QCommandLineParser* parser, const QCoreApplication& application) {
+  parser->setApplicationDescription(host::Text(host::TextID::kDescription));
+  parser->addHelpOption();
+  parser->addVersionOption();
+  parser->addPositionalArgument(QStringLiteral("file"), host::Text(host::TextID::kClassFileArgument),
+                                QStringLiteral("[file]"));
+  parser->process(application);
+}
+
+int main(int argc, char** argv) {
+  QCoreApplication::setOrganizationName(QStringLiteral("Gradix"));
+  QCoreApplication::setApplicationName(QStringLiteral("gxhost"));
+  QCoreApplication::setApplicationVersion(QStringLiteral(GRADIX_VERSION));
+  QCommandLineParser parser;
+  if (argc > 1 && _IsAskedForText(argc, argv)) {
+    const QCoreApplication application(argc, argv);
+    host::RestoreLanguage();
+    _ParseArguments(&parser, application);
+  }
+  const QApplication application(argc, argv);
+  host::RestoreLanguage();
+  _ParseArguments(&parser, application);
+  QGuiApplication::setDesktopFileName(QStringLiteral("gradix"));
+  QGuiApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("gradix")));
+  host::MainWindow window;
+  window.show();
+  const auto start = [&window, &parser] {
+    window.LoadFilter();
+    const QString file = parser.positionalArguments().value(0);
+    if (!file.isEmpty()) window.OpenClassFile(file);
+  };
+  QMetaObject::invokeMethod(&window, start, Qt::QueuedConnection);
+  return QApplication::exec();
+}

@@ -1,0 +1,87 @@
+// What the tests of the host share.
+#ifndef GRADIX_HOSTFIXTURE_H
+#define GRADIX_HOSTFIXTURE_H
+
+#include <dlfcn.h>
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QFile>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <functional>
+#include <string>
+
+#include "Host/FilterModule.h"
+#include "Host/Texts.h"
+#include "tests/host/fake_filter.h"
+
+inline const QString kFakeFilter = QStringLiteral(FILTERS "/fake_filter.so");
+
+inline void WriteFile(const QString& path, const QByteArray& bytes) {
+  QFile file(path);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << path.toStdString();
+  ASSERT_EQ(file.write(bytes), bytes.size());
+}
+
+inline QByteArray ReadFile(const QString& path) {
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// The visible window of that name, or null.
+inline QWidget* FindWindow(const char* name) {
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->isVisible() && window->objectName() == QLatin1String(name)) return window;
+  }
+  return nullptr;
+}
+
+inline void ClickButton(QWidget* window, host::TextID text) {
+  for (QAbstractButton* button : window->findChildren<QAbstractButton*>()) {
+    if (button->text() == host::Text(text)) return button->click();
+  }
+  ADD_FAILURE() << "no button " << host::Text(text).toStdString();
+}
+
+// Every test begins with empty settings, in English, and with a filter that has been asked for nothing.
+class HostTest : public testing::Test {
+ protected:
+  HostTest() : m_filter(host::FilterModule::Load(kFakeFilter, nullptr)) {
+    QSettings().clear();
+    host::SetCurrentLanguage(host::Language::kEnglish);
+    void* const handle = ::dlopen(FILTERS "/fake_filter.so", RTLD_NOW | RTLD_NOLOAD);
+    m_fake = handle != nullptr ? static_cast<FakeFilter*>(::dlsym(handle, "g_fake")) : nullptr;
+    if (m_fake != nullptr) *m_fake = {};
+  }
+
+  void SetUp() override {
+    ASSERT_NE(m_filter, nullptr);
+    ASSERT_NE(m_fake, nullptr);
+    ASSERT_TRUE(m_folder.isValid());
+  }
+
+  QString PathOf(const char* name) const { return m_folder.filePath(QString::fromUtf8(name)); }
+
+  // Calls `act` with the window of that name as soon as it is visible, even inside a modal dialog's loop.
+  static void WhenVisible(const char* name, std::function<void(QWidget*)> act, int tries = 200) {
+    ASSERT_GT(tries, 0) << name << " did not come";
+    QTimer::singleShot(10, qApp, [name, act, tries] {
+      QWidget* const window = FindWindow(name);
+      if (window != nullptr) {
+        act(window);
+      } else {
+        WhenVisible(name, act, tries - 1);
+      }
+    });
+  }
+
+  std::unique_ptr<host::FilterModule> m_filter;
+  FakeFilter* m_fake;
+  QTemporaryDir m_folder;
+};
+
+#endif  // GRADIX_HOSTFIXTURE_H

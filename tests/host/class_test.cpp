@@ -1,0 +1,171 @@
+#include <QBrush>
+#include <QSignalSpy>
+
+#include "Host/AssignmentPanel.h"
+#include "Host/ClassLoader.h"
+#include "Host/ClassTableModel.h"
+#include "Host/HistogramWidget.h"
+#include "Host/ReadFaultText.h"
+#include "tests/host/HostFixture.h"
+
+namespace host {
+
+namespace {
+
+const QString kSecondary = QStringLiteral(SAMPLES "/secondary-school.xml");
+
+class ClassTest : public HostTest {
+ protected:
+  ReadResult ReadText(const QByteArray& text) {
+    WriteFile(PathOf("class.xml"), text);
+    return ReadClassFile(PathOf("class.xml"));
+  }
+
+  // The row of the student, by full name; -1 when there is none.
+  static int RowOf(const ClassTableModel& model, const char* name) {
+    for (int row = 0; row < model.rowCount(); ++row) {
+      if (model.index(row, 0).data().toString() == QLatin1String(name)) return row;
+    }
+    return -1;
+  }
+};
+
+TEST_F(ClassTest, TableOfTheSampleClass) {
+  const ReadResult result = ReadClassFile(kSecondary);
+  ASSERT_NE(result.openClass, nullptr);
+  EXPECT_EQ(result.openClass->name, QStringLiteral("Biology 9"));
+  ClassTableModel model(nullptr);
+  EXPECT_EQ(model.columnCount(), 0);
+  model.SetClass(result.openClass);
+  EXPECT_EQ(model.rowCount(), 30);
+  EXPECT_EQ(model.columnCount(), 14);
+  EXPECT_EQ(model.index(0, 0).data().toString(), QStringLiteral("Inés Álvarez"));
+  EXPECT_EQ(model.index(0, 1).data().toString(), QStringLiteral("204100"));
+  EXPECT_EQ(model.headerData(0, Qt::Horizontal, Qt::DisplayRole).toString(), QStringLiteral("Name"));
+  EXPECT_EQ(model.headerData(2, Qt::Horizontal, Qt::DisplayRole).toString(), QStringLiteral("Quiz 1: Cells"));
+  const QString tip = model.headerData(2, Qt::Horizontal, Qt::ToolTipRole).toString();
+  EXPECT_TRUE(tip.contains(QStringLiteral("Points possible: 6"))) << tip.toStdString();
+  EXPECT_TRUE(tip.contains(QStringLiteral("Date: "))) << tip.toStdString();
+
+  // Tom Young has 0 points in Quiz 4 and no results in Quiz 5.
+  const int row = RowOf(model, "Tom Young");
+  ASSERT_GE(row, 0);
+  const QModelIndex zero = model.index(row, 6);
+  const QModelIndex missing = model.index(row, 7);
+  EXPECT_EQ(zero.data().toString(), QStringLiteral("0"));
+  EXPECT_FALSE(zero.data(Qt::ToolTipRole).isValid());
+  EXPECT_FALSE(zero.data(Qt::ForegroundRole).isValid());
+  EXPECT_EQ(missing.data().toString(), QStringLiteral("—"));
+  EXPECT_EQ(missing.data(Qt::ToolTipRole).toString(), QStringLiteral("No result"));
+  EXPECT_EQ(missing.data(Qt::ForegroundRole).value<QBrush>(),
+            QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text));
+
+  const QSignalSpy headers(&model, &QAbstractItemModel::headerDataChanged);
+  SetCurrentLanguage(Language::kSpanish);
+  model.Retranslate();
+  EXPECT_EQ(headers.count(), 1);
+  EXPECT_EQ(missing.data(Qt::ToolTipRole).toString(), QStringLiteral("Sin resultado"));
+}
+
+TEST_F(ClassTest, PanelFollowsTheSelection) {
+  std::vector<int> selected;
+  AssignmentPanel panel(nullptr, [&selected](int assignment) { selected.push_back(assignment); });
+  EXPECT_EQ(panel.Selected(), -1);
+  panel.SetClass(ReadClassFile(kSecondary).openClass);
+  EXPECT_EQ(panel.Selected(), 0);
+  panel.Select(11);
+  panel.Select(12);
+  EXPECT_EQ(panel.Selected(), 11);
+  EXPECT_EQ(selected, (std::vector<int>{-1, 0, 11}));
+  panel.SetClass(nullptr);
+  EXPECT_EQ(panel.Selected(), -1);
+}
+
+// Light or dark, bars and labels differ from their ground.
+TEST_F(ClassTest, HistogramIsDrawnInThePalette) {
+  HistogramWidget widget(nullptr);
+  widget.SetHistogram(ComputeHistogram({1.0, 9.5, 9.5}, 10));
+  EXPECT_TRUE(widget.accessibleDescription().contains(QStringLiteral("9 to 10: 2")));
+  widget.resize(widget.sizeHint());
+  for (const QColor& base : {QColor(Qt::white), QColor(Qt::black)}) {
+    QPalette palette;
+    palette.setColor(QPalette::Base, base);
+    palette.setColor(QPalette::Text, base == QColor(Qt::white) ? Qt::black : Qt::white);
+    palette.setColor(QPalette::Highlight, Qt::blue);
+    widget.setPalette(palette);
+    const QImage image = widget.grab().toImage();
+    int bars = 0;
+    int ground = 0;
+    for (int x = 0; x < image.width(); ++x) {
+      const QColor color = image.pixelColor(x, image.height() / 2);
+      bars += color == QColor(Qt::blue) ? 1 : 0;
+      ground += color == base ? 1 : 0;
+    }
+    EXPECT_GT(bars, 5);
+    EXPECT_GT(ground, image.width() / 2);
+  }
+}
+
+TEST_F(ClassTest, NameOfTheClass) {
+  struct Case {
+    const char* text;
+    const char* name;
+  };
+  const Case cases[] = {
+      {"<class><class-name> A &amp;\n B </class-name></class>", "A & B"},
+      {"<class><preferences><class-name>x</class-name></preferences></class>", "class"},
+      {"<class><student-list/><class-name>late</class-name></class>", "class"},
+      {"<?xml version='1.0' encoding='ISO-8859-1'?><class><class-name>\xE9</class-name></class>", "é"},
+  };
+  for (const Case& test : cases) {
+    const ReadResult result = ReadText(test.text);
+    ASSERT_NE(result.openClass, nullptr) << test.text;
+    EXPECT_EQ(result.openClass->name, QString::fromUtf8(test.name)) << test.text;
+  }
+}
+
+TEST_F(ClassTest, FaultsAreToldInWords) {
+  const ReadResult malformed = ReadText("<class>\n  <student-list>\n</class>");
+  EXPECT_EQ(malformed.fault, ReadFault::kMalformed);
+  EXPECT_EQ(malformed.openClass, nullptr);
+  EXPECT_EQ(
+      TextOfFault(malformed).what,
+      QStringLiteral("The class file “class.xml” is damaged: line 3, column %1.").arg(malformed.column));
+  EXPECT_GT(malformed.column, 0U);
+  EXPECT_TRUE(TextOfFault(malformed).advice.contains(QStringLiteral("Save the class again")));
+  SetCurrentLanguage(Language::kSpanish);
+  EXPECT_TRUE(TextOfFault(malformed).what.contains(QStringLiteral("línea 3")));
+
+  EXPECT_EQ(ReadText("<school/>").fault, ReadFault::kNotAClass);
+  EXPECT_EQ(ReadText("").fault, ReadFault::kMalformed);
+  EXPECT_EQ(ReadClassFile(PathOf("none.xml")).fault, ReadFault::kCannotOpen);
+  EXPECT_EQ(ReadClassFile(m_folder.path()).fault, ReadFault::kCannotOpen);
+}
+
+TEST_F(ClassTest, LoaderReadsOneFileAtATime) {
+  ClassLoader loader(nullptr);
+  ReadResult result;
+  bool inMainThread = false;
+  ASSERT_TRUE(loader.Load(kSecondary, [&](const ReadResult& read) {
+    result = read;
+    inMainThread = QThread::currentThread() == qApp->thread();
+  }));
+  EXPECT_TRUE(loader.IsLoading());
+  EXPECT_FALSE(loader.Load(kSecondary, [](const ReadResult&) { FAIL(); }));
+  ASSERT_TRUE(QTest::qWaitFor([&loader] { return !loader.IsLoading(); }, 30000));
+  EXPECT_TRUE(inMainThread);
+  ASSERT_NE(result.openClass, nullptr);
+  EXPECT_EQ(result.openClass->scores.size(), 12U);
+}
+
+TEST_F(ClassTest, LoaderMayGoWhileReading) {
+  {
+    ClassLoader loader(nullptr);
+    ASSERT_TRUE(loader.Load(kSecondary, [](const ReadResult&) { FAIL(); }));
+  }
+  QApplication::processEvents();
+}
+
+}  // namespace
+
+}  // namespace host

@@ -1,0 +1,273 @@
+#include <QDialog>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <cstring>
+
+#include "Host/ExportRun.h"
+#include "Host/FileNames.h"
+#include "Host/SaveChooser.h"
+#include "tests/host/HostFixture.h"
+
+namespace host {
+
+namespace {
+
+QPointer<QDialog> g_dialog;
+
+// As the filter does it: a window of its own.
+void ShowDialog() {
+  g_dialog = new QDialog;
+  g_dialog->show();
+}
+
+class FilterModuleTest : public HostTest {};
+
+TEST_F(FilterModuleTest, TellsWhyAModuleCannotBeUsed) {
+  WriteFile(PathOf("text.so"), "no module");
+  struct Case {
+    QString path;
+    FilterFault fault;
+    QString detail;
+  };
+  const Case cases[] = {
+      {PathOf("none.so"), FilterFault::kNotFound, QStringLiteral("none.so")},
+      {m_folder.path(), FilterFault::kNotFound, m_folder.path()},
+      {PathOf("text.so"), FilterFault::kNotLoadable, QStringLiteral("text.so")},
+      {QStringLiteral(FILTERS "/incomplete_filter.so"), FilterFault::kMissingSymbol,
+       QStringLiteral("QZFilter_ExportFileA")},
+  };
+  for (const Case& test : cases) {
+    FilterLoadError error;
+    EXPECT_EQ(FilterModule::Load(test.path, &error), nullptr);
+    EXPECT_EQ(error.fault, test.fault) << test.path.toStdString();
+    EXPECT_TRUE(error.detail.contains(test.detail)) << error.detail.toStdString();
+  }
+}
+
+TEST_F(FilterModuleTest, PathComesFromTheEnvironmentFirst) {
+  EXPECT_TRUE(FilterModule::DefaultPath().endsWith(QStringLiteral("/lib/GX_StdCsv.so")));
+  EXPECT_FALSE(FilterModule::DefaultPath().contains(QStringLiteral("..")));
+  qputenv("GRADIX_FILTER", "/elsewhere/filter.so");
+  EXPECT_EQ(FilterModule::DefaultPath(), QStringLiteral("/elsewhere/filter.so"));
+  qunsetenv("GRADIX_FILTER");
+}
+
+TEST_F(FilterModuleTest, ListsFormats) {
+  ASSERT_NE(FilterModule::Load(kFakeFilter, nullptr), nullptr);
+  EXPECT_EQ(m_fake->attached, 1);
+  m_fake->formatCount = 3;
+  const std::vector<ExportFormat> formats = m_filter->Formats();
+  ASSERT_EQ(formats.size(), 3U);
+  EXPECT_EQ(formats[2].index, 2U);
+  EXPECT_EQ(formats[2].name, QStringLiteral("Assignment Results for Café 2"));
+  EXPECT_EQ(formats[2].extension, QStringLiteral("csv"));
+  m_fake->failingFormat = 0;
+  EXPECT_TRUE(m_filter->Formats().empty());
+}
+
+class ExportRunTest : public HostTest {
+ protected:
+  ExportRunTest()
+      : m_run(
+            nullptr,
+            [this](QWidget* dialog) {
+              m_askedBy = dialog;
+              return m_choice;
+            },
+            [this](RunOutcome outcome, const QString& path) {
+              ++m_finished;
+              m_outcome = outcome;
+              m_path = path;
+            }) {
+    m_fake->showDialog = ShowDialog;
+    m_request.formatIndex = 1;
+    m_request.assignmentID = -7;
+    m_request.classPath = QStringLiteral("/classes/Año.xml");
+  }
+  ~ExportRunTest() override { delete g_dialog; }
+
+  StartResult Start() { return m_run.Start(*m_filter, m_request, &m_window); }
+
+  // Presses OK as the filter's dialog does: asks for the file. Gives the path of the buffer of `size` bytes.
+  std::string AskForFile(int32_t size = 256) {
+    std::string buffer(static_cast<size_t>(size), '#');
+    const int32_t status = m_fake->begin.chooseFile(reinterpret_cast<void*>(g_dialog->winId()), 0,
+                                                    buffer.data(), size, m_fake->begin.chooseFileValue);
+    return status == 0 ? std::string(buffer.c_str()) : "status " + std::to_string(status);
+  }
+
+  bool WaitForEnd() {
+    return QTest::qWaitFor([this] { return m_finished > 0; });
+  }
+
+  QWidget m_window;
+  ExportRequest m_request;
+  std::optional<QString> m_choice;
+  QWidget* m_askedBy = nullptr;
+  int m_finished = 0;
+  RunOutcome m_outcome = RunOutcome::kCanceled;
+  QString m_path;
+  ExportRun m_run;
+};
+
+TEST_F(ExportRunTest, TellsTheFilterWhatToExport) {
+  m_request.spanish = true;
+  ASSERT_EQ(Start(), StartResult::kStarted);
+  EXPECT_EQ(m_fake->begin.formatIndex, 1U);
+  EXPECT_EQ(m_fake->file.assignmentID, -7);
+  EXPECT_EQ(m_fake->languageOfFile, 6);
+  EXPECT_EQ(m_fake->hostWindow, reinterpret_cast<void*>(m_window.winId()));
+  EXPECT_NE(m_fake->module, nullptr);
+  EXPECT_EQ(m_fake->ends, 1);
+  EXPECT_EQ(m_fake->endedID, 0xFAA00007UL);
+
+  // The reference, read as the filter reads it after the call.
+  const uint8_t* const bytes = m_fake->file.classFile.hidden;
+  EXPECT_EQ(std::string(reinterpret_cast<const char*>(bytes), 8), std::string("FSrf\0\0\0\0", 8));
+  const char* path = nullptr;
+  std::memcpy(&path, bytes + 8, sizeof path);
+  EXPECT_STREQ(path, "/classes/Año.xml");
+  for (size_t i = 8 + sizeof path; i < sizeof(FSRef); ++i) EXPECT_EQ(bytes[i], 0) << i;
+
+  g_dialog->close();
+  ASSERT_TRUE(WaitForEnd());
+  m_request.spanish = false;
+  ASSERT_EQ(Start(), StartResult::kStarted);
+  EXPECT_EQ(m_fake->languageOfFile, 0);
+}
+
+TEST_F(ExportRunTest, OneAtATime) {
+  ASSERT_EQ(Start(), StartResult::kStarted);
+  EXPECT_EQ(m_run.Dialog(), g_dialog);
+  EXPECT_EQ(Start(), StartResult::kBusy);
+  EXPECT_EQ(m_fake->begins, 1);
+  QTest::qWait(50);
+  EXPECT_TRUE(m_run.IsRunning());
+  delete g_dialog;
+  ASSERT_TRUE(WaitForEnd());
+  EXPECT_FALSE(m_run.IsRunning());
+  EXPECT_EQ(m_outcome, RunOutcome::kCanceled);
+  EXPECT_EQ(Start(), StartResult::kStarted);
+}
+
+TEST_F(ExportRunTest, FilterRefuses) {
+  m_fake->showDialog = nullptr;
+  const std::pair<uint32_t, StartResult> statuses[] = {{0, StartResult::kFileFailed},
+                                                       {QZFILTER_FAILED, StartResult::kSessionUnknown}};
+  for (const auto& [status, result] : statuses) {
+    m_fake->fileStatus = status;
+    EXPECT_EQ(Start(), result);
+    EXPECT_FALSE(m_run.IsRunning());
+  }
+  m_fake->beginStatus = QZFILTER_FAILED;
+  EXPECT_EQ(Start(), StartResult::kBeginFailed);
+  EXPECT_EQ(m_fake->files, 2);
+  EXPECT_FALSE(m_run.IsRunning());
+}
+
+TEST_F(ExportRunTest, DialogMayComeLater) {
+  m_fake->showDialog = nullptr;
+  ASSERT_EQ(Start(), StartResult::kStarted);
+  QTimer::singleShot(60, &m_window, ShowDialog);
+  ASSERT_TRUE(QTest::qWaitFor([this] { return m_run.Dialog() != nullptr; }));
+  EXPECT_EQ(m_finished, 0);
+  g_dialog->close();
+  EXPECT_TRUE(WaitForEnd());
+}
+
+TEST_F(ExportRunTest, WithoutADialogTheRunEnds) {
+  m_fake->showDialog = nullptr;
+  ASSERT_EQ(Start(), StartResult::kStarted);
+  EXPECT_TRUE(WaitForEnd());
+  EXPECT_FALSE(m_run.IsRunning());
+}
+
+TEST_F(ExportRunTest, OutcomeDependsOnTheFile) {
+  struct Case {
+    const char* name;
+    bool existed, written;
+    RunOutcome outcome;
+  };
+  const Case cases[] = {{"new.csv", false, true, RunOutcome::kWritten},
+                        {"none.csv", false, false, RunOutcome::kNotWritten},
+                        {"replaced.csv", true, true, RunOutcome::kWritten},
+                        {"old.csv", true, false, RunOutcome::kNotWritten}};
+  for (const Case& test : cases) {
+    m_choice = PathOf(test.name);
+    if (test.existed) WriteFile(*m_choice, "same");
+    QTest::qWait(20);  // so that a file written again has another time
+    m_finished = 0;
+    ASSERT_EQ(Start(), StartResult::kStarted);
+    EXPECT_EQ(AskForFile(), m_choice->toStdString());
+    EXPECT_EQ(m_askedBy, g_dialog);
+    if (test.written) WriteFile(*m_choice, "same");
+    g_dialog->close();
+    ASSERT_TRUE(WaitForEnd());
+    EXPECT_EQ(m_outcome, test.outcome) << test.name;
+    EXPECT_EQ(m_path, *m_choice);
+  }
+}
+
+TEST_F(ExportRunTest, ChoosesNothing) {
+  ASSERT_EQ(Start(), StartResult::kStarted);
+  EXPECT_EQ(AskForFile(), "status 1");
+  m_choice = QStringLiteral("/12345678");
+  EXPECT_EQ(AskForFile(9), "status 1");
+  EXPECT_EQ(AskForFile(10), "/12345678");
+}
+
+class SaveChooserTest : public HostTest {
+ protected:
+  // Types the name into the chooser when it shows, and presses Save.
+  static void Save(const QString& name) {
+    WhenVisible("saveChooser", [name](QWidget* window) {
+      window->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(name);
+      ClickButton(window, TextID::kSave);
+    });
+  }
+
+  static std::optional<QString> Choose() {
+    return ChooseSaveFile(nullptr, QStringLiteral("Quiz 1 - Canvas.csv"), QStringLiteral("csv"));
+  }
+};
+
+TEST_F(SaveChooserTest, ProposesNameAndLastFolder) {
+  Save(PathOf("results"));
+  EXPECT_EQ(Choose(), PathOf("results.csv"));
+  WhenVisible("saveChooser", [this](QWidget* window) {
+    EXPECT_EQ(window->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text(),
+              QStringLiteral("Quiz 1 - Canvas.csv"));
+    EXPECT_EQ(static_cast<QFileDialog*>(window)->directory().absolutePath(), m_folder.path());
+    ClickButton(window, TextID::kCancel);
+  });
+  EXPECT_EQ(Choose(), std::nullopt);
+}
+
+TEST_F(SaveChooserTest, AsksBeforeReplacing) {
+  WriteFile(PathOf("old.csv"), "old");
+  Save(PathOf("old.csv"));
+  WhenVisible("replaceQuestion", [this](QWidget* question) {
+    WhenVisible("saveChooser", [this](QWidget*) {
+      Save(PathOf("old.csv"));
+      WhenVisible("replaceQuestion", [](QWidget* again) { ClickButton(again, TextID::kReplace); });
+    });
+    ClickButton(question, TextID::kCancel);
+  });
+  EXPECT_EQ(Choose(), PathOf("old.csv"));
+  EXPECT_EQ(ReadFile(PathOf("old.csv")), "old");
+}
+
+TEST_F(SaveChooserTest, RefusesALongPath) {
+  const QString folder = PathOf("f") + QString(200, u'o');
+  ASSERT_TRUE(QDir().mkpath(folder));
+  Save(folder + u'/' + QString(60, u'x'));
+  WhenVisible("message", [](QWidget* message) {
+    WhenVisible("saveChooser", [](QWidget* window) { ClickButton(window, TextID::kCancel); });
+    ClickButton(message, TextID::kOk);
+  });
+  EXPECT_EQ(Choose(), std::nullopt);
+}
+
+}  // namespace
+
+}  // namespace host

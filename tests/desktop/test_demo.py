@@ -5,32 +5,12 @@ import subprocess
 import time
 import unittest
 
+from display import LIMIT, Display
+
 DEMO = os.environ["TOOLKIT_DEMO"]
 RESOURCES = os.environ["DEMO_RESOURCES"]
 
 OK, CANCEL, EDIT, COMBO, CHECKS, SELECT_ALL, CHECK_BOX, DISABLED, SINGLE = 1, 2, 4, 6, 8, 9, 15, 21, 12
-LIMIT = 10  # seconds until something that should happen counts as not happening
-
-
-class Display:
-    """An X server without a screen."""
-
-    def __init__(self):
-        read, write = os.pipe()
-        self.server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write), "-screen", "0", "1024x768x24", "-nolisten", "tcp"],
-            pass_fds=[write], stderr=subprocess.DEVNULL)
-        os.close(write)
-        with os.fdopen(read) as pipe:
-            self.environment = dict(os.environ, DISPLAY=":" + pipe.readline().strip(), QT_QPA_PLATFORM="xcb",
-                                    QT_SCALE_FACTOR="1", QT_ACCESSIBILITY="0")
-
-    def xdotool(self, *arguments):
-        subprocess.run(["xdotool", *map(str, arguments)], env=self.environment, check=True, timeout=30)
-
-    def close(self):
-        self.server.terminate()
-        self.server.wait()
 
 
 class DemoTest(unittest.TestCase):
@@ -95,7 +75,7 @@ class DemoTest(unittest.TestCase):
         self.display.xdotool("click", "--repeat", times, "--delay", 40, 1)
 
     def key(self, *keys):
-        self.display.xdotool("key", "--delay", 30, *keys)
+        self.display.key(*keys)
 
     def settle(self):
         time.sleep(0.4)

@@ -92,15 +92,13 @@ bool IsWindowInFrontOf(WindowRef window, WindowRef other) {
   return second != order.end() && first < second;
 }
 
+// Without a parent of ours, the host's window stays the parent, if there is one.
 static void _ApplyParent(const WindowRecord& window) {
   const WindowRecord* const parent = FindWindow(window.parent);
-  if (parent != nullptr && parent->widget->windowHandle() == nullptr) parent->widget->winId();
-  if (window.widget->windowHandle() == nullptr) {
-    if (parent == nullptr) return;
-    window.widget->winId();
-  }
-  window.widget->windowHandle()->setTransientParent(parent == nullptr ? nullptr
-                                                                      : parent->widget->windowHandle());
+  if (parent == nullptr) return;
+  if (parent->widget->windowHandle() == nullptr) parent->widget->winId();
+  if (window.widget->windowHandle() == nullptr) window.widget->winId();
+  window.widget->windowHandle()->setTransientParent(parent->widget->windowHandle());
 }
 
 void ShowWindow(WindowRef window) {
@@ -237,6 +235,8 @@ void SetWindowParent(WindowRef window, WindowRef parent) {
   WindowRecord* const record = FindWindow(window);
   if (record == nullptr || window == parent || (parent != nullptr && FindWindow(parent) == nullptr)) return;
   record->parent = parent;
+  QWindow* const handle = record->widget->windowHandle();
+  if (parent == nullptr && handle != nullptr) handle->setTransientParent(nullptr);
   _ApplyParent(*record);
 }
 
@@ -283,7 +283,6 @@ void* GetWindowID(WindowRef window) {
 void SetWindowHostParent(WindowRef window, void* hostWindow) {
   const WindowRecord* const record = FindWindow(window);
   if (record == nullptr || hostWindow == nullptr) return;
-  // A window of this process is known to Qt; any other is wrapped as a foreign one.
   const auto id = reinterpret_cast<WId>(hostWindow);
   const QWidget* const known = QWidget::find(id);
   QWindow* const host = known != nullptr ? known->window()->windowHandle() : nullptr;

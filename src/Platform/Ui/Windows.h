@@ -63,7 +63,8 @@ void InvalWindowRect(WindowRef window, const Rect& area);  // to be drawn again
 // Whose owner is `parent`: kept above it. Null ends that.
 void SetWindowParent(WindowRef window, WindowRef parent);
 
-// The window system's id of the window, as a pointer, for the host; and a window of the host as the owner.
+// The window system's id of the window, as a pointer, for the host; and a window of the host as the owner,
+// which only a Qt window of this process becomes.
 void* GetWindowID(WindowRef window);
 void SetWindowHostParent(WindowRef window, void* hostWindow);  // null: none
 

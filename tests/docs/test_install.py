@@ -1,0 +1,79 @@
+"""The installed tree: complete, movable, and usable from outside."""
+import os
+import shutil
+import subprocess
+import tempfile
+import unittest
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parents[2]
+
+
+def run(*command, **options):
+    return subprocess.run([*map(str, command)], check=True, capture_output=True, text=True, encoding="latin-1",
+                          timeout=60, **options)
+
+
+class InstallTest(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        folder = tempfile.TemporaryDirectory()
+        cls.addClassCleanup(folder.cleanup)
+        run(os.environ["CMAKE"], "--install", os.environ["BUILD"], "--prefix", f"{folder.name}/first")
+        cls.prefix = Path(folder.name) / "moved"
+        os.rename(f"{folder.name}/first", cls.prefix)
+        # The tree has to be found by itself.
+        cls.environment = {key: value for key, value in os.environ.items() if not key.startswith("GRADIX_")}
+
+    def test_files(self):
+        installed = {str(path.relative_to(self.prefix)) for path in self.prefix.rglob("*") if path.is_file()}
+        others = {path for path in installed if not path.startswith("share/gradix/Quizonne Help/")}
+        resources = "share/gradix/Gradix.bundle/Resources/"
+        self.assertEqual(others, {
+            "bin/gxexport", "bin/gxhost", "include/gradix/QZFilter.h", "lib/GX_StdCsv.so",
+            "lib/pkgconfig/gradix-filter.pc", "share/applications/gradix.desktop",
+            "share/bash-completion/completions/gxexport", "share/icons/hicolor/scalable/apps/gradix.svg",
+            "share/man/man1/gxexport.1", "share/man/man1/gxhost.1",
+            resources + "Gradix.rsrc", resources + "GradixStringsENU.strings", resources + "GradixStringsESP.strings",
+            resources + "qzfstdcsv.rsrc", resources + "qzfstdcsvESP.rsrc"})
+        for language in "en", "es":
+            self.assertIn(f"share/gradix/Quizonne Help/{language}/Quizonne Gradix/qzmanage.htm", installed)
+
+    def test_programs(self):
+        output = run(self.prefix / "bin/gxexport", "export", "-f", "canvas", ROOT / "samples/village-school.xml").stdout
+        self.assertTrue(output.startswith("Student,ID,Section,"))
+        self.assertRegex(run(self.prefix / "bin/gxhost", "--version").stdout, r"^gxhost \d+\.\d+\.\d+\n$")
+
+    def test_a_host_beside_them_finds_the_run_time_files(self):
+        host = shutil.copy(os.environ["EXAMPLE_HOST"], self.prefix / "bin")
+        self.addCleanup(os.remove, host)
+        module = self.prefix / "lib/GX_StdCsv.so"
+        done = run(host, module, ROOT / "samples/village-school.xml", 6, 2, "/nonexistent/x.csv", env=self.environment)
+        self.assertIn("dialog is open", done.stdout)
+
+    def test_pkg_config(self):
+        if shutil.which("pkg-config") is None:
+            self.skipTest("no pkg-config")
+        environment = dict(os.environ, PKG_CONFIG_PATH=str(self.prefix / "lib/pkgconfig"))
+        variables = [run("pkg-config", f"--variable={name}", "gradix-filter", env=environment).stdout.strip()
+                     for name in ("filterdir", "bundle")]
+        self.assertEqual([Path(variable).resolve() for variable in variables],
+                         [self.prefix / "lib", self.prefix / "share/gradix/Gradix.bundle"])
+        flags = run("pkg-config", "--cflags", "gradix-filter", env=environment).stdout.split()
+        run(os.environ["CC"], "-fsyntax-only", *flags, ROOT / "docs/examples/host.c")
+
+    def test_desktop_entry(self):
+        if shutil.which("desktop-file-validate") is None:
+            self.skipTest("no desktop-file-validate")
+        done = run("desktop-file-validate", self.prefix / "share/applications/gradix.desktop")
+        self.assertEqual(done.stdout + done.stderr, "")
+
+    def test_manual_pages(self):
+        if shutil.which("mandoc") is None:
+            self.skipTest("no mandoc")
+        for page in (self.prefix / "share/man/man1").iterdir():
+            self.assertEqual(run("mandoc", "-T", "lint", "-W", "warning", page).stdout, "")
+
+
+if __name__ == "__main__":
+    unittest.main()

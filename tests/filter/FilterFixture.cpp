@@ -1,0 +1,210 @@
+#include "tests/filter/FilterFixture.h"
+
+#include <unistd.h>
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QLabel>
+#include <QTest>
+#include <algorithm>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+
+static int32_t _ChooseFile(void* dialog, int32_t reserved, char* path, int32_t size, uintptr_t value) {
+  auto& chooser = *reinterpret_cast<FileChooser*>(value);
+  chooser.calls.push_back({dialog, reserved, size});
+  const size_t length = std::min(chooser.path.size() + 1, static_cast<size_t>(size));
+  std::memcpy(path, chooser.path.c_str(), length);
+  if (chooser.meanwhile) chooser.meanwhile();
+  return chooser.answer;
+}
+
+FilterModule& FilterTest::Module() {
+  static FilterModule s_module;
+  if (s_module.handle == nullptr) s_module.Load();
+  return s_module;
+}
+
+void FilterTest::SetUp() {
+  setenv("GRADIX_BUNDLE", BUNDLE, 1);
+  ASSERT_NE(Module().language, nullptr);
+  *Module().language = 0;
+  std::string name = testing::UnitTest::GetInstance()->current_test_info()->name();
+  std::replace(name.begin(), name.end(), '/', '-');
+  m_folder = std::filesystem::path(testing::TempDir()) / ("filter-" + std::to_string(getpid()) + "-" + name);
+  std::filesystem::create_directories(m_folder);
+  chooser.path = PathOf("export.csv");
+}
+
+void FilterTest::TearDown() {
+  Module().dllMain(Module().handle, 0, nullptr);
+  RunEvents();
+  EXPECT_TRUE(Dialogs().empty());
+  std::filesystem::remove_all(m_folder);
+}
+
+unsigned long FilterTest::Begin(uint32_t format, bool withChooser) {
+  QZEXPORTBEGIN begin{};
+  begin.formatIndex = format;
+  begin.chooseFileValue = reinterpret_cast<uintptr_t>(&chooser);
+  begin.chooseFile = withChooser ? _ChooseFile : nullptr;
+  unsigned long session = 0;
+  EXPECT_EQ(Module().begin(nullptr, &begin, &session), QZFILTER_SUCCESS);
+  return session;
+}
+
+uint32_t FilterTest::ExportFile(unsigned long session, const std::string& classFile, int32_t assignment,
+                                void* hostWindow) {
+  QZEXPORTFILE file{};
+  file.assignmentID = assignment;
+  file.classFile = MakeFileReference(classFile.c_str());
+  const uint32_t status = Module().exportFile(hostWindow, session, &file, Module().handle);
+  RunEvents();
+  return status;
+}
+
+QPointer<QWidget> FilterTest::Open(uint32_t format, const std::string& classFile, int32_t assignment) {
+  const std::vector<QWidget*> before = Dialogs();
+  EXPECT_EQ(ExportFile(Begin(format), classFile, assignment), 1U);
+  for (QWidget* dialog : Dialogs()) {
+    if (std::find(before.begin(), before.end(), dialog) == before.end()) return dialog;
+  }
+  ADD_FAILURE() << "no dialog appeared";
+  return nullptr;
+}
+
+std::vector<QWidget*> FilterTest::Dialogs() {
+  std::vector<QWidget*> dialogs;
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->isVisible() && window->windowTitle().startsWith("Export")) dialogs.push_back(window);
+  }
+  return dialogs;
+}
+
+void FilterTest::RunEvents() {
+  QCoreApplication::processEvents();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  QCoreApplication::processEvents();
+}
+
+QWidget* FilterTest::Item(QWidget* dialog, int item) {
+  auto* const widget = dialog->findChild<QWidget*>(QStringLiteral("item%1").arg(item));
+  if (widget == nullptr) throw std::out_of_range("no item " + std::to_string(item));
+  return widget;
+}
+
+void FilterTest::Click(QWidget* dialog, int item) {
+  QWidget* const widget = Item(dialog, item);
+  constexpr int kInTitle = 10;  // from the left edge
+  QTest::mouseClick(widget, Qt::LeftButton, {}, QPoint(kInTitle, widget->height() / 2));
+  RunEvents();
+}
+
+void FilterTest::Key(QWidget* dialog, int key, Qt::KeyboardModifiers modifiers) {
+  QWidget* const focus = dialog->focusWidget();
+  QTest::keyClick(focus != nullptr ? focus : dialog, static_cast<Qt::Key>(key), modifiers);
+  RunEvents();
+}
+
+void FilterTest::FocusByTab(QWidget* dialog, int item) {
+  constexpr int kMostItems = 20;
+  for (int i = 0; i < kMostItems && dialog->focusWidget() != Item(dialog, item); ++i)
+    Key(dialog, Qt::Key_Tab);
+  EXPECT_EQ(dialog->focusWidget(), Item(dialog, item)) << item;
+}
+
+void FilterTest::Press(QWidget* dialog, int item, Input input) {
+  if (input == Input::mouse) return Click(dialog, item);
+  FocusByTab(dialog, item);
+  Key(dialog, Qt::Key_Space);
+}
+
+void FilterTest::ChooseRow(QWidget* dialog, int popup, int row, Input input) {
+  const int from = SelectedRow(dialog, popup);
+  Press(dialog, popup, input);
+  QWidget* const menu = QApplication::activePopupWidget();
+  ASSERT_NE(menu, nullptr);
+  auto* const rows = menu->findChild<QAbstractItemView*>();
+  ASSERT_NE(rows, nullptr);
+  if (input == Input::mouse) {
+    const QPoint where = rows->visualRect(rows->model()->index(row, 0)).center();
+    QTest::mouseMove(rows->viewport(), where);
+    QTest::mouseClick(rows->viewport(), Qt::LeftButton, {}, where);
+  } else {
+    for (int i = from; i < row; ++i) QTest::keyClick(rows, Qt::Key_Down);
+    for (int i = from; i > row; --i) QTest::keyClick(rows, Qt::Key_Up);
+    QTest::keyClick(rows, Qt::Key_Return);
+  }
+  RunEvents();
+  EXPECT_EQ(SelectedRow(dialog, popup), row);
+}
+
+void FilterTest::ToggleRow(QWidget* dialog, int list, int row, Input input) {
+  auto* const view = qobject_cast<QAbstractItemView*>(Item(dialog, list));
+  ASSERT_NE(view, nullptr);
+  if (input == Input::mouse) {
+    const QModelIndex index = view->model()->index(row, 0);
+    view->scrollTo(index);
+    const QRect bounds = view->visualRect(index);
+    constexpr int kInCheckMark = 6;  // from the left edge
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, {kInCheckMark, bounds.center().y()});
+    RunEvents();
+    return;
+  }
+  FocusByTab(dialog, list);
+  Key(dialog, Qt::Key_Home);
+  for (int i = 0; i < row; ++i) Key(dialog, Qt::Key_Down);
+  Key(dialog, Qt::Key_Space);
+}
+
+int FilterTest::SelectedRow(QWidget* dialog, int popup) {
+  return qobject_cast<QComboBox*>(Item(dialog, popup))->currentIndex();
+}
+
+std::vector<int> FilterTest::CheckedRows(QWidget* dialog, int list) {
+  const QAbstractItemModel* const model = qobject_cast<QAbstractItemView*>(Item(dialog, list))->model();
+  std::vector<int> rows;
+  for (int row = 0; row < model->rowCount(); ++row) {
+    if (model->index(row, 0).data(Qt::CheckStateRole).toInt() == Qt::Checked) rows.push_back(row);
+  }
+  return rows;
+}
+
+bool FilterTest::IsChecked(QWidget* dialog, int box) {
+  return qobject_cast<QAbstractButton*>(Item(dialog, box))->isChecked();
+}
+
+std::string FilterTest::TextOf(QWidget* dialog, int item) {
+  QWidget* const widget = Item(dialog, item);
+  if (const auto* const button = qobject_cast<QAbstractButton*>(widget)) return button->text().toStdString();
+  return qobject_cast<QLabel*>(widget)->text().toStdString();
+}
+
+std::string FilterTest::Finish(const QPointer<QWidget>& dialog, uint32_t format, Input input) {
+  alerts.Take();
+  const size_t calls = chooser.calls.size();
+  if (input == Input::mouse) {
+    Click(dialog, OKItem(format));
+  } else {
+    Key(dialog, Qt::Key_Enter, Qt::KeypadModifier);
+  }
+  EXPECT_EQ(chooser.calls.size(), calls + 1);
+  EXPECT_EQ(alerts.TakeTexts(), std::vector<std::string>{SavedText(chooser.path)});
+  EXPECT_TRUE(IsGone(dialog));
+  return Bytes(chooser.path);
+}
+
+std::string FilterTest::WriteClass(const std::string& xml) const {
+  std::string path = PathOf("class.xml");
+  std::ofstream(path, std::ios::binary) << xml;
+  return path;
+}
+
+std::string FilterTest::Bytes(const std::filesystem::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  EXPECT_TRUE(file.is_open()) << path;
+  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}

@@ -1,0 +1,165 @@
+// What stops an export or comments on it: empty and repeated identifiers, names, paths, the file chooser.
+#include "tests/filter/ClassXml.h"
+#include "tests/filter/FilterFixture.h"
+
+namespace {
+
+constexpr char kOneEmpty[] =
+    "The selected Canvas User ID field is empty for 1 of 3 students. Student records missing a valid Canvas "
+    "User ID will not be imported into Canvas.";
+constexpr char kTwoEmpty[] =
+    "The selected Canvas User ID field is empty for 2 of 3 students. Student records missing a valid Canvas "
+    "User ID will not be imported into Canvas.";
+constexpr char kAllEmpty[] =
+    "The selected Canvas User ID field is empty for all students. No student results can be exported.";
+constexpr int32_t kQuiz = 7;
+
+using ChecksTest = FilterTest;
+
+TEST_F(ChecksTest, AsksForAnAssignmentWhenNoneIsChecked) {
+  const QPointer<QWidget> dialog = Open(kCanvas, kSampleClass);
+  ASSERT_FALSE(dialog.isNull());
+  EXPECT_EQ(CheckedRows(dialog, kAssignments), std::vector<int>{});
+  Click(dialog, kOK);
+  const std::vector<ShownAlert> shown = alerts.Take();
+  ASSERT_EQ(shown.size(), 1U);
+  EXPECT_EQ(shown[0].text,
+            "No assignment is checked. Check at least one assignment in the list, then export again.");
+  EXPECT_EQ(shown[0].icon, QMessageBox::Information);
+  EXPECT_EQ(shown[0].button, "OK");
+  EXPECT_TRUE(chooser.calls.empty());
+  ASSERT_FALSE(IsGone(dialog));
+  Click(dialog, kSelectAll);
+  Finish(dialog, kCanvas);
+}
+
+TEST_F(ChecksTest, ChecksTheIdentifiersOfTheClass) {
+  const struct {
+    std::vector<std::string> studentIDs;
+    std::vector<std::string> messages;
+    bool goesOn;
+  } rows[] = {
+      {{"1", "2", "3"}, {}, true},
+      {{"1", "", "3"}, {kOneEmpty}, true},
+      {{"", "2", ""}, {kTwoEmpty}, false},
+      {{"1", "1", ""}, {kOneEmpty}, false},
+      {{"1", "2", "1"}, {}, false},
+      {{"", "", ""}, {kAllEmpty}, false},
+      {{}, {kAllEmpty}, false},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(testing::PrintToString(row.studentIDs));
+    const QPointer<QWidget> dialog = Open(kCanvas, WriteClass(ClassXml(row.studentIDs)), kQuiz);
+    ASSERT_FALSE(dialog.isNull());
+    chooser.calls.clear();
+    Click(dialog, kOK);
+    std::vector<std::string> messages = row.messages;
+    if (row.goesOn) messages.push_back(SavedText(chooser.path));
+    EXPECT_EQ(alerts.TakeTexts(), messages);
+    EXPECT_EQ(chooser.calls.size(), row.goesOn ? 1U : 0U);
+    EXPECT_EQ(IsGone(dialog), row.goesOn);
+    if (!IsGone(dialog)) Click(dialog, kCancel);
+  }
+}
+
+TEST_F(ChecksTest, AnotherFieldCanStillBeChosenAfterTheCheck) {
+  const QPointer<QWidget> dialog = Open(kCanvas, WriteClass(ClassXml({"5", "5"})), kQuiz);
+  ASSERT_FALSE(dialog.isNull());
+  Click(dialog, kOK);
+  ASSERT_FALSE(IsGone(dialog));
+  ChooseRow(dialog, kFieldPopup, 3, Input::keys);
+  const std::string bytes = Finish(dialog, kCanvas);
+  EXPECT_NE(bytes.find(",a1,"), std::string::npos) << bytes;
+}
+
+TEST_F(ChecksTest, StaysOpenWhenNoFileWasChosen) {
+  for (const uint32_t format : {kCanvas, kDetailed}) {
+    chooser.answer = 1;
+    const QPointer<QWidget> dialog = Open(format, kSampleClass, 301);
+    ASSERT_FALSE(dialog.isNull());
+    Click(dialog, OKItem(format));
+    EXPECT_FALSE(std::filesystem::exists(chooser.path));
+    ASSERT_FALSE(IsGone(dialog));
+    chooser.answer = 0;
+    Finish(dialog, format);
+    std::filesystem::remove(chooser.path);
+
+    EXPECT_EQ(ExportFile(Begin(format, false), kSampleClass, 301), 1U);
+    ASSERT_EQ(Dialogs().size(), 1U);
+    Click(Dialogs().front(), OKItem(format));
+    EXPECT_EQ(alerts.TakeTexts(), std::vector<std::string>{});
+    ASSERT_EQ(Dialogs().size(), 1U);
+    Key(Dialogs().front(), Qt::Key_Escape);
+  }
+}
+
+TEST_F(ChecksTest, ClaimsToHaveSavedWhatCouldNotBeCreated) {
+  for (const uint32_t format : {kCanvas, kDetailed}) {
+    chooser.path = PathOf("no-such-folder/export.csv");
+    const QPointer<QWidget> dialog = Open(format, kSampleClass, 301);
+    ASSERT_FALSE(dialog.isNull());
+    Click(dialog, OKItem(format));
+    EXPECT_EQ(alerts.TakeTexts(), std::vector<std::string>{SavedText(chooser.path)});
+    EXPECT_TRUE(IsGone(dialog));
+    EXPECT_FALSE(std::filesystem::exists(chooser.path));
+  }
+}
+
+TEST_F(ChecksTest, ShowsEveryPathAsItIs) {
+  std::string longest = PathOf("");
+  while (longest.size() + 102 < 256) {
+    longest += std::string(100, 'd') + "/";
+    std::filesystem::create_directory(longest);
+  }
+  longest += std::string(256 - longest.size(), 'f');
+  const std::string paths[] = {
+      PathOf("100%s%n%d%%.csv"), PathOf("\"quoted\" 'twice' & <b>bold<b>.csv"),
+      PathOf("se\u00F1or \u20AC \u6F22.csv"),
+      longest,  // leaves no room for a zero
+  };
+  for (const std::string& path : paths) {
+    chooser.path = path;
+    for (const uint32_t format : {kCanvas, kDetailed}) {
+      const QPointer<QWidget> dialog = Open(format, kSampleClass, 301);
+      ASSERT_FALSE(dialog.isNull());
+      EXPECT_FALSE(Finish(dialog, format).empty());
+      std::filesystem::remove(path);
+    }
+  }
+}
+
+TEST_F(ChecksTest, CutsLongAssignmentNames) {
+  const struct {
+    size_t length;
+    size_t kept;
+  } rows[] = {{29, 29}, {31, 31}, {32, 31}, {45, 31}};
+  for (const auto& row : rows) {
+    std::string name(row.length, 'n');
+    name.front() = 'A';
+    const QPointer<QWidget> dialog = Open(kCanvas, WriteClass(ClassXml({"1"}, {{kQuiz, name}})), kQuiz);
+    ASSERT_FALSE(dialog.isNull());
+    const std::string bytes = Finish(dialog, kCanvas);
+    EXPECT_EQ(bytes.substr(0, bytes.find('\n')), "Student,ID,Section," + name.substr(0, row.kept));
+  }
+}
+
+TEST_F(ChecksTest, FailsOnANameOfExactlyThirtyCharacters) {
+  const std::string accented = std::string(28, 'n') + "\u00E9\u00E9";  // 30 characters of the class record
+  for (const std::string& name : {std::string(30, 'n'), accented}) {
+    const std::string path = WriteClass(ClassXml({"1"}, {{5, "Quiz"}, {kQuiz, name}}));
+    const unsigned long session = Begin(kCanvas);
+    EXPECT_EQ(ExportFile(session, path, kQuiz), QZFILTER_FAILED);
+    EXPECT_TRUE(Dialogs().empty());
+    EXPECT_EQ(ExportFile(session, kSampleClass), QZFILTER_FAILED) << "the session is gone";
+    EXPECT_TRUE(Dialogs().empty());
+    EXPECT_EQ(alerts.TakeTexts(), std::vector<std::string>{});
+    const QPointer<QWidget> next = Open(kCanvas, kSampleClass, 301);
+    ASSERT_FALSE(next.isNull());
+    Finish(next, kCanvas);
+    const QPointer<QWidget> report = Open(kDetailed, path, kQuiz);  // which takes names as they are
+    ASSERT_FALSE(report.isNull());
+    Finish(report, kDetailed);
+  }
+}
+
+}  // namespace

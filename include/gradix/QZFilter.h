@@ -84,8 +84,10 @@ QZFILTER_API uint32_t QZFilter_ExportBeginA(void* host, const QZEXPORTBEGIN* beg
 /* Reads the class file into the session, preselects the assignment and shows the options dialog. Returns at
  * once: the dialog lives in the host's event loop and writes the file when the user presses OK. The dialog
  * ends the session when it closes. Returns 1 when the class file was read, 0 when it or the filter's resource
- * file could not be read (no dialog then), QZFILTER_FAILED for an unknown session. `hostWindow` will own the
- * dialog; `module` is the filter's handle, kept for the call. */
+ * file could not be read (no dialog then). Returns QZFILTER_FAILED for an unknown session, for one whose
+ * dialog is open, and, with the session ended, for a class with an assignment name of exactly 30 characters.
+ * `hostWindow`, a Qt window of the process, owns the dialog; `module` is the filter's handle, kept for the
+ * call. */
 QZFILTER_API uint32_t QZFilter_ExportFileA(void* hostWindow, unsigned long id, const QZEXPORTFILE* file,
                                            void* module);
 

@@ -163,11 +163,19 @@ void MainWindow::ClassRead(const ReadResult& result) {
 void MainWindow::ShowClass(std::shared_ptr<const OpenClass> openClass) {
   m_class = std::move(openClass);
   m_model.SetClass(m_class);
-  m_table->resizeColumnsToContents();
+  FitColumns(m_model.columnCount());
   m_panel->SetClass(m_class);
   m_pages->setCurrentWidget(m_splitter);
   m_table->setFocus();
   Retranslate();
+}
+
+void MainWindow::FitColumns(int count) {
+  constexpr int kMargin = 12;  // a title does not touch the next
+  for (int column = 0; column < count; ++column) {
+    m_table->resizeColumnToContents(column);
+    m_table->setColumnWidth(column, m_table->columnWidth(column) + kMargin);
+  }
 }
 
 void MainWindow::SelectColumn(int column) {
@@ -190,9 +198,7 @@ void MainWindow::SetLanguage(Language language) {
   Retranslate();
   m_actions.Retranslate();
   m_model.Retranslate();
-  for (int column = 0; column < ClassTableModel::kFirstAssignmentColumn; ++column) {
-    m_table->resizeColumnToContents(column);
-  }
+  FitColumns(ClassTableModel::kFirstAssignmentColumn);
   m_panel->Retranslate();
   m_export.Retranslate();
   statusBar()->showMessage(m_export.IsRunning() ? Text(TextID::kExportUnderWay) : QString());

@@ -46,6 +46,7 @@ class MainWindow : public QMainWindow {
   void OpenRecentFile(const QString& path);
   void ClassRead(const ReadResult& result);
   void ShowClass(std::shared_ptr<const OpenClass> openClass);
+  void FitColumns(int count);  // the first ones, to their contents
   void SelectColumn(int column);
   void ExportAs(const ExportFormat& format);
   void ExportStateChanged(const QString& status);

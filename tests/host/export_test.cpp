@@ -205,6 +205,7 @@ TEST_F(ExportRunTest, OutcomeDependsOnTheFile) {
     ASSERT_TRUE(WaitForEnd());
     EXPECT_EQ(m_outcome, test.outcome) << test.name;
     EXPECT_EQ(m_path, *m_choice);
+    delete g_dialog;
   }
 }
 

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <filesystem>
+#include <limits>
 #include <random>
 #include <string>
 
@@ -164,6 +166,18 @@ TEST(RosterIndex, AnswersAsTheLinearSearchDoes) {
     for (size_t i = 0; i < students.size(); ++i) {
       EXPECT_EQ(found[i], assignment.FindResultsForStudent(students[i].id));
     }
+  }
+}
+
+// Which of two NaNs a sum has is the processor's choice, so the sum itself keeps the first: files show its
+// sign.
+TEST(TotalPoints, KeepTheFirstOfTwoNaNs) {
+  const double nan = std::numeric_limits<double>::quiet_NaN();
+  for (const double first : {nan, -nan}) {
+    qz::ResultsRecord results;
+    for (const double points : {1.0, first, -first, 2.0}) results.responses.push_back({0, 0, "", points});
+    EXPECT_TRUE(std::isnan(results.GetTotalPoints()));
+    EXPECT_EQ(std::signbit(results.GetTotalPoints()), std::signbit(first));
   }
 }
 

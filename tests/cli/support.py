@@ -1,5 +1,8 @@
 """Running gxexport, and small class files to run it on."""
+import atexit
+import functools
 import os
+import shutil
 import subprocess
 import tempfile
 import unittest
@@ -15,14 +18,24 @@ DONE, USAGE, CLASS_FILE, IDENTIFIERS, OUTPUT = 0, 2, 3, 4, 5
 UNPRIVILEGED = {"user": 65534, "group": 65534, "extra_groups": []} if os.geteuid() == 0 else {}
 
 
+@functools.cache
+def _program_for_everybody():
+    """A copy that anybody may run, wherever the build lies; gone with the process."""
+    folder = tempfile.TemporaryDirectory()
+    atexit.register(folder.cleanup)
+    os.chmod(folder.name, 0o755)
+    return shutil.copy(GXEXPORT, folder.name)
+
+
 def run(*args, stdin=b"", **options):
     """stdout and stderr are bytes."""
+    program = _program_for_everybody() if "user" in options else GXEXPORT
     options.setdefault("stdout", subprocess.PIPE)
     options.setdefault("stderr", subprocess.PIPE)
     source = {} if "stdin_file" in options else {"input": stdin}
     if "stdin_file" in options:
         source["stdin"] = options.pop("stdin_file")
-    return subprocess.run([GXEXPORT, *map(str, args)], timeout=60, **source, **options)
+    return subprocess.run([program, *map(str, args)], timeout=60, **source, **options)
 
 
 def student(number, first, last="Smith", **fields):

@@ -91,12 +91,9 @@ static std::string _JoinArguments(std::span<const AlertArgument> arguments) {
 }
 
 void ShowNumberedAlert(AlertStrings strings, int16_t number, std::span<const AlertArgument> arguments) {
-  const int16_t id = strings == AlertStrings::error     ? s_resources.error
-                     : strings == AlertStrings::caution ? s_resources.caution
-                                                        : s_resources.information;
-  const AlertType type = strings == AlertStrings::error     ? kAlertStopAlert
-                         : strings == AlertStrings::caution ? kAlertCautionAlert
-                                                            : kAlertNoteAlert;
+  const bool isError = strings == AlertStrings::error;
+  const int16_t id = isError ? s_resources.error : s_resources.information;
+  const AlertType type = isError ? kAlertStopAlert : kAlertNoteAlert;
   const std::string format = GetIndString(id, number);
   const std::string text = format.empty() ? _JoinArguments(arguments) : ExpandAlertText(format, arguments);
   if (text.empty() || !InitApplication()) {

@@ -24,7 +24,7 @@ void InitAlert(void* instance, int16_t errorID, int16_t cautionID, int16_t infor
 // without an argument stand as they are. Arguments are data: nothing in them is a place.
 std::string ExpandAlertText(std::string_view format, std::span<const AlertArgument> arguments);
 
-enum class AlertStrings { error, caution, information };
+enum class AlertStrings { error, information };
 
 // Shows the alert and waits for its answer. Without such a string it shows the arguments' texts, without
 // those it only beeps.
@@ -34,12 +34,6 @@ template <typename... Arguments>
 void ErrorAlert(int16_t number, Arguments... arguments) {
   const AlertArgument list[] = {AlertArgument(arguments)..., AlertArgument()};
   ShowNumberedAlert(AlertStrings::error, number, std::span(list, sizeof...(arguments)));
-}
-
-template <typename... Arguments>
-void CautionAlert(int16_t number, Arguments... arguments) {
-  const AlertArgument list[] = {AlertArgument(arguments)..., AlertArgument()};
-  ShowNumberedAlert(AlertStrings::caution, number, std::span(list, sizeof...(arguments)));
 }
 
 template <typename... Arguments>

@@ -5,9 +5,11 @@
 #include <QTimer>
 #include <QtTest/QTest>
 
+#include "Common/Language.h"
 #include "Toolkit/Alert.h"
 #include "Toolkit/Buttons.h"
 #include "Toolkit/DLGRegister.h"
+#include "Toolkit/LBList.h"
 #include "Toolkit/Toolkit.h"
 #include "ToolkitFixture.h"
 
@@ -148,6 +150,45 @@ TEST_F(State, TheDialogGoesWhileAnAlertIsUp) {
   });
   ErrorAlert(1, "gone");
   EXPECT_FALSE(DialogIsValid(dialog));
+}
+
+TEST_F(State, ASpanishSessionSetsTheLocale) {
+  gLang = kLanguageSpanish;
+  _InitLumoLibrary(nullptr);
+  EXPECT_EQ(gToolkitLanguage, 6);
+  gLang = 0;
+  _InitLumoLibrary(nullptr);
+  EXPECT_EQ(gToolkitLanguage, 6) << "an English start leaves it";
+  CurrentLocale(0);
+}
+
+TEST_F(State, TextIsMeasuredInTheItemsFont) {
+  DLGRecord* dialog = Open(kFields, kDLGModeless);
+  const auto width = [&](int16_t size) {
+    SetControlFontStyle(DLGGetChildControl(dialog, kFirst), {3, size});
+    return DLGMeasureItem(dialog, kFirst, "Measured text") & 0xFFFF;
+  };
+  const int32_t small = width(8);
+  const int32_t large = width(24);
+  EXPECT_GT(large, 2 * small);
+  EXPECT_LT(large, 4 * small);
+  EXPECT_GT(width(-1), width(-2)) << "theme fonts by number";
+}
+
+TEST_F(State, AListDrawsByItsOwnProcedure) {
+  static std::vector<int32_t> s_drawn;
+  s_drawn.clear();
+  DLGRecord* dialog = Open(kDemoDialog);
+  for (const char* text : {"a", "b"}) LBInsertItem(dialog, kDemoList, text, kRowLast);
+  LBSetDrawProc(dialog, kDemoList,
+                [](DrawContext*, DLGRecord*, int32_t item, int32_t row, const Rect& bounds, bool, bool) {
+                  EXPECT_EQ(item, kDemoList);
+                  EXPECT_GT(RectHeight(bounds), 10);
+                  s_drawn.push_back(row);
+                });
+  LBSetRedraw(dialog, kDemoList, true);
+  Widget(dialog, kDemoList)->grab();
+  EXPECT_EQ(s_drawn, (std::vector<int32_t>{0, 1}));
 }
 
 }  // namespace

@@ -93,14 +93,6 @@ std::string AllEmptyMessage(const OptionsTexts& texts) {
                  {texts.nameWord, texts.idWord});
 }
 
-std::string NotUniqueMessage(const OptionsTexts& texts) {
-  return _Format(
-      70065,
-      "Students have missing or non-unique %s %ss associated with them. Verify that the %s is being "
-      "extracted from the correct field and check the accuracy of the student roster entries.",
-      {texts.nameWord, texts.idWord, texts.idWord});
-}
-
 std::string SavedMessage(int spanishID, const std::string& path) {
   return _Format(spanishID, "Assignment results have been saved in %s.", {Utf8Text{path}});
 }

@@ -32,7 +32,6 @@ int32_t DefaultUserIDRow(uint32_t formatIndex);
 // The messages of the identifier check, in the session's language, UTF-8.
 std::string SomeEmptyMessage(const OptionsTexts& texts, size_t empty, size_t students);
 std::string AllEmptyMessage(const OptionsTexts& texts);
-std::string NotUniqueMessage(const OptionsTexts& texts);
 
 // "Assignment results have been saved in ...", with a path in the file system's bytes. `spanishID` is the
 // string id of the Spanish text.

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "Platform/Ui/EventQueue.h"
+#include "Platform/Ui/QtControl.h"
 #include "Platform/Ui/QtHelpTags.h"
 
 namespace ui {
@@ -59,15 +60,7 @@ static bool _TakesKey(const ControlRecord& control, uint16_t character) {
     case kEscapeChar: return false;
     default: break;
   }
-  switch (control.kind) {
-    case kControlKindPushButton:
-    case kControlKindCheckBox:
-    case kControlKindRadioButton:
-    case kControlKindEditText:
-    case kControlKindPopupButton:
-    case kControlKindListBox: return true;
-    default: return false;
-  }
+  return IsInteractive(control.kind);
 }
 
 bool EventQueue::SendKey(ControlRef ref, KeyStroke stroke) {

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "Platform/Ui/EventQueue.h"
+#include "Platform/Ui/QtControl.h"
 #include "Platform/Ui/QtHelpTags.h"
 #include "Platform/Ui/QtText.h"
 
@@ -148,15 +149,7 @@ EventQueue::Press* EventQueue::TrackedPress(ControlRef control) {
 }
 
 static bool _TakesPress(const ControlRecord& control) {
-  switch (control.kind) {
-    case kControlKindPushButton:
-    case kControlKindCheckBox:
-    case kControlKindRadioButton:
-    case kControlKindEditText:
-    case kControlKindPopupButton:
-    case kControlKindListBox: return !control.widget->isHidden() && control.widget->isEnabled();
-    default: return false;
-  }
+  return IsInteractive(control.kind) && !control.widget->isHidden() && control.widget->isEnabled();
 }
 
 bool EventQueue::BeginTracking(ControlRef ref, Point where) {

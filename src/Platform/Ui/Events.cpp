@@ -81,11 +81,6 @@ Point GetMouse(WindowRef window) {
   return {ui::ToInt16(position.y()), ui::ToInt16(position.x())};
 }
 
-uint16_t GetCurrentKeyModifiers() {
-  if (QCoreApplication::instance() == nullptr) return 0;
-  return ui::ModifiersOf(QGuiApplication::keyboardModifiers());
-}
-
 void SysBeep(int16_t /*duration*/) {
   ++g_beepCount;
   if (InitApplication()) QApplication::beep();

@@ -70,7 +70,6 @@ void RunEventPass(uint32_t ticks);
 uint32_t TickCount();              // sixtieths of a second since some moment in the past
 bool StillDown();                  // the mouse button of the last press has not been released
 Point GetMouse(WindowRef window);  // in the window
-uint16_t GetCurrentKeyModifiers();
 
 void SysBeep(int16_t duration);
 uint32_t GetBeepCount();  // of SysBeep, since the process began

@@ -97,7 +97,7 @@ static QWidget* _MakeWidget(ControlKind kind, QWidget* parent) {
   }
 }
 
-static bool _TakesFocus(ControlKind kind) {
+bool IsInteractive(ControlKind kind) {
   switch (kind) {
     case kControlKindPushButton:
     case kControlKindCheckBox:
@@ -150,7 +150,7 @@ ControlRecord* CreateControl(WindowRecord* window, ControlKind kind, const Rect&
   QWidget* const widget = _MakeWidget(kind, window->widget);
   ControlRecord* const control = AddControlRecord(window, widget, kind);
   widget->setObjectName(QStringLiteral("item%1").arg(itemNumber));
-  widget->setFocusPolicy(_TakesFocus(kind) ? Qt::TabFocus : Qt::NoFocus);
+  widget->setFocusPolicy(IsInteractive(kind) ? Qt::TabFocus : Qt::NoFocus);
   _Connect(widget, control->ref);
   EventQueue::Get().Watch(widget);
   PlaceControl(*control, bounds);

@@ -6,6 +6,9 @@
 
 namespace ui {
 
+// Whether a user works with controls of that kind: they take the keyboard, presses and keys.
+bool IsInteractive(ControlKind kind);
+
 // Adds a control to the window; its item number gives the widget its object name.
 ControlRecord* CreateControl(WindowRecord* window, ControlKind kind, const Rect& bounds, int itemNumber);
 

@@ -25,7 +25,7 @@ namespace {
 constexpr int kAssignments = 4;
 constexpr int kQuestions = 5;
 
-void WriteStudents(std::ostream& out, int64_t students) {
+void _WriteStudents(std::ostream& out, int64_t students) {
   out << "<student-list>\n";
   for (int64_t id = 1; id <= students; ++id) {
     out << "<student id=\"" << id << "\">\n<first-name>First" << id << "</first-name>\n<last-name>Last" << id
@@ -35,7 +35,7 @@ void WriteStudents(std::ostream& out, int64_t students) {
   out << "</student-list>\n";
 }
 
-void WriteResults(std::ostream& out, const std::vector<int64_t>& ids) {
+void _WriteResults(std::ostream& out, const std::vector<int64_t>& ids) {
   out << "<results-list>\n";
   for (const int64_t id : ids) {
     out << "<results id=\"" << id << "\">\n<response-list>\n";
@@ -49,10 +49,10 @@ void WriteResults(std::ostream& out, const std::vector<int64_t>& ids) {
 }
 
 // A class file; results in shuffled order.
-std::string MakeClassFile(int64_t students) {
+std::string _MakeClassFile(int64_t students) {
   std::ostringstream out;
   out << "<class>\n";
-  WriteStudents(out, students);
+  _WriteStudents(out, students);
   out << "<assignment-list>\n";
   std::vector<int64_t> ids(static_cast<size_t>(students));
   std::iota(ids.begin(), ids.end(), 1);
@@ -66,25 +66,25 @@ std::string MakeClassFile(int64_t students) {
     }
     out << "</question-list>\n";
     std::shuffle(ids.begin(), ids.end(), random);
-    WriteResults(out, ids);
+    _WriteResults(out, ids);
     out << "</assignment>\n";
   }
   out << "</assignment-list>\n</class>\n";
   return out.str();
 }
 
-const std::string& ClassFile(int64_t students) {
+const std::string& _ClassFile(int64_t students) {
   static std::map<int64_t, std::string> files;
   const auto [entry, isNew] = files.try_emplace(students);
-  if (isNew) entry->second = MakeClassFile(students);
+  if (isNew) entry->second = _MakeClassFile(students);
   return entry->second;
 }
 
-const qz::ClassRecord& Class(int64_t students) {
+const qz::ClassRecord& _Class(int64_t students) {
   static std::map<int64_t, qz::ClassRecord> records;
   const auto [entry, isNew] = records.try_emplace(students);
   if (isNew) {
-    std::istringstream stream(ClassFile(students));
+    std::istringstream stream(_ClassFile(students));
     QZClassParse(&entry->second, stream);
     for (qz::AssignmentRecord& assignment : entry->second.assignments) assignment.selected = true;
     entry->second.optionValue = 7;
@@ -93,14 +93,14 @@ const qz::ClassRecord& Class(int64_t students) {
   return entry->second;
 }
 
-void ReportPerStudent(benchmark::State& state) {
+void _ReportPerStudent(benchmark::State& state) {
   state.counters["time/student"] =
       benchmark::Counter(static_cast<double>(state.range(0)) * static_cast<double>(state.iterations()),
                          benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
 }
 
 void BM_ReadFloor(benchmark::State& state) {
-  const std::string& file = ClassFile(state.range(0));
+  const std::string& file = _ClassFile(state.range(0));
   for (auto _ : state) {
     XML_Parser parser = XML_ParserCreateNS(nullptr, '#');
     XML_SetElementHandler(
@@ -114,25 +114,25 @@ void BM_ReadFloor(benchmark::State& state) {
     }
     XML_ParserFree(parser);
   }
-  ReportPerStudent(state);
+  _ReportPerStudent(state);
 }
 
 void BM_Read(benchmark::State& state) {
-  const std::string& file = ClassFile(state.range(0));
+  const std::string& file = _ClassFile(state.range(0));
   for (auto _ : state) {
     std::istringstream stream(file);
     qz::ClassRecord record;
     if (!QZClassParse(&record, stream)) state.SkipWithError("does not parse");
     benchmark::DoNotOptimize(record.students.data());
   }
-  ReportPerStudent(state);
+  _ReportPerStudent(state);
 }
 
-std::unique_ptr<Session> NewSession(const FormatRow& format, int64_t students) {
+std::unique_ptr<Session> _NewSession(const FormatRow& format, int64_t students) {
   QZEXPORTBEGIN begin{};
   begin.formatIndex = format.index;
   std::unique_ptr<Session> session = format.make(&begin);
-  *session->GetClass() = Class(students);
+  *session->GetClass() = _Class(students);
   return session;
 }
 
@@ -143,18 +143,18 @@ using File = std::unique_ptr<std::FILE, FileCloser>;
 
 // Both benchmarks write to a real file, over and over.
 void BM_Write(benchmark::State& state, const FormatRow* format) {
-  const std::unique_ptr<Session> session = NewSession(*format, state.range(0));
+  const std::unique_ptr<Session> session = _NewSession(*format, state.range(0));
   const File file(std::tmpfile());
   for (auto _ : state) {
     session->ExportTo(file.get());
     std::rewind(file.get());
   }
-  ReportPerStudent(state);
+  _ReportPerStudent(state);
 }
 
 void BM_WriteFloor(benchmark::State& state, const FormatRow* format) {
   const File file(std::tmpfile());
-  NewSession(*format, state.range(0))->ExportTo(file.get());
+  _NewSession(*format, state.range(0))->ExportTo(file.get());
   std::string bytes(static_cast<size_t>(std::ftell(file.get())), '\0');
   std::rewind(file.get());
   if (std::fread(bytes.data(), 1, bytes.size(), file.get()) != bytes.size())
@@ -165,16 +165,16 @@ void BM_WriteFloor(benchmark::State& state, const FormatRow* format) {
     std::fflush(file.get());
   }
   state.counters["bytes"] = static_cast<double>(bytes.size());
-  ReportPerStudent(state);
+  _ReportPerStudent(state);
 }
 
 void BM_CheckIdentifiers(benchmark::State& state) {
-  const qz::ClassRecord& record = Class(state.range(0));
+  const qz::ClassRecord& record = _Class(state.range(0));
   for (auto _ : state) benchmark::DoNotOptimize(CheckUserIDs(record, qz::kUserIDStudentID));
-  ReportPerStudent(state);
+  _ReportPerStudent(state);
 }
 
-void Sizes(benchmark::internal::Benchmark* benchmark) {
+void _Sizes(benchmark::internal::Benchmark* benchmark) {
   benchmark->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond);
 }
 

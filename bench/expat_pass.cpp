@@ -16,17 +16,17 @@ struct Counts {
   uint64_t bytes = 0;
 };
 
-void XMLCALL CountStart(void* counts, const XML_Char*, const XML_Char**) {
+void XMLCALL _CountStart(void* counts, const XML_Char*, const XML_Char**) {
   ++static_cast<Counts*>(counts)->elements;
 }
-void XMLCALL CountEnd(void* counts, const XML_Char*) {
+void XMLCALL _CountEnd(void* counts, const XML_Char*) {
   ++static_cast<Counts*>(counts)->ends;
 }
-void XMLCALL CountText(void* counts, const XML_Char*, int length) {
+void XMLCALL _CountText(void* counts, const XML_Char*, int length) {
   static_cast<Counts*>(counts)->bytes += static_cast<uint64_t>(length);
 }
 
-bool Parse(std::FILE* file, XML_Parser parser) {
+bool _Parse(std::FILE* file, XML_Parser parser) {
   constexpr int kBufferSize = 4096;
   for (;;) {
     void* buffer = XML_GetBuffer(parser, kBufferSize);
@@ -53,7 +53,7 @@ int main(int argc, char** argv) {
   XML_SetUserData(parser.get(), &counts);
   XML_SetElementHandler(parser.get(), CountStart, CountEnd);
   XML_SetCharacterDataHandler(parser.get(), CountText);
-  if (!Parse(file.get(), parser.get())) {
+  if (!_Parse(file.get(), parser.get())) {
     std::fputs("expat_pass: the file does not parse\n", stderr);
     return 1;
   }

@@ -18,8 +18,10 @@
 #include "Toolkit/LBList.h"
 #include "Toolkit/StartUp.h"
 
+namespace {
+
 // One process-wide application without a display, and the toolkit's item types.
-static void _StartOnce() {
+void _StartOnce() {
   static const bool started = [] {
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
     static int argc = 1;
@@ -33,7 +35,7 @@ static void _StartOnce() {
 }
 
 // Makes the bytes the current resource file; gives its number, or -1.
-static ResFileRefNum _OpenBytes(const uint8_t* data, size_t size) {
+ResFileRefNum _OpenBytes(const uint8_t* data, size_t size) {
   const int descriptor = memfd_create("dialog", 0);
   if (descriptor < 0 || write(descriptor, data, size) != static_cast<ssize_t>(size)) std::abort();
   const std::string path = "/proc/self/fd/" + std::to_string(descriptor);
@@ -47,7 +49,7 @@ static ResFileRefNum _OpenBytes(const uint8_t* data, size_t size) {
   return refNum;
 }
 
-static void _UseItem(DLGRecord* dialog, int32_t item) {
+void _UseItem(DLGRecord* dialog, int32_t item) {
   const int32_t stops[] = {40, 80};
   GetText(dialog, item);
   SetText(dialog, item, "Text", true);
@@ -63,7 +65,7 @@ static void _UseItem(DLGRecord* dialog, int32_t item) {
   EnableDLGItem(dialog, item, !IsItemEnabled(dialog, item));
 }
 
-static void _OpenDialog(int16_t id, int32_t kind) {
+void _OpenDialog(int16_t id, int32_t kind) {
   DLGRecord* dialog = GetDialogResource(nullptr, kind, nullptr, id, 0, nullptr, nullptr, nullptr);
   if (dialog == nullptr) return;
   for (int32_t item = 1; item <= dialog->itemCount; ++item) _UseItem(dialog, item);
@@ -77,6 +79,8 @@ static void _OpenDialog(int16_t id, int32_t kind) {
   DisposeDLG(dialog);
   DisposeDLG(dialog);  // a pane's window goes with the second
 }
+
+}  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   constexpr size_t kMaxDialogs = 4;

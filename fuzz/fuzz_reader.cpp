@@ -13,19 +13,19 @@
 
 namespace {
 
-void Require(bool condition) {
+void _Require(bool condition) {
   if (!condition) __builtin_trap();
 }
 
-void CheckRecord(const qz::ClassRecord& record) {
+void _CheckRecord(const qz::ClassRecord& record) {
   for (const qz::StudentRecord& student : record.students) {
-    Require(student.firstName.size() <= 199);
-    Require(student.firstName.empty() || student.firstName.back() != ' ');
+    _Require(student.firstName.size() <= 199);
+    _Require(student.firstName.empty() || student.firstName.back() != ' ');
   }
-  for (const std::string& label : record.customLabels) Require(!label.empty() && label.size() <= 200);
+  for (const std::string& label : record.customLabels) _Require(!label.empty() && label.size() <= 200);
 }
 
-void WriteEveryFormat(const qz::ClassRecord& record, std::FILE* file) {
+void _WriteEveryFormat(const qz::ClassRecord& record, std::FILE* file) {
   for (const FormatRow& format : FormatTable()) {
     QZEXPORTBEGIN begin{};
     begin.formatIndex = format.index;
@@ -35,7 +35,7 @@ void WriteEveryFormat(const qz::ClassRecord& record, std::FILE* file) {
     session->GetClass()->options = {true, true, true, true, true};
     session->GetClass()->userIDField = format.defaultUserIDField;
     session->ExportTo(file);
-    Require(session->WriteError() == 0);
+    _Require(session->WriteError() == 0);
   }
 }
 
@@ -47,10 +47,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   qz::ClassRecord record;
   QZClassParseError error;
   const bool parsed = QZClassParse(&record, stream, &error);
-  Require(parsed == (error.reason == nullptr));
-  CheckRecord(record);
+  _Require(parsed == (error.reason == nullptr));
+  _CheckRecord(record);
   for (qz::AssignmentRecord& assignment : record.assignments) assignment.selected = true;
   CheckUserIDs(record, qz::kUserIDAlias);
-  WriteEveryFormat(record, sink);
+  _WriteEveryFormat(record, sink);
   return 0;
 }

@@ -11,23 +11,23 @@ namespace {
 constexpr ResType kStringList = FourCharCode("STR#");
 constexpr size_t kByteBudget = size_t{1} << 20;  // resources may overlap: no input takes long
 
-void Require(bool condition) {
+void _Require(bool condition) {
   if (!condition) __builtin_trap();
 }
 
-uint32_t Sum(std::string_view bytes) {
+uint32_t _Sum(std::string_view bytes) {
   uint32_t sum = 0;
   for (const char byte : bytes) sum += static_cast<uint8_t>(byte);
   return sum;
 }
 
-uint32_t SumStrings(std::span<const char> list) {
+uint32_t _SumStrings(std::span<const char> list) {
   BigEndianReader reader(list);
   uint16_t count = 0;
   reader.Read16(&count);
   uint32_t sum = 0;
-  for (; count > 0 && !reader.failed(); --count) sum += Sum(reader.TakePascalString());
-  Require(reader.position() <= list.size());
+  for (; count > 0 && !reader.failed(); --count) sum += _Sum(reader.TakePascalString());
+  _Require(reader.position() <= list.size());
   return sum;
 }
 
@@ -37,20 +37,20 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   const std::span<const char> fork(reinterpret_cast<const char*>(data), size);
   const auto entries = ReadResourceFork(fork);
   if (!entries) return 0;
-  Require(entries->size() <= 65536);
+  _Require(entries->size() <= 65536);
   size_t budget = kByteBudget;
   for (const ResourceEntry& entry : *entries) {
-    Require(entry.name.size() <= 255);
+    _Require(entry.name.size() <= 255);
     if (!entry.data.empty()) {
-      Require(entry.data.data() >= fork.data());
-      Require(entry.data.data() + entry.data.size() <= fork.data() + fork.size());
+      _Require(entry.data.data() >= fork.data());
+      _Require(entry.data.data() + entry.data.size() <= fork.data() + fork.size());
     }
     if (entry.data.size() > budget) break;
     budget -= entry.data.size();
     // A byte sums up to 255 at most; nothing may be counted twice.
-    Require(Sum({entry.data.data(), entry.data.size()}) <= 255 * entry.data.size());
-    Require(Sum(entry.name) <= 255 * entry.name.size());
-    if (entry.type == kStringList) Require(SumStrings(entry.data) <= 255 * entry.data.size());
+    _Require(_Sum({entry.data.data(), entry.data.size()}) <= 255 * entry.data.size());
+    _Require(_Sum(entry.name) <= 255 * entry.name.size());
+    if (entry.type == kStringList) _Require(_SumStrings(entry.data) <= 255 * entry.data.size());
   }
   return 0;
 }

@@ -22,14 +22,14 @@
 
 namespace {
 
-void Check(bool holds) {
+void _Check(bool holds) {
   if (!holds) __builtin_trap();
 }
 
 // A heap block of exactly `size` bytes.
 class Block {
  public:
-  explicit Block(size_t size) : m_bytes(static_cast<char*>(std::malloc(size))) { Check(m_bytes != nullptr); }
+  explicit Block(size_t size) : m_bytes(static_cast<char*>(std::malloc(size))) { _Check(m_bytes != nullptr); }
   explicit Block(const std::string& text, size_t room = 0) : Block(std::max(text.size(), room) + 1) {
     std::memcpy(m_bytes, text.c_str(), text.size() + 1);
   }
@@ -43,7 +43,7 @@ class Block {
   char* m_bytes;
 };
 
-size_t Room(int32_t size) {
+size_t _Room(int32_t size) {
   return static_cast<size_t>(std::max(size, 0));
 }
 
@@ -77,127 +77,128 @@ class Input {
   size_t m_size;
 };
 
-void FuzzUtf8(const std::string& text, int32_t size) {
+void _FuzzUtf8(const std::string& text, int32_t size) {
   const Block source(text);
   const int32_t characters = XmlUtf8StrLen(source);
-  const Block whole(Room(characters) + 1);
+  const Block whole(_Room(characters) + 1);
   const bool valid = XmlUtf8DecodeString(whole, characters, source);
-  Check(whole.Length() == Room(characters));
+  _Check(whole.Length() == _Room(characters));
   const int32_t limit = std::min(size, characters + 1);
-  const Block part(Room(limit) + 1);
+  const Block part(_Room(limit) + 1);
   const bool partValid = XmlUtf8DecodeString(part, limit, source);
-  Check(part.Length() == Room(std::min(limit, characters)) && std::strncmp(part, whole, part.Length()) == 0);
-  Check(partValid || !valid);
+  _Check(part.Length() == _Room(std::min(limit, characters)) &&
+         std::strncmp(part, whole, part.Length()) == 0);
+  _Check(partValid || !valid);
 
   for (const char* at = source; *at != '\0';) {
     int32_t codePoint = 0;
     const int32_t length = XmlUtf8DecodeChar(&codePoint, at);
     const Block encoded(4);
     const int32_t encodedLength = XmlUtf8EncodeChar(encoded, codePoint);
-    Check((encodedLength == 0) == (codePoint < 0 || codePoint > 0x10FFFF));
+    _Check((encodedLength == 0) == (codePoint < 0 || codePoint > 0x10FFFF));
     int32_t again = -1;
-    if (encodedLength > 0) Check(XmlUtf8DecodeChar(&again, encoded) == encodedLength && again == codePoint);
+    if (encodedLength > 0) _Check(XmlUtf8DecodeChar(&again, encoded) == encodedLength && again == codePoint);
     for (const int32_t set : {0, 3}) {
       const uint8_t code = XmlMapFromUnicodeChar(codePoint, set);
-      if (code != 0 && codePoint > 0) Check(XmlMapToUnicodeChar(code, set) == codePoint);
+      if (code != 0 && codePoint > 0) _Check(XmlMapToUnicodeChar(code, set) == codePoint);
     }
     at += XmlUtf8Step(at, length);
   }
 }
 
-void FuzzXmlText(const std::string& text, int32_t size) {
+void _FuzzXmlText(const std::string& text, int32_t size) {
   const Block source(text);
   for (const bool map : {false, true}) {
     const int32_t length = XmlEncodeString(nullptr, source, std::numeric_limits<int32_t>::max(), map);
-    const Block whole(Room(length) + 1);
-    Check(XmlEncodeString(whole, source, length, map) == length && whole.Length() == Room(length));
+    const Block whole(_Room(length) + 1);
+    _Check(XmlEncodeString(whole, source, length, map) == length && whole.Length() == _Room(length));
     const int32_t limit = std::min(size, length + 1);
-    const Block part(Room(limit) + 1);
+    const Block part(_Room(limit) + 1);
     const int32_t partLength = XmlEncodeString(part, source, limit, map);
-    Check(partLength == (limit < length && length > 0 ? -1 : length));
-    Check(part.Length() <= Room(limit) && std::strncmp(part, whole, part.Length()) == 0);
-    Check(XmlEncodeString(nullptr, source, limit, map) == partLength);
+    _Check(partLength == (limit < length && length > 0 ? -1 : length));
+    _Check(part.Length() <= _Room(limit) && std::strncmp(part, whole, part.Length()) == 0);
+    _Check(XmlEncodeString(nullptr, source, limit, map) == partLength);
   }
   const int32_t bit = XmlGetStyleBitFromName(source);
-  Check((bit == 0) == (*XmlGetStyleNameFromBit(bit) == '\0'));
+  _Check((bit == 0) == (*XmlGetStyleNameFromBit(bit) == '\0'));
   const int32_t label = XmlLabelStyleNameToValue(source);
-  if (label >= 0) Check(AsciiEqualNoCase(XmlLabelStyleValueToName(label), text));
+  if (label >= 0) _Check(AsciiEqualNoCase(XmlLabelStyleValueToName(label), text));
   const int32_t sequence = XmlMCChoiceSequenceToValue(source);
-  if (sequence >= 0) Check(AsciiEqualNoCase(XmlNameToMCChoiceSequence(sequence), text));
+  if (sequence >= 0) _Check(AsciiEqualNoCase(XmlNameToMCChoiceSequence(sequence), text));
   XmlGetStyleNameFromBit(size);
   XmlLabelStyleValueToName(size);
   XmlNameToMCChoiceSequence(size);
 }
 
 // The process stays in the C locale, so the C library is the reference.
-void FuzzNumbers(const std::string& text, double value, int32_t decimals) {
+void _FuzzNumbers(const std::string& text, double value, int32_t decimals) {
   const Block source(text);
   const double parsed = ParseDouble(source);
   const double expected = std::strtod(source, nullptr);
-  Check(std::isnan(expected) ? std::isnan(parsed) : parsed == expected);
-  Check(std::signbit(parsed) == std::signbit(expected));
+  _Check(std::isnan(expected) ? std::isnan(parsed) : parsed == expected);
+  _Check(std::signbit(parsed) == std::signbit(expected));
   const long long integer = std::strtoll(source, nullptr, 10);
-  Check(ParseInt32(source) == std::clamp<long long>(integer, std::numeric_limits<int32_t>::min(),
-                                                    std::numeric_limits<int32_t>::max()));
+  _Check(ParseInt32(source) == std::clamp<long long>(integer, std::numeric_limits<int32_t>::min(),
+                                                     std::numeric_limits<int32_t>::max()));
 
   for (const double number : {value, parsed}) {
     char general[32];
     char printed[kFixedTextSize];
     std::snprintf(printed, sizeof printed, "%g", number);
-    Check(FormatGeneral(general, number) == std::strlen(printed) && std::strcmp(general, printed) == 0);
+    _Check(FormatGeneral(general, number) == std::strlen(printed) && std::strcmp(general, printed) == 0);
     char fixed[kFixedTextSize];
     std::snprintf(printed, sizeof printed, "%.*f", std::min(decimals, kMaxDecimals), number);
-    Check(FormatFixed(fixed, number, decimals) == std::strlen(printed) && std::strcmp(fixed, printed) == 0);
+    _Check(FormatFixed(fixed, number, decimals) == std::strlen(printed) && std::strcmp(fixed, printed) == 0);
     if (std::isfinite(number) && std::fabs(number) < 1e9) {
       const int32_t places = std::clamp(decimals, 0, 9);
-      Check(std::fabs(qz::Round(number, places) - number) <= 0.5 * std::pow(10, -places) + 0.0000101);
+      _Check(std::fabs(qz::Round(number, places) - number) <= 0.5 * std::pow(10, -places) + 0.0000101);
     }
     qz::Round(number, decimals);
   }
 }
 
-void FuzzStrings(const std::string& text, const std::string& find, const std::string& replacement,
-                 int32_t position, int32_t greatest) {
+void _FuzzStrings(const std::string& text, const std::string& find, const std::string& replacement,
+                  int32_t position, int32_t greatest) {
   for (const bool leading : {false, true}) {
     for (const bool trailing : {false, true}) {
       const Block block(text);
       ::StripSpaces(block, leading, trailing);
       const size_t length = block.Length();
-      Check(length == 0 || ((!leading || block[0] != ' ') && (!trailing || block[length - 1] != ' ')));
+      _Check(length == 0 || ((!leading || block[0] != ' ') && (!trailing || block[length - 1] != ' ')));
     }
   }
   const int32_t bound = std::min(greatest, 4096);
   {
     const Block block(text);
     qz::lstrdel(block, position, greatest);
-    Check(block.Length() <= text.size());
+    _Check(block.Length() <= text.size());
   }
   {
-    const Block block(text, text.size() + Room(bound));
+    const Block block(text, text.size() + _Room(bound));
     qz::lstrins(block, position, bound, '-');
-    Check(block.Length() == text.size() + Room(bound));
+    _Check(block.Length() == text.size() + _Room(bound));
     qz::lstrdel(block, std::min(position, static_cast<int32_t>(text.size())), bound);
-    Check(std::strcmp(block, text.c_str()) == 0);
+    _Check(std::strcmp(block, text.c_str()) == 0);
   }
   for (char* (*const fix)(char*, int32_t) : {qz::FixScriptQuotes, qz::FixFormQuotes, qz::FixPHP}) {
-    const Block block(text, Room(bound));
+    const Block block(text, _Room(bound));
     fix(block, bound);
-    Check(block.Length() >= text.size() && block.Length() <= std::max(text.size(), Room(bound)));
+    _Check(block.Length() >= text.size() && block.Length() <= std::max(text.size(), _Room(bound)));
   }
   const Block wanted(find);
   const Block inserted(replacement);
   for (const bool all : {false, true}) {
-    const Block block(text, Room(bound));
+    const Block block(text, _Room(bound));
     qz::ReplaceString(block, wanted, inserted, bound, all);
-    Check(block.Length() <= std::max(text.size(), Room(bound)));
+    _Check(block.Length() <= std::max(text.size(), _Room(bound)));
   }
   const Block searched(text);
   if (const char* const found = qz::StringSearch(static_cast<const char*>(searched), wanted)) {
-    Check(*found == find[0] && AsciiEqualNoCase(std::string(found).substr(0, find.size()), find));
+    _Check(*found == find[0] && AsciiEqualNoCase(std::string(found).substr(0, find.size()), find));
   }
 }
 
-void FuzzTest(const std::string& text, const std::string& name, int32_t number, uint32_t bits) {
+void _FuzzTest(const std::string& text, const std::string& name, int32_t number, uint32_t bits) {
   qz::Test test;
   test.filenamePrefix = name;
   test.startNumber = number;
@@ -210,19 +211,19 @@ void FuzzTest(const std::string& text, const std::string& name, int32_t number, 
     test.GetNewQuestionNumber(index);
     qz::Test::GetQuestionTypeAbbrev(index);
   }
-  Check((test.FindNarrativePtr(name) == nullptr) == name.empty());
+  _Check((test.FindNarrativePtr(name) == nullptr) == name.empty());
 
   for (int letter = 0; letter < 256; ++letter) {
     const Block feedback(qz::Test::kMaxFeedback + 1);
     qz::Test::GetMCItemFeedback({2, text}, static_cast<char>(letter), feedback);
-    Check((letter >= 'A' && letter <= 'E') || *feedback == '\0');
+    _Check((letter >= 'A' && letter <= 'E') || *feedback == '\0');
   }
   const Block css(128 + name.size());
   test.BuildCSSFromDefaultFont(css, {1, number, bits, bits}, true);
   const Block path(name.size() + text.size() + 2);
   test.MakePrefixedFilename(path, text);
   const int32_t type = qz::Test::GetQuestionType(text);
-  if (type != -1 && type != 4) Check(AsciiEqualNoCase(qz::Test::GetQuestionTypeAbbrev(type), text));
+  if (type != -1 && type != 4) _Check(AsciiEqualNoCase(qz::Test::GetQuestionTypeAbbrev(type), text));
 }
 
 }  // namespace
@@ -235,10 +236,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   const std::string text = input.TakeText();
   const std::string find = input.TakeText();
   const std::string other = input.TakeText();
-  FuzzUtf8(text, first);
-  FuzzXmlText(text, first);
-  FuzzNumbers(text, value, second);
-  FuzzStrings(text, find, other, first, second);
-  FuzzTest(text, find, first, static_cast<uint32_t>(second));
+  _FuzzUtf8(text, first);
+  _FuzzXmlText(text, first);
+  _FuzzNumbers(text, value, second);
+  _FuzzStrings(text, find, other, first, second);
+  _FuzzTest(text, find, first, static_cast<uint32_t>(second));
   return 0;
 }

@@ -13,15 +13,14 @@ if(NOT GRADIX_HAS_M32 OR NOT GTEST_SOURCE)
   return()
 endif()
 
-get_property(portable_sources GLOBAL PROPERTY GRADIX_PORTABLE_SOURCES)
 add_library(gtest32 STATIC EXCLUDE_FROM_ALL ${GTEST_SOURCE}/src/gtest-all.cc ${GTEST_SOURCE}/src/gtest_main.cc)
 target_include_directories(gtest32 PRIVATE ${GTEST_SOURCE})
 target_compile_options(gtest32 PRIVATE -m32)
 
-add_executable(unit_tests_32 ${unit_tests} ${portable_sources})
+add_executable(unit_tests_32 ${unit_tests})
 target_include_directories(unit_tests_32 PRIVATE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/src
                                                  ${PROJECT_SOURCE_DIR}/include)
 target_compile_options(unit_tests_32 PRIVATE -m32 -msse2 -mfpmath=sse)
 target_link_options(unit_tests_32 PRIVATE -m32)
-target_link_libraries(unit_tests_32 PRIVATE gradix::options gtest32)
+target_link_libraries(unit_tests_32 PRIVATE gradix::options gxportable gxentry gtest32)
 gtest_discover_tests(unit_tests_32 TEST_PREFIX "32-bit." ${test_environment})

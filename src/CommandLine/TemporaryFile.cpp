@@ -19,15 +19,15 @@ constexpr std::array kInterruptions = {SIGHUP, SIGINT, SIGTERM};
 constexpr int kMaximumAttempts = 100;
 
 // Path of the file, empty when there is none. A signal handler can use no more than this.
-std::array<char, PATH_MAX> g_temporaryPath{};
+std::array<char, PATH_MAX> gTemporaryPath{};
 
 [[noreturn]] void _Fail(int error) {
   throw std::system_error(error, std::generic_category());
 }
 
 void _Remove() {
-  if (g_temporaryPath[0] != '\0') unlink(g_temporaryPath.data());
-  g_temporaryPath[0] = '\0';
+  if (gTemporaryPath[0] != '\0') unlink(gTemporaryPath.data());
+  gTemporaryPath[0] = '\0';
 }
 
 extern "C" void _OnInterruption(int number) {
@@ -70,10 +70,10 @@ int _Create(const std::filesystem::path& folder, mode_t mode) {
   const InterruptionBlock block;
   for (int attempt = 0; attempt < kMaximumAttempts; ++attempt) {
     const std::string path = folder / _RandomName();
-    if (path.size() >= g_temporaryPath.size()) _Fail(ENAMETOOLONG);
+    if (path.size() >= gTemporaryPath.size()) _Fail(ENAMETOOLONG);
     const int descriptor = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
     if (descriptor >= 0) {
-      std::memcpy(g_temporaryPath.data(), path.c_str(), path.size() + 1);
+      std::memcpy(gTemporaryPath.data(), path.c_str(), path.size() + 1);
       return descriptor;
     }
     if (errno != EEXIST) _Fail(errno);
@@ -122,6 +122,6 @@ void TemporaryFile::Rename(const std::filesystem::path& name) {
   _Flush(fileno(m_stream));
   std::FILE* stream = std::exchange(m_stream, nullptr);
   if (std::fclose(stream) != 0) _Fail(errno);
-  if (std::rename(g_temporaryPath.data(), name.c_str()) != 0) _Fail(errno);
-  g_temporaryPath[0] = '\0';
+  if (std::rename(gTemporaryPath.data(), name.c_str()) != 0) _Fail(errno);
+  gTemporaryPath[0] = '\0';
 }

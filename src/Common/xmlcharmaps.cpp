@@ -95,7 +95,7 @@ constexpr auto kAnsiByCode = ByCode(_gAnsiMap, kAnsiCount, 128);
 constexpr auto kSymbolByCode = ByCode(_gAdobeSymbolMap, kSymbolCount, 32);
 
 template <size_t Count>
-uint8_t FindCode(const std::array<XmlCharMapEntry, Count>& sorted, int32_t codePoint) {
+uint8_t _FindCode(const std::array<XmlCharMapEntry, Count>& sorted, int32_t codePoint) {
   const auto found =
       std::lower_bound(sorted.begin(), sorted.end(), codePoint,
                        [](const XmlCharMapEntry& entry, int32_t wanted) { return entry.codePoint < wanted; });
@@ -105,12 +105,12 @@ uint8_t FindCode(const std::array<XmlCharMapEntry, Count>& sorted, int32_t codeP
 }  // namespace
 
 uint8_t XmlMapFromUnicodeChar(int32_t codePoint, int32_t characterSet) {
-  return characterSet == kXmlSymbolSet ? FindCode(kSymbolByCodePoint, codePoint)
+  return characterSet == kXmlSymbolSet ? _FindCode(kSymbolByCodePoint, codePoint)
                                        : XmlMapFromUnicodeChar(codePoint);
 }
 
 uint8_t XmlMapFromUnicodeChar(int32_t codePoint) {
-  return codePoint < 128 ? static_cast<uint8_t>(codePoint) : FindCode(kAnsiByCodePoint, codePoint);
+  return codePoint < 128 ? static_cast<uint8_t>(codePoint) : _FindCode(kAnsiByCodePoint, codePoint);
 }
 
 int32_t XmlMapToUnicodeChar(uint8_t code, int32_t characterSet) {

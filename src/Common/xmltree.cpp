@@ -55,7 +55,7 @@ class SpareBlocks {
   size_t m_count = 0;
 };
 
-thread_local SpareBlocks g_spareBlocks;
+thread_local SpareBlocks gSpareBlocks;
 
 NodeBlock* _Block(_XmlTreeTag* node) {
   return reinterpret_cast<NodeBlock*>(node);
@@ -155,7 +155,7 @@ void _FreeSubtree(_XmlTreeTag* top) {
     }
     _XmlTreeTag* parent = node == top ? nullptr : node->parent;
     _FreeItemArray(node);
-    g_spareBlocks.Give(_Block(node));
+    gSpareBlocks.Give(_Block(node));
     node = parent;
   }
 }
@@ -229,12 +229,12 @@ bool _JoinAllText(const _XmlTreeTag* node, char* buffer, int32_t size, MapCodePo
 }  // namespace
 
 _XmlTreeTag* XmlTreeNewNode(_XmlTreeTag* parent, int32_t elementID, int32_t line, long byteIndex) {
-  NodeBlock* block = g_spareBlocks.Take();
+  NodeBlock* block = gSpareBlocks.Take();
   if (block == nullptr) return nullptr;
   block->node = {elementID, line, byteIndex, parent, 0, 0, nullptr};
   block->bytesUsed = 0;
   if (parent != nullptr && !_AddItem(parent, kXmlTreeChild, nullptr, &block->node)) {
-    g_spareBlocks.Give(block);
+    gSpareBlocks.Give(block);
     return nullptr;
   }
   return &block->node;

@@ -44,18 +44,18 @@ constexpr XmlValueName _mcSequence[7] = {
 
 namespace {
 
-uint8_t ByteAt(const char* bytes, int32_t index) {
+uint8_t _ByteAt(const char* bytes, int32_t index) {
   return static_cast<uint8_t>(bytes[index]);
 }
 
 // The length that a lead byte announces, 0 when it cannot lead.
-int32_t AnnouncedLength(uint8_t lead) {
+int32_t _AnnouncedLength(uint8_t lead) {
   const int ones = std::countl_one(lead);
   if (ones == 0) return 1;
   return ones >= 2 && ones <= 6 ? ones : 0;
 }
 
-char CodeOrQuestionMark(int32_t codePoint) {
+char _CodeOrQuestionMark(int32_t codePoint) {
   const uint8_t code = XmlMapFromUnicodeChar(codePoint);
   return code == 0 ? '?' : static_cast<char>(code);
 }
@@ -94,7 +94,7 @@ class Escaper {
   char m_reference[9] = "&#x0000;";  // every code point of the 8-bit set has four digits
 };
 
-int32_t ValueOfName(std::span<const XmlValueName> table, const char* name) {
+int32_t _ValueOfName(std::span<const XmlValueName> table, const char* name) {
   if (name == nullptr) return -1;
   const auto found = std::find_if(table.begin(), table.end(), [name](const XmlValueName& entry) {
     return AsciiEqualNoCase(entry.name, name);
@@ -102,7 +102,7 @@ int32_t ValueOfName(std::span<const XmlValueName> table, const char* name) {
   return found == table.end() ? -1 : found->value;
 }
 
-const char* NameOfValue(std::span<const XmlValueName> table, int32_t value) {
+const char* _NameOfValue(std::span<const XmlValueName> table, int32_t value) {
   const auto found = std::find_if(table.begin(), table.end(),
                                   [value](const XmlValueName& entry) { return entry.value == value; });
   return found == table.end() ? nullptr : found->name;
@@ -127,8 +127,8 @@ int32_t XmlUtf8EncodeChar(char* buffer, int32_t codePoint) {
 }
 
 int32_t XmlUtf8DecodeChar(int32_t* codePoint, const char* bytes) {
-  const uint8_t lead = ByteAt(bytes, 0);
-  const int32_t length = AnnouncedLength(lead);
+  const uint8_t lead = _ByteAt(bytes, 0);
+  const int32_t length = _AnnouncedLength(lead);
   if (length == 0) return 0;
   if (length == 1) {
     *codePoint = lead;
@@ -139,7 +139,7 @@ int32_t XmlUtf8DecodeChar(int32_t* codePoint, const char* bytes) {
   bool ended = false;
   for (int32_t i = 1; i < length; ++i) {
     ended = ended || bytes[i] == '\0';
-    const uint32_t part = (ended ? 0U : ByteAt(bytes, i)) - 0x80U;
+    const uint32_t part = (ended ? 0U : _ByteAt(bytes, i)) - 0x80U;
     // The second of six bytes goes to bit 28, not 24: documents are read the way they always were.
     value += part << (length == 6 && i == 1 ? 28 : 6 * (length - 1 - i));
   }
@@ -157,8 +157,8 @@ int32_t XmlUtf8Step(const char* bytes, int32_t length) {
 int32_t XmlUtf8StrLen(const char* text) {
   int32_t count = 0;
   for (; *text != '\0'; ++count) {
-    const uint8_t lead = ByteAt(text, 0);
-    text += lead < 0x80 ? 1 : XmlUtf8Step(text, AnnouncedLength(lead));
+    const uint8_t lead = _ByteAt(text, 0);
+    text += lead < 0x80 ? 1 : XmlUtf8Step(text, _AnnouncedLength(lead));
   }
   return count;
 }
@@ -177,7 +177,7 @@ char* XmlUtf8DecodeTo(char* destination, int32_t size, const char* source, bool*
     if (byte == 0) break;
     int32_t codePoint = 0;
     const int32_t length = XmlUtf8DecodeChar(&codePoint, source);
-    *destination++ = length > 0 ? CodeOrQuestionMark(codePoint) : '?';
+    *destination++ = length > 0 ? _CodeOrQuestionMark(codePoint) : '?';
     if (length == 0) *valid = false;
     source += XmlUtf8Step(source, length);
   }
@@ -225,17 +225,17 @@ int32_t XmlGetStyleBitFromName(const char* name) {
 }
 
 int32_t XmlLabelStyleNameToValue(const char* name) {
-  return ValueOfName(_xmlLabelStyles, name);
+  return _ValueOfName(_xmlLabelStyles, name);
 }
 
 const char* XmlLabelStyleValueToName(int32_t value) {
-  return NameOfValue(_xmlLabelStyles, value);
+  return _NameOfValue(_xmlLabelStyles, value);
 }
 
 int32_t XmlMCChoiceSequenceToValue(const char* name) {
-  return ValueOfName(_mcSequence, name);
+  return _ValueOfName(_mcSequence, name);
 }
 
 const char* XmlNameToMCChoiceSequence(int32_t value) {
-  return NameOfValue(_mcSequence, value);
+  return _NameOfValue(_mcSequence, value);
 }

@@ -7,19 +7,21 @@
 #include <memory>
 #include <string_view>
 
-#include "Host/LanguageSetting.h"
-#include "Host/MainWindow.h"
-#include "Host/Texts.h"
+#include "Host/App/LanguageSetting.h"
+#include "Host/App/Texts.h"
+#include "Host/Window/MainWindow.h"
+
+namespace {
 
 // Whether only a text is asked for, which needs no display.
-static bool _IsAskedForText(int argc, char** argv) {
+bool _IsAskedForText(int argc, char** argv) {
   constexpr std::string_view kOptions[] = {"-h", "--help", "-v", "--version"};
   return std::any_of(argv + 1, argv + argc, [&kOptions](const char* argument) {
     return std::find(std::begin(kOptions), std::end(kOptions), argument) != std::end(kOptions);
   });
 }
 
-static void _ParseArguments(QCommandLineParser* parser, const QCoreApplication& application) {
+void _ParseArguments(QCommandLineParser* parser, const QCoreApplication& application) {
   parser->setApplicationDescription(host::Text(host::TextID::kDescription));
   parser->addHelpOption();
   parser->addVersionOption();
@@ -27,6 +29,8 @@ static void _ParseArguments(QCommandLineParser* parser, const QCoreApplication& 
                                 QStringLiteral("[file]"));
   parser->process(application);
 }
+
+}  // namespace
 
 int main(int argc, char** argv) {
   QCoreApplication::setOrganizationName(QStringLiteral("Gradix"));

@@ -17,7 +17,7 @@ struct AlertResources {
   int16_t information = 0;
 };
 
-AlertResources s_resources;
+AlertResources gResources;
 
 }  // namespace
 
@@ -28,16 +28,16 @@ void SetAlertMap(uint32_t index, int32_t value) {
 }
 
 void InitAlert(void* instance, int16_t errorID, int16_t cautionID, int16_t informationID) {
-  s_resources = {instance, errorID, cautionID, informationID};
+  gResources = {instance, errorID, cautionID, informationID};
 }
 
-static std::string _TextOf(const AlertArgument& argument) {
+namespace {
+
+std::string _TextOf(const AlertArgument& argument) {
   if (const auto* number = std::get_if<int64_t>(&argument)) return std::to_string(*number);
   if (const auto* utf8 = std::get_if<Utf8Text>(&argument)) return utf8->text;
   return MacRomanToUTF8(std::get<std::string>(argument));
 }
-
-namespace {
 
 // A place for an argument at the front of a text, or "%%".
 struct Place {
@@ -45,15 +45,15 @@ struct Place {
   char conversion = '\0';
 };
 
-}  // namespace
-
-static Place _PlaceAt(std::string_view text) {
+Place _PlaceAt(std::string_view text) {
   const size_t end = text.find_first_not_of('l', 1);
   if (end > 3) return {};  // also when there is nothing but those
   const char conversion = text[end];
   const std::string_view known = end == 1 ? "dius%" : "diu";
   return known.find(conversion) == std::string_view::npos ? Place{} : Place{end + 1, conversion};
 }
+
+}  // namespace
 
 std::string ExpandAlertText(std::string_view format, std::span<const AlertArgument> arguments) {
   std::string roman;  // what was copied from the format so far and not yet converted
@@ -80,8 +80,10 @@ std::string ExpandAlertText(std::string_view format, std::span<const AlertArgume
   return result;
 }
 
+namespace {
+
 // The arguments' texts, for an alert whose string is missing.
-static std::string _JoinArguments(std::span<const AlertArgument> arguments) {
+std::string _JoinArguments(std::span<const AlertArgument> arguments) {
   std::string text;
   for (const AlertArgument& argument : arguments) {
     if (!text.empty()) text += ' ';
@@ -90,9 +92,11 @@ static std::string _JoinArguments(std::span<const AlertArgument> arguments) {
   return text;
 }
 
+}  // namespace
+
 void ShowNumberedAlert(AlertStrings strings, int16_t number, std::span<const AlertArgument> arguments) {
   const bool isError = strings == AlertStrings::error;
-  const int16_t id = isError ? s_resources.error : s_resources.information;
+  const int16_t id = isError ? gResources.error : gResources.information;
   const AlertType type = isError ? kAlertStopAlert : kAlertNoteAlert;
   const std::string format = GetIndString(id, number);
   const std::string text = format.empty() ? _JoinArguments(arguments) : ExpandAlertText(format, arguments);

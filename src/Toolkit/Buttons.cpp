@@ -9,27 +9,25 @@ namespace {
 
 enum ButtonBits : uint16_t { kButtonDefault = 0x01, kButtonCancel = 0x02 };
 
-void MarkDefault(DLGRecord* dialog, int32_t item) {
+void _MarkDefault(DLGRecord* dialog, int32_t item) {
   dialog->defaultButton = item;
   SetDialogDefaultItem(dialog->dialog, static_cast<int16_t>(item));
 }
 
-bool IsItemOrNone(DLGRecord* dialog, int32_t item) {
+bool _IsItemOrNone(DLGRecord* dialog, int32_t item) {
   return item == -1 || DLGFindItem(dialog, item) != nullptr;
 }
 
-}  // namespace
-
-static intptr_t _CreateButton(DLGRecord* dialog, int32_t item, intptr_t data) {
+intptr_t _CreateButton(DLGRecord* dialog, int32_t item, intptr_t data) {
   uint16_t bits = 0;
   if (!ReadItemWord(dialog, data, &bits)) return -1;
-  if ((bits & kButtonDefault) != 0) MarkDefault(dialog, item);
+  if ((bits & kButtonDefault) != 0) _MarkDefault(dialog, item);
   if ((bits & kButtonCancel) != 0) dialog->cancelItem = item;
   return sizeof bits;
 }
 
 // Return belongs to a focused list that has a use for it, Enter never does.
-static bool _ClaimsKey(DLGRecord* dialog, int32_t item, DLGKeyPress key) {
+bool _ClaimsKey(DLGRecord* dialog, int32_t item, DLGKeyPress key) {
   if (item == dialog->defaultButton && key.modifiers == 0) {
     if (key.character == kEnterChar) return true;
     if (key.character == kReturnChar && !LBUsesReturn(dialog, dialog->focusItem)) return true;
@@ -40,6 +38,8 @@ static bool _ClaimsKey(DLGRecord* dialog, int32_t item, DLGKeyPress key) {
   }
   return false;
 }
+
+}  // namespace
 
 intptr_t BTItemProc(DLGRecord* dialog, int32_t item, int32_t message, intptr_t param1, intptr_t param2) {
   const DLGItem* const found = DLGFindItem(dialog, item);
@@ -54,11 +54,11 @@ intptr_t BTItemProc(DLGRecord* dialog, int32_t item, int32_t message, intptr_t p
 }
 
 void BTSetDefButton(DLGRecord* dialog, int32_t item) {
-  if (DialogIsValid(dialog) && IsItemOrNone(dialog, item)) MarkDefault(dialog, item);
+  if (DialogIsValid(dialog) && _IsItemOrNone(dialog, item)) _MarkDefault(dialog, item);
 }
 
 void BTSetCancelItem(DLGRecord* dialog, int32_t item) {
-  if (DialogIsValid(dialog) && IsItemOrNone(dialog, item)) dialog->cancelItem = item;
+  if (DialogIsValid(dialog) && _IsItemOrNone(dialog, item)) dialog->cancelItem = item;
 }
 
 intptr_t CKItemProc(DLGRecord* dialog, int32_t item, int32_t message, intptr_t param1, intptr_t param2) {
@@ -82,7 +82,7 @@ int16_t CKGetCheck(DLGRecord* dialog, int32_t item) {
 }
 
 intptr_t RBItemProc(DLGRecord* dialog, int32_t item, int32_t message, intptr_t param1, intptr_t param2) {
-  static bool s_wasOn = false;  // when the press under way began
+  static bool gWasOn = false;  // when the press under way began
   const DLGItem* const found = DLGFindItem(dialog, item);
   if (found == nullptr) return 0;
   const bool isOn = GetControlValue(found->control) != 0;
@@ -91,9 +91,9 @@ intptr_t RBItemProc(DLGRecord* dialog, int32_t item, int32_t message, intptr_t p
       if (!ItemReacts(*found) || !IsPressingSpace(DLGUnpackKey(param1))) return kKeyNotUsed;
       SetControlValue(found->control, 1);
       return isOn ? kKeyUsed : kKeyChanged;
-    case kDLGMouseDown: s_wasOn = isOn; break;
+    case kDLGMouseDown: gWasOn = isOn; break;
     case kDLGMouseUp:
-      if (!s_wasOn) break;
+      if (!gWasOn) break;
       ControlItemProc(dialog, item, message, param1, param2);
       SetControlValue(found->control, 1);
       return 0;

@@ -20,10 +20,10 @@ struct RowValues {
 };
 
 // Those of all live combos, so that another item's data is never taken for them.
-RowValues* _gRowValues = nullptr;
+RowValues* gRowValues = nullptr;
 
-RowValues* FindValues(const DLGItem& item) {
-  RowValues* found = _gRowValues;
+RowValues* _FindValues(const DLGItem& item) {
+  RowValues* found = gRowValues;
   while (found != nullptr && reinterpret_cast<intptr_t>(found) != item.data) found = found->next;
   return found;
 }
@@ -35,45 +35,43 @@ struct Combo {
 };
 
 // Without a menu when the item is no combo of a live dialog.
-Combo FindCombo(DLGRecord* dialog, int32_t item) {
+Combo _FindCombo(DLGRecord* dialog, int32_t item) {
   const DLGItem* const found = FindItemOfLiveDialog(dialog, item);
   if (found == nullptr) return {};
-  RowValues* const values = FindValues(*found);
+  RowValues* const values = _FindValues(*found);
   if (values == nullptr) return {};
   return {found->control, GetControlPopupMenuHandle(found->control), values};
 }
 
-int32_t* FindRowValue(DLGRecord* dialog, int32_t item, int32_t row) {
-  const Combo combo = FindCombo(dialog, item);
+int32_t* _FindRowValue(DLGRecord* dialog, int32_t item, int32_t row) {
+  const Combo combo = _FindCombo(dialog, item);
   if (combo.menu == nullptr || row < 0) return nullptr;
   return row < std::min(CountMenuItems(combo.menu), kCBMaxRows) ? &combo.values->values[row] : nullptr;
 }
 
-}  // namespace
-
-static intptr_t _CreateCombo(DLGItem* item) {
-  auto* const values = new (std::nothrow) RowValues{_gRowValues, {}};
+intptr_t _CreateCombo(DLGItem* item) {
+  auto* const values = new (std::nothrow) RowValues{gRowValues, {}};
   if (values == nullptr) return -1;
-  _gRowValues = values;
+  gRowValues = values;
   item->data = reinterpret_cast<intptr_t>(values);
   return 0;
 }
 
-static void _DisposeCombo(DLGItem* item) {
-  RowValues* const values = FindValues(*item);
+void _DisposeCombo(DLGItem* item) {
+  RowValues* const values = _FindValues(*item);
   if (values == nullptr) return;
-  RowValues** link = &_gRowValues;
+  RowValues** link = &gRowValues;
   while (*link != values) link = &(*link)->next;
   *link = values->next;
   delete values;
   item->data = 0;
 }
 
-static std::string _RowText(void* menu, int32_t row) {
+std::string _RowText(void* menu, int32_t row) {
   return GetMenuItemText(static_cast<MenuRef>(menu), row + 1);
 }
 
-static void _SelectText(ControlRef control, const char* text) {
+void _SelectText(ControlRef control, const char* text) {
   const MenuRef menu = GetControlPopupMenuHandle(control);
   const std::string wanted = TextOrEmpty(text).substr(0, kLongestRowText);
   const int32_t count = CountMenuItems(menu);
@@ -84,7 +82,7 @@ static void _SelectText(ControlRef control, const char* text) {
   }
 }
 
-static bool _IsChoosingKey(uint16_t character) {
+bool _IsChoosingKey(uint16_t character) {
   switch (character) {
     case kUpArrowChar:
     case kDownArrowChar:
@@ -98,7 +96,7 @@ static bool _IsChoosingKey(uint16_t character) {
   }
 }
 
-static intptr_t _ComboKey(const DLGItem& combo, DLGKeyPress key) {
+intptr_t _ComboKey(const DLGItem& combo, DLGKeyPress key) {
   if (!ItemReacts(combo) || !_IsChoosingKey(key.character) || (key.modifiers & (cmdKey | controlKey)) != 0) {
     return kKeyNotUsed;
   }
@@ -110,6 +108,8 @@ static intptr_t _ComboKey(const DLGItem& combo, DLGKeyPress key) {
   HandleControlKey(combo.control, key.character, key.modifiers);
   return GetControlValue(combo.control) != before ? kKeyChanged : kKeyUsed;
 }
+
+}  // namespace
 
 intptr_t CBItemProc(DLGRecord* dialog, int32_t item, int32_t message, intptr_t param1, intptr_t param2) {
   DLGItem* const found = DLGFindItem(dialog, item);
@@ -135,7 +135,7 @@ intptr_t CBItemProc(DLGRecord* dialog, int32_t item, int32_t message, intptr_t p
 }
 
 int32_t CBInsertItem(DLGRecord* dialog, int32_t item, const char* text, int32_t position) {
-  const Combo combo = FindCombo(dialog, item);
+  const Combo combo = _FindCombo(dialog, item);
   if (combo.menu == nullptr) return -1;
   const int32_t count = CountMenuItems(combo.menu);
   if (count >= kCBMaxRows) return -1;
@@ -155,27 +155,27 @@ int32_t CBInsertItem(DLGRecord* dialog, int32_t item, const char* text, int32_t 
 }
 
 int32_t CBGetSelect(DLGRecord* dialog, int32_t item) {
-  const Combo combo = FindCombo(dialog, item);
+  const Combo combo = _FindCombo(dialog, item);
   return combo.menu != nullptr ? GetControlValue(combo.control) - 1 : -1;
 }
 
 void CBSetSelect(DLGRecord* dialog, int32_t item, int32_t row) {
-  const Combo combo = FindCombo(dialog, item);
+  const Combo combo = _FindCombo(dialog, item);
   if (combo.menu == nullptr || row >= CountMenuItems(combo.menu)) return;
   const int32_t value = std::max(row, -1) + 1;
   if (GetControlValue(combo.control) != value) SetControlValue(combo.control, value);
 }
 
 int32_t CBGetCount(DLGRecord* dialog, int32_t item) {
-  return CountMenuItems(FindCombo(dialog, item).menu);
+  return CountMenuItems(_FindCombo(dialog, item).menu);
 }
 
 intptr_t CBGetItemData(DLGRecord* dialog, int32_t item, int32_t row) {
-  const int32_t* const value = FindRowValue(dialog, item, row);
+  const int32_t* const value = _FindRowValue(dialog, item, row);
   return value != nullptr ? *value : 0;
 }
 
 void CBSetItemData(DLGRecord* dialog, int32_t item, int32_t row, int32_t value) {
-  int32_t* const stored = FindRowValue(dialog, item, row);
+  int32_t* const stored = _FindRowValue(dialog, item, row);
   if (stored != nullptr) *stored = value;
 }

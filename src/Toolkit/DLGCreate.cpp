@@ -35,16 +35,18 @@ struct Template {
   int32_t itemCount;
 };
 
-void (*s_globalOpen)(DLGRecord*) = nullptr;
+void (*gGlobalOpen)(DLGRecord*) = nullptr;
 
 }  // namespace
 
 void DLGSetGlobalOpenProc(void (*proc)(DLGRecord*)) {
-  s_globalOpen = proc;
+  gGlobalOpen = proc;
 }
 
+namespace {
+
 // The item descriptions as a copy, so that nothing an item procedure does can pull them away.
-static std::optional<std::vector<char>> _LoadItemDescriptions(int32_t resourceID) {
+std::optional<std::vector<char>> _LoadItemDescriptions(int32_t resourceID) {
   const Handle resource = GetResource(kItemDescriptions, static_cast<int16_t>(resourceID));
   if (resource == nullptr) return std::nullopt;
   std::vector<char> bytes(*resource, *resource + GetHandleSize(resource));
@@ -53,8 +55,8 @@ static std::optional<std::vector<char>> _LoadItemDescriptions(int32_t resourceID
 }
 
 // Appends the items of the further resource ids to the dialog and counts those of each.
-static bool _AppendTemplates(DialogRef dialog, std::span<const int32_t> resourceIDs,
-                             std::vector<Template>* templates) {
+bool _AppendTemplates(DialogRef dialog, std::span<const int32_t> resourceIDs,
+                      std::vector<Template>* templates) {
   for (const int32_t id : resourceIDs) {
     const int16_t before = CountDITL(dialog);
     if (!AppendDialogItemList(dialog, static_cast<int16_t>(id))) return false;
@@ -63,12 +65,12 @@ static bool _AppendTemplates(DialogRef dialog, std::span<const int32_t> resource
   return true;
 }
 
-static void _SetWindowAttributes(WindowRef window, int32_t kind) {
+void _SetWindowAttributes(WindowRef window, int32_t kind) {
   if (kind == kDLGModal) ChangeWindowAttributes(window, 0, kWindowCollapseBoxAttribute);
   if (kind == kDLGPane) ChangeWindowAttributes(window, kWindowCloseBoxAttribute, 0);
 }
 
-static void _FillHeader(DLGRecord* dialog, DialogRef platformDialog, const Request& request) {
+void _FillHeader(DLGRecord* dialog, DialogRef platformDialog, const Request& request) {
   const WindowRef window = GetDialogWindow(platformDialog);
   SetPortTextFont(window, gDefaultFont, kDefaultFontSize);
   SetWRefCon(window, DLGInstance());
@@ -91,7 +93,7 @@ static void _FillHeader(DLGRecord* dialog, DialogRef platformDialog, const Reque
   SetControlReference(GetRootControl(window), reinterpret_cast<intptr_t>(dialog));
 }
 
-static void _InstallHelpTag(ControlRef control, int32_t resourceID, int32_t number) {
+void _InstallHelpTag(ControlRef control, int32_t resourceID, int32_t number) {
   const std::string tag = GetIndString(static_cast<int16_t>(resourceID), static_cast<int16_t>(number));
   if (tag.empty()) return;
   HMSetControlHelpContent(control, tag);
@@ -99,7 +101,7 @@ static void _InstallHelpTag(ControlRef control, int32_t resourceID, int32_t numb
 }
 
 // Control and flags agree from the start.
-static void _ApplyFlags(const DLGItem& row) {
+void _ApplyFlags(const DLGItem& row) {
   if (row.control == nullptr) return;
   SetControlReference(row.control, 0);
   if ((row.flags & kDLGEnabled) == 0) DeactivateControl(row.control);
@@ -107,7 +109,7 @@ static void _ApplyFlags(const DLGItem& row) {
 }
 
 // Creates one item from the description at `data`; gives the bytes its own data takes, negative on failure.
-static intptr_t _CreateItem(DLGRecord* dialog, int32_t item, int32_t type, uint32_t flags, const char* data) {
+intptr_t _CreateItem(DLGRecord* dialog, int32_t item, int32_t type, uint32_t flags, const char* data) {
   const DLGItemProc procedure = DLGFindItemProc(type);
   if (procedure == nullptr) return -1;
   DLGItem* row = DLGItemRow(dialog, item);
@@ -121,7 +123,7 @@ static intptr_t _CreateItem(DLGRecord* dialog, int32_t item, int32_t type, uint3
 }
 
 // Creates the items of one template behind those that are there.
-static bool _CreateItems(DLGRecord* dialog, const Template& part, const std::vector<char>& descriptions) {
+bool _CreateItems(DLGRecord* dialog, const Template& part, const std::vector<char>& descriptions) {
   BigEndianReader reader(descriptions);
   uint16_t unused = 0;
   uint16_t count = 0;
@@ -144,7 +146,7 @@ static bool _CreateItems(DLGRecord* dialog, const Template& part, const std::vec
   return true;
 }
 
-static bool _CreateAllItems(DLGRecord* dialog, const std::vector<Template>& templates) {
+bool _CreateAllItems(DLGRecord* dialog, const std::vector<Template>& templates) {
   const DLGWatch watch(dialog);
   for (const Template& part : templates) {
     const auto descriptions = _LoadItemDescriptions(part.resourceID);
@@ -154,7 +156,7 @@ static bool _CreateAllItems(DLGRecord* dialog, const std::vector<Template>& temp
 }
 
 // A dialog with a window of its own.
-static DLGRecord* _CreateDialog(const Request& request) {
+DLGRecord* _CreateDialog(const Request& request) {
   const DialogRef platformDialog = GetNewDialog(static_cast<int16_t>(request.resourceIDs.front()));
   if (platformDialog == nullptr) return nullptr;
   std::vector<Template> templates{{request.resourceIDs.front(), CountDITL(platformDialog)}};
@@ -177,7 +179,7 @@ static DLGRecord* _CreateDialog(const Request& request) {
 }
 
 // Undoes what an appended pane left in the record.
-static void _RemovePane(DLGRecord* dialog, const DLGRecord& before, int16_t ownItemCount) {
+void _RemovePane(DLGRecord* dialog, const DLGRecord& before, int16_t ownItemCount) {
   while (dialog->itemCount > ownItemCount) {
     SendDLGItemMessage(dialog, dialog->itemCount, kDLGDispose);
     *DLGItemRow(dialog, dialog->itemCount--) = {};
@@ -190,7 +192,7 @@ static void _RemovePane(DLGRecord* dialog, const DLGRecord& before, int16_t ownI
 
 // A pane: the items of its resource ids, appended to the dialog in `request.parent`, whose record it takes
 // over.
-static DLGRecord* _CreatePane(DLGRecord* dialog, const Request& request) {
+DLGRecord* _CreatePane(DLGRecord* dialog, const Request& request) {
   const DLGRecord before = *dialog;
   const int16_t ownItemCount = CountDITL(dialog->dialog);
   std::vector<Template> templates;
@@ -207,6 +209,8 @@ static DLGRecord* _CreatePane(DLGRecord* dialog, const Request& request) {
   if (watch.IsLive()) _RemovePane(dialog, before, ownItemCount);
   return nullptr;
 }
+
+}  // namespace
 
 DLGRecord* GetCombinedDialogResource(WindowRef parent, int32_t kind, void* /*instance*/,
                                      std::span<const int32_t> resourceIDs, int32_t userValue,
@@ -225,7 +229,7 @@ DLGRecord* GetCombinedDialogResource(WindowRef parent, int32_t kind, void* /*ins
   for (int32_t item = first; watch.IsLive() && item <= dialog->itemCount; ++item) {
     SendDLGItemMessage(dialog, item, kDLGAllCreated);
   }
-  if (watch.IsLive() && s_globalOpen != nullptr) s_globalOpen(dialog);
+  if (watch.IsLive() && gGlobalOpen != nullptr) gGlobalOpen(dialog);
   return watch.IsLive() ? dialog : nullptr;
 }
 

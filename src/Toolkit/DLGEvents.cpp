@@ -18,9 +18,11 @@ constexpr intptr_t kChanged = 1;
 
 bool gDone = false;
 
+namespace {
+
 // Whether a click into the window is for its items. Brings the window to the front or beeps as the order of
 // the windows and their modality want.
-static bool _ClickReachesItems(WindowRef window) {
+bool _ClickReachesItems(WindowRef window) {
   const WindowRef front = FrontWindow();
   if (window == front) return true;
   if (DLGIsModalWindow(front)) {
@@ -42,7 +44,7 @@ static bool _ClickReachesItems(WindowRef window) {
 }
 
 // The last item under the point that is enabled and visible; 0 for none.
-static int32_t _HitItem(DLGRecord* dialog, intptr_t point) {
+int32_t _HitItem(DLGRecord* dialog, intptr_t point) {
   for (int32_t item = dialog->itemCount; item > 0; --item) {
     if (IsItemEnabled(dialog, item) && IsItemVisible(dialog, item) &&
         SendDLGItemMessage(dialog, item, kDLGHitTest, point) != 0) {
@@ -53,7 +55,7 @@ static int32_t _HitItem(DLGRecord* dialog, intptr_t point) {
 }
 
 // Moves the focus to an item that a press is for. False when it stays with another.
-static bool _FocusByMouse(DLGRecord* dialog, int32_t item) {
+bool _FocusByMouse(DLGRecord* dialog, int32_t item) {
   if ((GetItemFlags(dialog, item) & kDLGTabStop) == 0 || dialog->focusItem == item) return true;
   const DLGWatch watch(dialog);
   focusType = kFocusByMouse;
@@ -63,7 +65,7 @@ static bool _FocusByMouse(DLGRecord* dialog, int32_t item) {
 }
 
 // Follows the mouse from the press on. Gives the item's last answer; 0 when the dialog went meanwhile.
-static intptr_t _Track(DLGRecord* dialog, int32_t item, intptr_t point, bool doubleClick) {
+intptr_t _Track(DLGRecord* dialog, int32_t item, intptr_t point, bool doubleClick) {
   const DLGWatch watch(dialog);
   const WindowRef window = dialog->window;
   dialog->trackingItem = item;
@@ -81,6 +83,8 @@ static intptr_t _Track(DLGRecord* dialog, int32_t item, intptr_t point, bool dou
   return answer;
 }
 
+}  // namespace
+
 void DLGHandleMouseDown(WindowRef window, const MouseEvent& event) {
   DLGRecord* dialog = DLGFromHwnd(window);
   if (dialog == nullptr || !_ClickReachesItems(window) || dialog->trackingItem > 0) return;
@@ -96,8 +100,10 @@ void DLGHandleMouseDown(WindowRef window, const MouseEvent& event) {
   if (answer == kChanged && DLGIsOpen(resourceID) && watch.IsLive()) DLGNotifyChange(dialog, item);
 }
 
+namespace {
+
 // Offers the key to the enabled items and notifies the first that claims it.
-static bool _TryHotKeys(DLGRecord* dialog, intptr_t key) {
+bool _TryHotKeys(DLGRecord* dialog, intptr_t key) {
   const DLGWatch watch(dialog);
   for (int32_t item = 1; item <= dialog->itemCount; ++item) {
     if (!IsItemEnabled(dialog, item)) continue;
@@ -111,7 +117,7 @@ static bool _TryHotKeys(DLGRecord* dialog, intptr_t key) {
   return false;
 }
 
-static bool _TryFloatingHotKeys(WindowRef window, intptr_t key) {
+bool _TryFloatingHotKeys(WindowRef window, intptr_t key) {
   for (WindowRef other = GetWindowList(); other != nullptr && other != window; other = GetNextWindow(other)) {
     DLGRecord* dialog = DLGFromHwnd(other);
     if (dialog == nullptr || dialog->kind != kDLGFloating || !IsWindowVisible(other)) continue;
@@ -120,7 +126,7 @@ static bool _TryFloatingHotKeys(WindowRef window, intptr_t key) {
   return false;
 }
 
-static bool _TryFocusItem(DLGRecord* dialog, intptr_t key) {
+bool _TryFocusItem(DLGRecord* dialog, intptr_t key) {
   const int32_t item = dialog->focusItem;
   if (!IsItemEnabled(dialog, item)) return false;
   const DLGWatch watch(dialog);
@@ -128,6 +134,8 @@ static bool _TryFocusItem(DLGRecord* dialog, intptr_t key) {
   if (answer == kChanged && watch.IsLive()) DLGNotifyChange(dialog, item);
   return answer != 0 || !watch.IsLive();
 }
+
+}  // namespace
 
 bool DLGHandleKey(WindowRef window, uint16_t character, uint16_t modifiers) {
   DLGRecord* dialog = DLGFromHwnd(window);
@@ -146,13 +154,17 @@ bool DLGHandleKey(WindowRef window, uint16_t character, uint16_t modifiers) {
   return false;
 }
 
-static int32_t _ItemOfControl(DLGRecord* dialog, ControlRef control) {
+namespace {
+
+int32_t _ItemOfControl(DLGRecord* dialog, ControlRef control) {
   if (control == nullptr) return 0;
   for (int32_t item = 1; item <= dialog->itemCount; ++item) {
     if (DLGGetChildControl(dialog, item) == control) return item;
   }
   return 0;
 }
+
+}  // namespace
 
 void DLGHandleAction(WindowRef window, ControlRef control) {
   DLGRecord* dialog = DLGFromHwnd(window);
@@ -164,7 +176,9 @@ void DLGHandleAction(WindowRef window, ControlRef control) {
   if (watch.IsLive()) DLGNotifyChange(dialog, item);
 }
 
-static void _HandleFocus(WindowRef window, ControlRef control) {
+namespace {
+
+void _HandleFocus(WindowRef window, ControlRef control) {
   DLGRecord* dialog = DLGFromHwnd(window);
   if (dialog == nullptr) return;
   const int32_t item = _ItemOfControl(dialog, control);
@@ -173,7 +187,7 @@ static void _HandleFocus(WindowRef window, ControlRef control) {
   if (!moved && watch.IsLive()) SetKeyboardFocus(window, DLGGetChildControl(dialog, dialog->focusItem));
 }
 
-static void _HandleClose(WindowRef window) {
+void _HandleClose(WindowRef window) {
   DLGRecord* dialog = DLGFromHwnd(window);
   if (dialog == nullptr) return;
   if (window != FrontWindow() && DLGIsModalWindow(FrontWindow())) {
@@ -183,11 +197,13 @@ static void _HandleClose(WindowRef window) {
   }
 }
 
-static void _HandleActivate(WindowRef window) {
+void _HandleActivate(WindowRef window) {
   const WindowRef front = FrontNonFloatingWindow();
   SelectWindow(front != window && DLGIsModalWindow(front) ? front : window);
   DLGShowPending();
 }
+
+}  // namespace
 
 void DLGInstallEventHandlers() {
   DialogEventHandlers handlers;

@@ -6,13 +6,15 @@
 
 int32_t focusType = 0;
 
-static bool _TakesFocus(const DLGItem& item) {
+namespace {
+
+bool _TakesFocus(const DLGItem& item) {
   constexpr uint32_t kNeeded = kDLGTabStop | kDLGEnabled;
   return (item.flags & kNeeded) == kNeeded;
 }
 
 // Tells the old and the new focus item and the dialog, one after the other, as long as the dialog is there.
-static void _AnnounceFocus(DLGRecord* dialog, int32_t oldItem, int32_t newItem) {
+void _AnnounceFocus(DLGRecord* dialog, int32_t oldItem, int32_t newItem) {
   const DLGWatch watch(dialog);
   SendDLGItemMessage(dialog, oldItem, kDLGFocus, 0);
   if (watch.IsLive()) SendDLGItemMessage(dialog, newItem, kDLGFocus, 1, focusType);
@@ -21,6 +23,8 @@ static void _AnnounceFocus(DLGRecord* dialog, int32_t oldItem, int32_t newItem) 
     dialog->event(dialog, kDLGFocusChanged, static_cast<int32_t>(items), 0);
   }
 }
+
+}  // namespace
 
 bool SetFocusDLG(DLGRecord* dialog, int32_t item) {
   if (!DialogIsValid(dialog)) return false;

@@ -75,7 +75,9 @@ void EnableDLGItem(DLGRecord* dialog, int32_t item, bool on) {
   InvalDLGItem(dialog, item);
 }
 
-static void _SetVisible(DLGRecord* dialog, int32_t item, bool on, bool redraw) {
+namespace {
+
+void _SetVisible(DLGRecord* dialog, int32_t item, bool on, bool redraw) {
   DLGItem* row = DLGFindItem(dialog, item);
   if (row == nullptr) return;
   row->flags = on ? row->flags | kDLGVisible : row->flags & ~static_cast<uint32_t>(kDLGVisible);
@@ -88,6 +90,8 @@ static void _SetVisible(DLGRecord* dialog, int32_t item, bool on, bool redraw) {
   }
   if (redraw) InvalDLGItem(dialog, item);
 }
+
+}  // namespace
 
 void ShowDLGItem(DLGRecord* dialog, int32_t item, bool redraw) {
   _SetVisible(dialog, item, true, redraw);

@@ -19,7 +19,7 @@ std::unordered_map<const DLGRecord*, int32_t>& _Live() {
   return live;
 }
 
-uint64_t s_nextSerial = 1;
+uint64_t gNextSerial = 1;
 
 }  // namespace
 
@@ -36,7 +36,7 @@ DLGRecord* DLGNewRecord(int32_t itemCapacity) {
   }
   dialog->itemCapacity = itemCapacity;
   dialog->marker = DLGRecord::kMarker;
-  dialog->serial = s_nextSerial++;
+  dialog->serial = gNextSerial++;
   return dialog;
 }
 

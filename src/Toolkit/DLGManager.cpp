@@ -11,10 +11,14 @@
 #include "Toolkit/DLGShow.h"
 #include "Toolkit/Toolkit.h"
 
-static void (*s_globalClose)(DLGRecord*) = nullptr;
+namespace {
+
+void (*gGlobalClose)(DLGRecord*) = nullptr;
+
+}  // namespace
 
 void DLGSetGlobalCloseProc(void (*proc)(DLGRecord*)) {
-  s_globalClose = proc;
+  gGlobalClose = proc;
 }
 
 DLGRecord* DLGFromHwnd(WindowRef window) {
@@ -33,8 +37,10 @@ bool DLGIsOpen(int32_t resourceID) {
   return false;
 }
 
+namespace {
+
 // Ends what the items keep and the timers; the window and the record stay.
-static void _DisposeItems(DLGRecord* dialog) {
+void _DisposeItems(DLGRecord* dialog) {
   dialog->itemHit = nullptr;
   dialog->close = nullptr;
   dialog->event = nullptr;
@@ -44,14 +50,14 @@ static void _DisposeItems(DLGRecord* dialog) {
   dialog->timerCount = 0;
 }
 
-static void _DisposeWindowAndRecord(DLGRecord* dialog) {
+void _DisposeWindowAndRecord(DLGRecord* dialog) {
   const DialogRef platformDialog = dialog->dialog;
   DLGFreeRecord(dialog);
   DisposeDialog(platformDialog);
 }
 
 // Back to an empty container for the next pane.
-static void _EmptyPane(DLGRecord* dialog) {
+void _EmptyPane(DLGRecord* dialog) {
   ShortenDITL(dialog->dialog, static_cast<int16_t>(CountDITL(dialog->dialog) - dialog->ownItemCount));
   const DLGRecord kept = *dialog;
   const int32_t room = DLGRoom(dialog);
@@ -66,6 +72,8 @@ static void _EmptyPane(DLGRecord* dialog) {
   dialog->marker = DLGRecord::kMarker;
   dialog->serial = kept.serial;
 }
+
+}  // namespace
 
 void DisposeDLG(DLGRecord* dialog) {
   if (!DialogIsValid(dialog) || dialog->disposing) return;
@@ -96,7 +104,7 @@ bool MyCloseDialog(DLGRecord* dialog) {
   if (!DialogIsValid(dialog) || dialog->disposing) return false;
   const DLGWatch watch(dialog);
   if (dialog->close != nullptr && !dialog->close(dialog)) return false;
-  if (watch.IsLive() && s_globalClose != nullptr) s_globalClose(dialog);
+  if (watch.IsLive() && gGlobalClose != nullptr) gGlobalClose(dialog);
   if (watch.IsLive()) DisposeDLG(dialog);
   DLGEndModality();
   return true;

@@ -3,12 +3,16 @@
 DLGRegisterRow itemRegisterList[kMaxRegisterItems];
 int32_t numRegisterItems = 0;
 
-static const DLGRegisterRow* _FindRow(int32_t type) {
+namespace {
+
+const DLGRegisterRow* _FindRow(int32_t type) {
   for (int32_t i = 0; i < numRegisterItems; ++i) {
     if (itemRegisterList[i].type == type) return &itemRegisterList[i];
   }
   return nullptr;
 }
+
+}  // namespace
 
 bool DLGRegisterItem(int32_t type, DLGItemProc procedure) {
   if (type < 1 || numRegisterItems >= kMaxRegisterItems || _FindRow(type) != nullptr) return false;

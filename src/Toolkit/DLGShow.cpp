@@ -27,7 +27,9 @@ bool DLGIsModalWindow(WindowRef window) {
   return dialog != nullptr && dialog->kind == kDLGModal;
 }
 
-static std::vector<WindowRef> _Windows() {
+namespace {
+
+std::vector<WindowRef> _Windows() {
   std::vector<WindowRef> windows;
   for (WindowRef window = GetWindowList(); window != nullptr; window = GetNextWindow(window)) {
     windows.push_back(window);
@@ -35,20 +37,20 @@ static std::vector<WindowRef> _Windows() {
   return windows;
 }
 
-static bool _IsFloating(WindowRef window) {
+bool _IsFloating(WindowRef window) {
   const DLGRecord* dialog = DLGFromHwnd(window);
   return GetWindowClass(window) == kFloatingWindowClass ||
          (dialog != nullptr && dialog->kind == kDLGFloating);
 }
 
-static int64_t _CountModalDialogs() {
+int64_t _CountModalDialogs() {
   const std::vector<WindowRef> windows = _Windows();
   return std::count_if(windows.begin(), windows.end(),
                        [](WindowRef window) { return IsWindowVisible(window) && DLGIsModalWindow(window); });
 }
 
 // A front dialog that asks for it gets a placeholder in front of it while the floating windows rest.
-static void _ShowPlaceholder() {
+void _ShowPlaceholder() {
   const DLGRecord* front = DLGFromHwnd(FrontWindow());
   if (front == nullptr || (front->flags & kDLGPlaceholder) == 0 || DLGIsOpen(kPlaceholderID)) return;
   const DLGRecord* placeholder =
@@ -58,7 +60,7 @@ static void _ShowPlaceholder() {
   ShowWindow(placeholder->window);
 }
 
-static void _DeactivateOthers(WindowRef modal) {
+void _DeactivateOthers(WindowRef modal) {
   for (const WindowRef window : _Windows()) {
     if (_IsFloating(window) && IsWindowVisible(window)) ActivateWindow(window, false);
   }
@@ -67,19 +69,19 @@ static void _DeactivateOthers(WindowRef modal) {
   if (document != nullptr && document != modal) ActivateWindow(document, false);
 }
 
-static void _ShowActive(WindowRef window) {
+void _ShowActive(WindowRef window) {
   HiliteWindow(window, true);
   ShowWindow(window);
   ActivateWindow(window, true);
   SelectWindow(window);
 }
 
-static void _ShowInactive(WindowRef window) {
+void _ShowInactive(WindowRef window) {
   HiliteWindow(window, false);
   ShowWindow(window);
 }
 
-static void _ShowInOrder(DLGRecord* dialog) {
+void _ShowInOrder(DLGRecord* dialog) {
   const WindowRef window = dialog->window;
   const WindowRef front = FrontNonFloatingWindow();
   const bool alone = dialog->kind == kDLGFloating || front == nullptr;
@@ -91,7 +93,7 @@ static void _ShowInOrder(DLGRecord* dialog) {
   _ShowActive(window);
 }
 
-static void _DrawGrowIcon(const DLGRecord& dialog) {
+void _DrawGrowIcon(const DLGRecord& dialog) {
   if (dialog.growBounds == Rect{}) return;
   const Rect bounds = GetWindowPortBounds(dialog.window);
   InvalWindowRect(dialog.window,
@@ -100,12 +102,12 @@ static void _DrawGrowIcon(const DLGRecord& dialog) {
 }
 
 // What was marked while the dialog was hidden is drawn with it.
-static void _ClearRedrawMarks(DLGRecord* dialog) {
+void _ClearRedrawMarks(DLGRecord* dialog) {
   for (int32_t item = 1; item <= dialog->itemCount; ++item) RemoveItemFlags(dialog, item, kDLGRedrawPending);
   dialog->flags &= ~static_cast<uint32_t>(kDLGRedrawPending);
 }
 
-static void _TakeCollapseBoxes(WindowRef modal) {
+void _TakeCollapseBoxes(WindowRef modal) {
   for (const WindowRef window : _Windows()) {
     if (window == modal || (GetWindowAttributes(window) & kWindowCollapseBoxAttribute) == 0) continue;
     ChangeWindowAttributes(window, 0, kWindowCollapseBoxAttribute);
@@ -113,12 +115,14 @@ static void _TakeCollapseBoxes(WindowRef modal) {
   }
 }
 
-static void _RemovePlaceholder() {
+void _RemovePlaceholder() {
   for (const WindowRef window : _Windows()) {
     DLGRecord* dialog = DLGFromHwnd(window);
     if (dialog != nullptr && dialog->resourceID == kPlaceholderID) DisposeDLG(dialog);
   }
 }
+
+}  // namespace
 
 void DLGEndModality() {
   if (_CountModalDialogs() > 0) return;

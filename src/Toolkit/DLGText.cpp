@@ -7,21 +7,25 @@
 #include "Toolkit/DLGItems.h"
 #include "Toolkit/DLGManager.h"
 
-static constexpr int32_t kMaxText = 1000;
-static constexpr size_t kMaxTruncText = 250;
-static constexpr char kEllipsis = '\xC9';
+namespace {
+
+constexpr int32_t kMaxText = 1000;
+constexpr size_t kMaxTruncText = 250;
+constexpr char kEllipsis = '\xC9';
 
 // The item's text into a buffer of kMaxText + 1 bytes.
-static void _FetchText(DLGRecord* dialog, int32_t item, char* buffer) {
+void _FetchText(DLGRecord* dialog, int32_t item, char* buffer) {
   buffer[0] = '\0';
   SendDLGItemMessage(dialog, item, kDLGGetText, reinterpret_cast<intptr_t>(buffer), kMaxText);
 }
 
+}  // namespace
+
 const char* GetText(DLGRecord* dialog, int32_t item) {
-  static char s_text[kMaxText + 1];
-  std::memset(s_text, 0, sizeof s_text);
-  _FetchText(dialog, item, s_text);
-  return s_text;
+  static char text[kMaxText + 1];
+  std::memset(text, 0, sizeof text);
+  _FetchText(dialog, item, text);
+  return text;
 }
 
 void SetText(DLGRecord* dialog, int32_t item, const char* text, bool redraw) {

@@ -15,12 +15,16 @@ bool DLGInit(int32_t timerInterval) {
   return true;
 }
 
-// Runs while any dialog has a timer.
-static EventLoopTimerRef s_eventLoopTimer = nullptr;
+namespace {
 
-static bool _IsDue(const DLGTimerEntry& entry) {
+// Runs while any dialog has a timer.
+EventLoopTimerRef gEventLoopTimer = nullptr;
+
+bool _IsDue(const DLGTimerEntry& entry) {
   return static_cast<int32_t>(TickCount() - entry.due) >= 0;  // the tick count may wrap around
 }
+
+}  // namespace
 
 bool DLGServeTimers(DLGRecord* dialog) {
   if (dialog->trackingItem > 0) return false;
@@ -39,7 +43,9 @@ bool DLGServeTimers(DLGRecord* dialog) {
   return served;
 }
 
-static void _ServeAllTimers(void* /*data*/) {
+namespace {
+
+void _ServeAllTimers(void* /*data*/) {
   bool waiting = false;
   for (DLGRecord* dialog : DLGLiveRecords()) {
     if (!DialogIsValid(dialog)) continue;
@@ -47,9 +53,11 @@ static void _ServeAllTimers(void* /*data*/) {
     waiting = waiting || (DialogIsValid(dialog) && dialog->timerCount > 0);
   }
   if (waiting) return;
-  RemoveEventLoopTimer(s_eventLoopTimer);
-  s_eventLoopTimer = nullptr;
+  RemoveEventLoopTimer(gEventLoopTimer);
+  gEventLoopTimer = nullptr;
 }
+
+}  // namespace
 
 bool DLGRegisterTimer(DLGRecord* dialog, int32_t item, uint32_t ticks) {
   if (!DialogIsValid(dialog) || dialog->timerCount >= DLGRecord::kMaxTimers) return false;
@@ -58,9 +66,9 @@ bool DLGRegisterTimer(DLGRecord* dialog, int32_t item, uint32_t ticks) {
     if (dialog->timers == nullptr) return false;
   }
   dialog->timers[dialog->timerCount++] = {item, TickCount() + ticks};
-  if (s_eventLoopTimer == nullptr) {
+  if (gEventLoopTimer == nullptr) {
     const auto interval = static_cast<uint32_t>(std::max(gTimerInterval, 1));
-    s_eventLoopTimer = InstallEventLoopTimer(interval, _ServeAllTimers, nullptr);
+    gEventLoopTimer = InstallEventLoopTimer(interval, _ServeAllTimers, nullptr);
   }
   return true;
 }

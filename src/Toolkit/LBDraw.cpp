@@ -13,12 +13,12 @@ constexpr int32_t kCheckGap = 6;        // between them
 constexpr int32_t kColumnGap = 8;       // at the end of a column
 constexpr int32_t kDefaultColumn = 80;  // without a tab stop
 
-int16_t ToCoordinate(int32_t value) {
+int16_t _ToCoordinate(int32_t value) {
   return static_cast<int16_t>(
       std::clamp<int32_t>(value, std::numeric_limits<int16_t>::min(), std::numeric_limits<int16_t>::max()));
 }
 
-DrawState StateOf(ListRef list, bool selected, bool hasFocus) {
+DrawState _StateOf(ListRef list, bool selected, bool hasFocus) {
   return {selected, hasFocus, IsControlActive(GetListControl(list))};
 }
 
@@ -45,18 +45,18 @@ Rect LBCheckBoxBounds(const Rect& row) {
   const Point size = GetThemeCheckBoxSize();
   const int32_t left = row.left + kRowInset;
   const int32_t top = row.top + (RectHeight(row) - size.v) / 2;
-  return {ToCoordinate(top), ToCoordinate(left), ToCoordinate(top + size.v), ToCoordinate(left + size.h)};
+  return {_ToCoordinate(top), _ToCoordinate(left), _ToCoordinate(top + size.v), _ToCoordinate(left + size.h)};
 }
 
 int16_t LBTextLeft(const Rect& row, bool withChecks) {
-  return ToCoordinate(withChecks ? LBCheckBoxBounds(row).right + kCheckGap : row.left + kRowInset);
+  return _ToCoordinate(withChecks ? LBCheckBoxBounds(row).right + kCheckGap : row.left + kRowInset);
 }
 
 void LBDrawColumns(DrawContext* context, DLGRecord* dialog, int32_t item, int32_t row, const Rect& bounds,
                    bool selected, bool hasFocus) {
   const LBView view = LBView::OfLiveItem(dialog, item);
   if (!view) return;
-  const DrawState state = StateOf(view.list(), selected, hasFocus);
+  const DrawState state = _StateOf(view.list(), selected, hasFocus);
   const std::string text = LGetCell(view.list(), row);
   std::string_view rest = text;
   TabStops stops(view);
@@ -67,7 +67,7 @@ void LBDrawColumns(DrawContext* context, DLGRecord* dialog, int32_t item, int32_
     const int32_t next = isLast ? bounds.right : bounds.left + std::min<int32_t>(stops.Next(), bounds.right);
     const int32_t right = std::min<int32_t>(isLast ? next : next - kColumnGap, bounds.right);
     if (end > 0 && left < right) {
-      const Rect column = {bounds.top, ToCoordinate(left), bounds.bottom, ToCoordinate(right)};
+      const Rect column = {bounds.top, _ToCoordinate(left), bounds.bottom, _ToCoordinate(right)};
       DrawThemeText(context, rest.substr(0, end), column, state);
     }
     if (isLast) return;
@@ -76,9 +76,11 @@ void LBDrawColumns(DrawContext* context, DLGRecord* dialog, int32_t item, int32_
   }
 }
 
-static void _DrawRow(DrawContext* context, ListRef list, int32_t row, const Rect& bounds, bool selected,
-                     bool hasFocus) {
-  const DrawState state = StateOf(list, selected, hasFocus);
+namespace {
+
+void _DrawRow(DrawContext* context, ListRef list, int32_t row, const Rect& bounds, bool selected,
+              bool hasFocus) {
+  const DrawState state = _StateOf(list, selected, hasFocus);
   DrawThemeRow(context, bounds, state);
   const LBView view = LBView::OfList(list);
   if (!view) {
@@ -94,19 +96,21 @@ static void _DrawRow(DrawContext* context, ListRef list, int32_t row, const Rect
   draw(context, dialog, item, row, bounds, selected, hasFocus);
 }
 
-static bool _IsChecked(ListRef list, int32_t row) {
+bool _IsChecked(ListRef list, int32_t row) {
   const LBView view = LBView::OfList(list);
   return view && LBGetCheck(view->dialog, view->item, row) != 0;
 }
 
 // The same as a click on the check mark.
-static void _SetChecked(ListRef list, int32_t row, bool on) {
+void _SetChecked(ListRef list, int32_t row, bool on) {
   const LBView view = LBView::OfList(list);
   if (!view || !view.HasChecks() || !view.HasRow(row) || !view.Reacts()) return;
   if (_IsChecked(list, row) == on) return;
   view.ToggleCheck(row);
   DLGHandleAction(view->dialog->window, view.control());
 }
+
+}  // namespace
 
 void LBRegisterListDefinition(int16_t id, bool withChecks) {
   ListDefinition definition;

@@ -12,31 +12,32 @@ constexpr uint32_t kTypeAheadTicks = 40;  // a longer pause begins a new search
 constexpr size_t kTypeAheadSize = 14;
 
 // There is one keyboard, so these serve all lists.
-std::string _gTypeAhead;
-uint32_t _gLastKeyTicks = 0;
+std::string gTypeAhead;
+uint32_t gLastKeyTicks = 0;
 
 }  // namespace
 
 void LBClearTypeAhead() {
-  _gTypeAhead.clear();
+  gTypeAhead.clear();
 }
 
-static void _ForgetOldTypeAhead() {
+namespace {
+
+void _ForgetOldTypeAhead() {
   const uint32_t now = TickCount();
-  if (now - _gLastKeyTicks > kTypeAheadTicks) LBClearTypeAhead();
-  _gLastKeyTicks = now;
+  if (now - gLastKeyTicks > kTypeAheadTicks) LBClearTypeAhead();
+  gLastKeyTicks = now;
 }
 
-static bool _IsTyped(DLGKeyPress key) {
+bool _IsTyped(DLGKeyPress key) {
   return key.character >= ' ' && key.character != kDeleteChar && (key.modifiers & (cmdKey | controlKey)) == 0;
 }
 
-static bool _BeginsWithTypeAhead(std::string_view text) {
-  return text.size() >= _gTypeAhead.size() &&
-         AsciiEqualNoCase(text.substr(0, _gTypeAhead.size()), _gTypeAhead);
+bool _BeginsWithTypeAhead(std::string_view text) {
+  return text.size() >= gTypeAhead.size() && AsciiEqualNoCase(text.substr(0, gTypeAhead.size()), gTypeAhead);
 }
 
-static int32_t _FindTypeAhead(const LBView& view) {
+int32_t _FindTypeAhead(const LBView& view) {
   const int32_t count = view.count();
   for (int32_t row = 0; row < count; ++row) {
     if (_BeginsWithTypeAhead(LGetCell(view.list(), row))) return row;
@@ -45,7 +46,7 @@ static int32_t _FindTypeAhead(const LBView& view) {
 }
 
 // Selects the range and shows the row.
-static intptr_t _ChangeSelection(const LBView& view, LBRange range, int32_t shown) {
+intptr_t _ChangeSelection(const LBView& view, LBRange range, int32_t shown) {
   const int32_t count = view.count();
   const LBRange before = view.Selection();
   bool isWhole = before.first == range.first && before.last == range.last;
@@ -57,27 +58,27 @@ static intptr_t _ChangeSelection(const LBView& view, LBRange range, int32_t show
   return isWhole ? kKeyUsed : kKeyChanged;
 }
 
-static intptr_t _TypeAhead(const LBView& view, uint16_t character) {
-  if (_gTypeAhead.size() < kTypeAheadSize) _gTypeAhead += static_cast<char>(character);
+intptr_t _TypeAhead(const LBView& view, uint16_t character) {
+  if (gTypeAhead.size() < kTypeAheadSize) gTypeAhead += static_cast<char>(character);
   const int32_t row = _FindTypeAhead(view);
   return row < 0 ? kKeyUsed : _ChangeSelection(view, {row, row}, row);
 }
 
-static intptr_t _ToggleSelected(const LBView& view) {
+intptr_t _ToggleSelected(const LBView& view) {
   const int32_t row = LNextSelected(view.list(), 0);
   if (row < 0) return kKeyUsed;
   view.ToggleCheck(row);
   return kKeyChanged;
 }
 
-static intptr_t _Return(const LBView& view) {
+intptr_t _Return(const LBView& view) {
   if (view.IsMultiple()) return kKeyNotUsed;
   if (view.HasChecks()) return _ToggleSelected(view);
   view->activated = 1;
   return kKeyChanged;
 }
 
-static bool _IsNavigation(uint16_t character) {
+bool _IsNavigation(uint16_t character) {
   switch (character) {
     case kUpArrowChar:
     case kDownArrowChar:
@@ -90,7 +91,7 @@ static bool _IsNavigation(uint16_t character) {
 }
 
 // The row that a navigation key leads to from a row, or from -1, none.
-static int32_t _Destination(const LBView& view, uint16_t character, int32_t from) {
+int32_t _Destination(const LBView& view, uint16_t character, int32_t from) {
   const int32_t last = view.count() - 1;
   if (character == kEndChar) return last;
   if (character == kHomeChar || from < 0) return 0;
@@ -107,7 +108,7 @@ static int32_t _Destination(const LBView& view, uint16_t character, int32_t from
 
 // In a multiple-selection list, Option has the first instead of the last selected row move, and Shift leaves
 // the other one where it is.
-static intptr_t _Navigate(const LBView& view, DLGKeyPress key) {
+intptr_t _Navigate(const LBView& view, DLGKeyPress key) {
   if (view.count() == 0) return kKeyUsed;
   LBRange range = view.Selection();
   const bool movesFirst = view.IsMultiple() && (key.modifiers & optionKey) != 0;
@@ -123,6 +124,8 @@ static intptr_t _Navigate(const LBView& view, DLGKeyPress key) {
   return _ChangeSelection(view, range, row);
 }
 
+}  // namespace
+
 intptr_t LBHandleKey(const LBView& view, DLGKeyPress key) {
   _ForgetOldTypeAhead();
   view->activated = 0;
@@ -136,7 +139,7 @@ intptr_t LBHandleKey(const LBView& view, DLGKeyPress key) {
     return _Navigate(view, key);
   }
   if (!_IsTyped(key)) return kKeyNotUsed;
-  if (key.character == ' ' && _gTypeAhead.empty()) {
+  if (key.character == ' ' && gTypeAhead.empty()) {
     return view.HasChecks() ? _ToggleSelected(view) : kKeyNotUsed;
   }
   return _TypeAhead(view, key.character);

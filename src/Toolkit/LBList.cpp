@@ -57,12 +57,14 @@ void LBView::ToggleCheck(int32_t row) const {
   LBSetCheck(record->dialog, record->item, row, LBGetCheck(record->dialog, record->item, row) == 0);
 }
 
-static uint16_t _Swapped(uint16_t word) {
+namespace {
+
+uint16_t _Swapped(uint16_t word) {
   return static_cast<uint16_t>((word << 8) | (word >> 8));
 }
 
 // The mode word may be in either byte order.
-static uint8_t _FlagsOfMode(uint16_t bigEndian) {
+uint8_t _FlagsOfMode(uint16_t bigEndian) {
   const uint16_t littleEndian = _Swapped(bigEndian);
   switch (littleEndian <= 2 ? littleEndian : bigEndian) {
     case 1: return kLBMultiple;
@@ -72,12 +74,12 @@ static uint8_t _FlagsOfMode(uint16_t bigEndian) {
 }
 
 // The capacity word as existing dialogs have always been read: little-endian unless that is negative.
-static int32_t _StoredCapacity(uint16_t bigEndian) {
+int32_t _StoredCapacity(uint16_t bigEndian) {
   const auto littleEndian = static_cast<int16_t>(_Swapped(bigEndian));
   return littleEndian < 0 ? static_cast<int16_t>(bigEndian) : littleEndian;
 }
 
-static void _StoreGeometry(LBRecord* record, ControlRef control) {
+void _StoreGeometry(LBRecord* record, ControlRef control) {
   record->bounds = GetControlBounds(control);
   record->dialogBounds = GetWindowPortBounds(record->dialog->window);
   record->heightExcess = static_cast<int16_t>(RectHeight(record->dialogBounds) - RectHeight(record->bounds));
@@ -85,7 +87,7 @@ static void _StoreGeometry(LBRecord* record, ControlRef control) {
   record->scrollBarHeight = static_cast<int16_t>(record->dialogBounds.bottom - record->bounds.bottom);
 }
 
-static intptr_t _CreateList(DLGRecord* dialog, int32_t item, DLGItem* found, intptr_t data) {
+intptr_t _CreateList(DLGRecord* dialog, int32_t item, DLGItem* found, intptr_t data) {
   uint16_t mode = 0;
   uint16_t capacity = 0;
   if (!ReadItemWord(dialog, data, &mode) || !ReadItemWord(dialog, data + 2, &capacity)) return -1;
@@ -106,7 +108,7 @@ static intptr_t _CreateList(DLGRecord* dialog, int32_t item, DLGItem* found, int
   return sizeof mode + sizeof capacity;
 }
 
-static void _DisposeList(DLGItem* item) {
+void _DisposeList(DLGItem* item) {
   const ListRef list = GetControlList(item->control);
   const intptr_t data = list != nullptr ? GetListRefCon(list) : item->data;
   SetListRefCon(list, 0);
@@ -115,12 +117,12 @@ static void _DisposeList(DLGItem* item) {
 }
 
 // Three pixels inside of the lower right corner.
-static intptr_t _GrowPoint(const Rect* bounds) {
+intptr_t _GrowPoint(const Rect* bounds) {
   if (bounds == nullptr) return 0;
   return DLGPackPoint({static_cast<int16_t>(bounds->bottom - 3), static_cast<int16_t>(bounds->right - 3)});
 }
 
-static intptr_t _ListMessage(const LBView& view, int32_t message, intptr_t param1, intptr_t param2) {
+intptr_t _ListMessage(const LBView& view, int32_t message, intptr_t param1, intptr_t param2) {
   switch (message) {
     case kDLGAllCreated: LSetDrawingMode(view.list(), true); return 0;
     case kDLGGetText:
@@ -133,6 +135,8 @@ static intptr_t _ListMessage(const LBView& view, int32_t message, intptr_t param
     default: return 0;
   }
 }
+
+}  // namespace
 
 intptr_t LBItemProc(DLGRecord* dialog, int32_t item, int32_t message, intptr_t param1, intptr_t param2) {
   DLGItem* const found = DLGFindItem(dialog, item);
@@ -157,19 +161,23 @@ intptr_t LBItemProc(DLGRecord* dialog, int32_t item, int32_t message, intptr_t p
   }
 }
 
-static std::string _RowText(void* list, int32_t row) {
+namespace {
+
+std::string _RowText(void* list, int32_t row) {
   return LGetCell(static_cast<ListRef>(list), row);
 }
 
 // Makes room for the check state of a new row among those of `count` rows. The last state falls off a full
 // block.
-static void _InsertCheckState(const LBView& view, int32_t row, int32_t count) {
+void _InsertCheckState(const LBView& view, int32_t row, int32_t count) {
   int32_t* const state = view.State(row);
   if (state == nullptr) return;
   const int32_t moved = std::max(std::min(count, view.StateCount() - 1) - row, 0);
   std::copy_backward(state, state + moved, state + moved + 1);
   *state = 0;
 }
+
+}  // namespace
 
 int32_t LBInsertItem(DLGRecord* dialog, int32_t item, const char* text, int32_t position) {
   const LBView view = LBView::OfLiveItem(dialog, item);

@@ -1,8 +1,12 @@
 #include "Toolkit/LBInternal.h"
 
-static intptr_t _Track(const LBView& view, Point where) {
+namespace {
+
+intptr_t _Track(const LBView& view, Point where) {
   return HandleControlPress(view.control(), where) ? kPressTrack : kPressNothing;
 }
+
+}  // namespace
 
 intptr_t LBHandleMouseDown(const LBView& view, Point where, bool doubleClick) {
   if (!view.Reacts()) return kPressNothing;

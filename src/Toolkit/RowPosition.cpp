@@ -8,7 +8,7 @@
 namespace {
 
 // By the values of the bytes.
-bool LessNoCase(std::string_view a, std::string_view b) {
+bool _LessNoCase(std::string_view a, std::string_view b) {
   return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
     return static_cast<uint8_t>(AsciiLower(x)) < static_cast<uint8_t>(AsciiLower(y));
   });
@@ -23,7 +23,7 @@ int32_t ResolveRowPosition(int32_t position, const char* text, int32_t count,
   if (position == kRowSorted) {
     const std::string_view wanted = text != nullptr ? text : "";
     int32_t row = 0;
-    while (row < count && !LessNoCase(wanted, textOf(rows, row))) ++row;
+    while (row < count && !_LessNoCase(wanted, textOf(rows, row))) ++row;
     return row;
   }
   return std::clamp(position, 0, count);

@@ -34,13 +34,13 @@ constexpr DLGRegisterRow kItemTypes[] = {
     {29, BXItemProc},  {30, UBItemProc}, {31, DB2ItemProc},
 };
 
-}  // namespace
-
-static void _RegisterHelpBook() {
+void _RegisterHelpBook() {
   const char* startPage = IsSpanish() ? "Quizonne Help:es:Quizonne Gradix:qzmanage.htm"
                                       : "Quizonne Help:en:Quizonne Gradix:qzmanage.htm";
   RegisterLumoHelp(startPage, kHelpContents, "", kNoAlternateTopic, "qzmanage", "", "qzm");
 }
+
+}  // namespace
 
 int _InitLumoLibrary(void* eventTarget) {
   InitAlert(eventTarget, kErrorStrings, kCautionStrings, kInformationStrings);

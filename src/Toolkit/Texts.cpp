@@ -7,14 +7,18 @@
 #include "Toolkit/DLGFocus.h"
 #include "Toolkit/ItemControls.h"
 
+namespace {
+
 // Names the labelled item, whose number is the text's data, after the text.
-static void _NameLabelledItem(DLGRecord* dialog, const DLGItem& text) {
+void _NameLabelledItem(DLGRecord* dialog, const DLGItem& text) {
   const DLGItem* const labelled = DLGFindItem(dialog, static_cast<int32_t>(text.data));
   if (labelled == nullptr) return;
   std::string name = GetControlText(text.control);
   if (name.ends_with(':')) name.pop_back();
   SetControlLabel(labelled->control, name);
 }
+
+}  // namespace
 
 intptr_t STItemProc(DLGRecord* dialog, int32_t item, int32_t message, intptr_t param1, intptr_t param2) {
   DLGItem* const found = DLGFindItem(dialog, item);
@@ -38,8 +42,10 @@ intptr_t STItemProc(DLGRecord* dialog, int32_t item, int32_t message, intptr_t p
   }
 }
 
+namespace {
+
 // Keys that mean something to the dialog rather than to a text of one line.
-static bool _IsDialogKey(DLGKeyPress key) {
+bool _IsDialogKey(DLGKeyPress key) {
   switch (key.character) {
     case kTabChar:
     case kReturnChar:
@@ -53,12 +59,14 @@ static bool _IsDialogKey(DLGKeyPress key) {
   }
 }
 
-static intptr_t _EditKey(const DLGItem& edit, DLGKeyPress key) {
+intptr_t _EditKey(const DLGItem& edit, DLGKeyPress key) {
   if (!ItemReacts(edit) || _IsDialogKey(key)) return kKeyNotUsed;
   const std::string before = GetControlText(edit.control);
   HandleControlKey(edit.control, key.character, key.modifiers);
   return GetControlText(edit.control) != before ? kKeyChanged : kKeyUsed;
 }
+
+}  // namespace
 
 intptr_t ETItemProc(DLGRecord* dialog, int32_t item, int32_t message, intptr_t param1, intptr_t param2) {
   const DLGItem* const found = DLGFindItem(dialog, item);

@@ -16,8 +16,8 @@ void CurrentLocale(int32_t language) {
 }
 
 intptr_t DLGInstance() {
-  static const char s_instance = 0;
-  return reinterpret_cast<intptr_t>(&s_instance);
+  static const char instance = 0;
+  return reinterpret_cast<intptr_t>(&instance);
 }
 
 void WPInitFields() {}

@@ -15,8 +15,8 @@
 #include <functional>
 #include <string>
 
-#include "Host/FilterModule.h"
-#include "Host/Texts.h"
+#include "Host/App/Texts.h"
+#include "Host/Export/FilterModule.h"
 #include "tests/host/fake_filter.h"
 
 inline const QString kFakeFilter = QStringLiteral(FILTERS "/fake_filter.so");
@@ -54,7 +54,7 @@ class HostTest : public testing::Test {
     QSettings().clear();
     host::SetCurrentLanguage(host::Language::kEnglish);
     void* const handle = ::dlopen(FILTERS "/fake_filter.so", RTLD_NOW | RTLD_NOLOAD);
-    m_fake = handle != nullptr ? static_cast<FakeFilter*>(::dlsym(handle, "g_fake")) : nullptr;
+    m_fake = handle != nullptr ? static_cast<FakeFilter*>(::dlsym(handle, "gFake")) : nullptr;
     if (m_fake != nullptr) *m_fake = {};
   }
 

@@ -1,11 +1,11 @@
 #include <QBrush>
 #include <QSignalSpy>
 
-#include "Host/AssignmentPanel.h"
-#include "Host/ClassLoader.h"
-#include "Host/ClassTableModel.h"
-#include "Host/HistogramWidget.h"
-#include "Host/ReadFaultText.h"
+#include "Host/ClassView/AssignmentPanel.h"
+#include "Host/ClassView/ClassLoader.h"
+#include "Host/ClassView/ClassTableModel.h"
+#include "Host/ClassView/HistogramWidget.h"
+#include "Host/ClassView/ReadFaultText.h"
 #include "tests/host/HostFixture.h"
 
 namespace host {

@@ -3,21 +3,21 @@
 #include <QLineEdit>
 #include <cstring>
 
-#include "Host/ExportRun.h"
-#include "Host/FileNames.h"
-#include "Host/SaveChooser.h"
+#include "Host/Export/ExportRun.h"
+#include "Host/Export/FileNames.h"
+#include "Host/Export/SaveChooser.h"
 #include "tests/host/HostFixture.h"
 
 namespace host {
 
 namespace {
 
-QPointer<QDialog> g_dialog;
+QPointer<QDialog> gDialog;
 
 // As the filter does it: a window of its own.
 void ShowDialog() {
-  g_dialog = new QDialog;
-  g_dialog->show();
+  gDialog = new QDialog;
+  gDialog->show();
 }
 
 class FilterModuleTest : public HostTest {};
@@ -84,14 +84,14 @@ class ExportRunTest : public HostTest {
     m_request.assignmentID = -7;
     m_request.classPath = QStringLiteral("/classes/Año.xml");
   }
-  ~ExportRunTest() override { delete g_dialog; }
+  ~ExportRunTest() override { delete gDialog; }
 
   StartResult Start() { return m_run.Start(*m_filter, m_request, &m_window); }
 
   // Presses OK as the filter's dialog does: asks for the file. Gives the path of the buffer of `size` bytes.
   std::string AskForFile(int32_t size = 256) {
     std::string buffer(static_cast<size_t>(size), '#');
-    const int32_t status = m_fake->begin.chooseFile(reinterpret_cast<void*>(g_dialog->winId()), 0,
+    const int32_t status = m_fake->begin.chooseFile(reinterpret_cast<void*>(gDialog->winId()), 0,
                                                     buffer.data(), size, m_fake->begin.chooseFileValue);
     return status == 0 ? std::string(buffer.c_str()) : "status " + std::to_string(status);
   }
@@ -129,7 +129,7 @@ TEST_F(ExportRunTest, TellsTheFilterWhatToExport) {
   EXPECT_STREQ(path, "/classes/Año.xml");
   for (size_t i = 8 + sizeof path; i < sizeof(FSRef); ++i) EXPECT_EQ(bytes[i], 0) << i;
 
-  g_dialog->close();
+  gDialog->close();
   ASSERT_TRUE(WaitForEnd());
   m_request.spanish = false;
   ASSERT_EQ(Start(), StartResult::kStarted);
@@ -138,12 +138,12 @@ TEST_F(ExportRunTest, TellsTheFilterWhatToExport) {
 
 TEST_F(ExportRunTest, OneAtATime) {
   ASSERT_EQ(Start(), StartResult::kStarted);
-  EXPECT_EQ(m_run.Dialog(), g_dialog);
+  EXPECT_EQ(m_run.Dialog(), gDialog);
   EXPECT_EQ(Start(), StartResult::kBusy);
   EXPECT_EQ(m_fake->begins, 1);
   QTest::qWait(50);
   EXPECT_TRUE(m_run.IsRunning());
-  delete g_dialog;
+  delete gDialog;
   ASSERT_TRUE(WaitForEnd());
   EXPECT_FALSE(m_run.IsRunning());
   EXPECT_EQ(m_outcome, RunOutcome::kCanceled);
@@ -171,7 +171,7 @@ TEST_F(ExportRunTest, DialogMayComeLater) {
   QTimer::singleShot(60, &m_window, ShowDialog);
   ASSERT_TRUE(QTest::qWaitFor([this] { return m_run.Dialog() != nullptr; }));
   EXPECT_EQ(m_finished, 0);
-  g_dialog->close();
+  gDialog->close();
   EXPECT_TRUE(WaitForEnd());
 }
 
@@ -199,13 +199,13 @@ TEST_F(ExportRunTest, OutcomeDependsOnTheFile) {
     m_finished = 0;
     ASSERT_EQ(Start(), StartResult::kStarted);
     EXPECT_EQ(AskForFile(), m_choice->toStdString());
-    EXPECT_EQ(m_askedBy, g_dialog);
+    EXPECT_EQ(m_askedBy, gDialog);
     if (test.written) WriteFile(*m_choice, "same");
-    g_dialog->close();
+    gDialog->close();
     ASSERT_TRUE(WaitForEnd());
     EXPECT_EQ(m_outcome, test.outcome) << test.name;
     EXPECT_EQ(m_path, *m_choice);
-    delete g_dialog;
+    delete gDialog;
   }
 }
 

@@ -1,4 +1,4 @@
-// What the fake filter records and how it answers. A test finds it as the symbol "g_fake".
+// What the fake filter records and how it answers. A test finds it as the symbol "gFake".
 #ifndef GRADIX_FAKE_FILTER_H
 #define GRADIX_FAKE_FILTER_H
 

@@ -1,4 +1,4 @@
-#include "Host/MainWindow.h"
+#include "Host/Window/MainWindow.h"
 
 #include <QDialog>
 #include <QLabel>
@@ -11,19 +11,19 @@
 #include <QTableView>
 #include <QToolButton>
 
-#include "Host/RecentFiles.h"
+#include "Host/App/RecentFiles.h"
 #include "tests/host/HostFixture.h"
 
 namespace host {
 
 namespace {
 
-QPointer<QDialog> g_options;
+QPointer<QDialog> gOptions;
 
 void ShowOptions() {
-  g_options = new QDialog;
-  g_options->setAttribute(Qt::WA_DeleteOnClose);
-  g_options->show();
+  gOptions = new QDialog;
+  gOptions->setAttribute(Qt::WA_DeleteOnClose);
+  gOptions->show();
 }
 
 class MainWindowTest : public HostTest {
@@ -88,16 +88,16 @@ TEST_F(MainWindowTest, ExportsTheSelectedAssignmentOnceAtATime) {
   EXPECT_FALSE(m_window.findChild<QToolButton*>(QStringLiteral("exportButton"))->isEnabled());
 
   WhenVisible("saveChooser", [this](QWidget* window) {
-    EXPECT_EQ(window->parentWidget(), g_options);
+    EXPECT_EQ(window->parentWidget(), gOptions);
     window->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(PathOf("out.csv"));
     ClickButton(window, TextID::kSave);
   });
   char path[256] = "";
-  EXPECT_EQ(m_fake->begin.chooseFile(reinterpret_cast<void*>(g_options->winId()), 0, path, sizeof path,
+  EXPECT_EQ(m_fake->begin.chooseFile(reinterpret_cast<void*>(gOptions->winId()), 0, path, sizeof path,
                                      m_fake->begin.chooseFileValue),
             0);
   WriteFile(QFile::decodeName(path), "Name,Points\nJos\x8E,5\n");
-  g_options->close();
+  gOptions->close();
   ASSERT_TRUE(QTest::qWaitFor([] { return FindWindow("resultWindow") != nullptr; }));
   QWidget* const result = FindWindow("resultWindow");
   EXPECT_EQ(result->findChild<QTableView*>()->model()->index(0, 0).data().toString(), QStringLiteral("José"));
@@ -119,11 +119,11 @@ TEST_F(MainWindowTest, TellsThatAnExportFailed) {
 TEST_F(MainWindowTest, QuittingClosesTheDialogFirst) {
   ASSERT_TRUE(OpenSample());
   Format(0)->trigger();
-  ASSERT_NE(g_options, nullptr);
+  ASSERT_NE(gOptions, nullptr);
   m_window.close();
   EXPECT_TRUE(m_window.isVisible());
   EXPECT_TRUE(QTest::qWaitFor([this] { return !m_window.isVisible(); }));
-  EXPECT_EQ(g_options, nullptr);
+  EXPECT_EQ(gOptions, nullptr);
 }
 
 TEST_F(MainWindowTest, SpeaksSpanish) {
@@ -144,7 +144,7 @@ TEST_F(MainWindowTest, SpeaksSpanish) {
     for (const QWidget* widget : m_window.findChildren<QWidget*>())
       EXPECT_NE(widget->accessibleName(), english);
   }
-  delete g_options;
+  delete gOptions;
 }
 
 TEST_F(MainWindowTest, TakesADroppedFile) {

@@ -1,4 +1,4 @@
-#include "Host/Statistics.h"
+#include "Host/ClassView/Statistics.h"
 
 #include <gtest/gtest.h>
 

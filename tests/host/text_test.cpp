@@ -1,10 +1,10 @@
 #include <QDir>
 #include <QRegularExpression>
 
-#include "Host/CsvTableModel.h"
-#include "Host/FileNames.h"
-#include "Host/RecentFiles.h"
-#include "Host/RomanText.h"
+#include "Host/App/RecentFiles.h"
+#include "Host/ClassView/RomanText.h"
+#include "Host/Export/FileNames.h"
+#include "Host/Result/CsvTableModel.h"
 #include "tests/host/HostFixture.h"
 
 namespace host {

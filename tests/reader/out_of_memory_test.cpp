@@ -16,11 +16,11 @@
 namespace {
 
 constexpr long kNever = -1;
-long g_allocationsLeft = kNever;  // until the one that fails
+long gAllocationsLeft = kNever;  // until the one that fails
 
 bool Fails() {
-  if (g_allocationsLeft == kNever) return false;
-  return g_allocationsLeft == 0 || --g_allocationsLeft == 0;
+  if (gAllocationsLeft == kNever) return false;
+  return gAllocationsLeft == 0 || --gAllocationsLeft == 0;
 }
 
 }  // namespace
@@ -61,9 +61,9 @@ TEST(OutOfMemory, EveryAllocationMayFail) {
     std::istringstream stream(document);
     qz::ClassRecord record;
     QZClassParseError error;
-    g_allocationsLeft = failing;
+    gAllocationsLeft = failing;
     parsed = QZClassParse(&record, stream, &error);
-    g_allocationsLeft = kNever;
+    gAllocationsLeft = kNever;
     ASSERT_EQ(error.reason == nullptr, parsed) << failing;
     if (!parsed) {
       ASSERT_STREQ(error.reason, "out of memory") << failing;

@@ -136,14 +136,14 @@ TEST(XmlTree, FindsAttributesByExactName) {
   EXPECT_EQ(XmlTreeGetAttributeInt(root.get(), "missing"), 0);
 }
 
-std::string g_destroyed;
+std::string gDestroyed;
 void Destroy(void* data) {
-  g_destroyed += *static_cast<const char*>(data);
+  gDestroyed += *static_cast<const char*>(data);
 }
 
 TEST(XmlTree, UserDataIsDestroyedOnceUnlessTakenOut) {
   char data[] = "abc";
-  g_destroyed.clear();
+  gDestroyed.clear();
   Tree root = NewRoot();
   _XmlTreeTag* child = XmlTreeNewNode(root.get(), 2, 1, 1);
   ASSERT_TRUE(XmlTreeAddUserData(child, &data[0], Destroy));
@@ -156,7 +156,7 @@ TEST(XmlTree, UserDataIsDestroyedOnceUnlessTakenOut) {
   EXPECT_EQ(XmlTreeGetUserData(child, 1, true), nullptr);
   ASSERT_TRUE(XmlTreeAddUserData(child, &data[0], Destroy));
   root.reset();
-  EXPECT_EQ(g_destroyed, "ca") << "items are released last first";
+  EXPECT_EQ(gDestroyed, "ca") << "items are released last first";
 }
 
 TEST(XmlTree, AnyDepthCanBeFreed) {

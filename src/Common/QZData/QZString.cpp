@@ -13,13 +13,13 @@ namespace qz {
 
 namespace {
 
-size_t Offset(int32_t position, size_t length) {
+size_t _Offset(int32_t position, size_t length) {
   return std::min(static_cast<size_t>(std::max(position, 0)), length);
 }
 
 // Makes room for, or closes, a gap: moves the tail of `text` that begins at `from`, terminator included, to
 // `to`.
-void MoveTail(char* text, size_t to, size_t from, size_t length) {
+void _MoveTail(char* text, size_t to, size_t from, size_t length) {
   std::memmove(text + to, text + from, length - from + 1);
 }
 
@@ -30,7 +30,7 @@ struct Escape {
 
 // Replaces the two characters from the last to the first while the text stays within `limit`, then by spaces.
 // Both escaped forms must have the same length.
-char* EscapeFromEnd(char* text, const Escape (&escapes)[2], int64_t limit) {
+char* _EscapeFromEnd(char* text, const Escape (&escapes)[2], int64_t limit) {
   if (text == nullptr) return text;
   const auto find = [&escapes](char character) -> const Escape* {
     for (const Escape& escape : escapes) {
@@ -68,16 +68,16 @@ char* EscapeFromEnd(char* text, const Escape (&escapes)[2], int64_t limit) {
 char* lstrdel(char* text, int32_t position, int32_t count) {
   if (text == nullptr || count < 1) return text;
   const size_t length = std::strlen(text);
-  const size_t begin = Offset(position, length);
-  MoveTail(text, begin, begin + std::min(static_cast<size_t>(count), length - begin), length);
+  const size_t begin = _Offset(position, length);
+  _MoveTail(text, begin, begin + std::min(static_cast<size_t>(count), length - begin), length);
   return text;
 }
 
 char* lstrins(char* text, int32_t position, int32_t count, char fill) {
   if (text == nullptr || count < 1) return text;
   const size_t length = std::strlen(text);
-  const size_t begin = Offset(position, length);
-  MoveTail(text, begin + static_cast<size_t>(count), begin, length);
+  const size_t begin = _Offset(position, length);
+  _MoveTail(text, begin + static_cast<size_t>(count), begin, length);
   std::memset(text + begin, fill, static_cast<size_t>(count));
   return text;
 }
@@ -89,21 +89,21 @@ char* StripSpaces(char* text, bool leading, bool trailing) {
     while (length > 0 && text[length - 1] == ' ') --length;
     text[length] = '\0';
   }
-  if (leading && *text == ' ') MoveTail(text, 0, std::strspn(text, " "), length);
+  if (leading && *text == ' ') _MoveTail(text, 0, std::strspn(text, " "), length);
   return text;
 }
 
 // The three limits differ by one character, and users' texts are cut accordingly: they stay as they are.
 char* FixScriptQuotes(char* text, int32_t greatestLength) {
-  return EscapeFromEnd(text, {{'\'', "\\'"}, {'\\', "\\\\"}}, greatestLength);
+  return _EscapeFromEnd(text, {{'\'', "\\'"}, {'\\', "\\\\"}}, greatestLength);
 }
 
 char* FixFormQuotes(char* text, int32_t greatestLength) {
-  return EscapeFromEnd(text, {{'"', "&#34;"}, {'\'', "&#39;"}}, int64_t{greatestLength} - 1);
+  return _EscapeFromEnd(text, {{'"', "&#34;"}, {'\'', "&#39;"}}, int64_t{greatestLength} - 1);
 }
 
 char* FixPHP(char* text, int32_t greatestLength) {
-  return EscapeFromEnd(text, {{'<', "\\x3c"}, {'>', "\\x3e"}}, greatestLength);
+  return _EscapeFromEnd(text, {{'<', "\\x3c"}, {'>', "\\x3e"}}, greatestLength);
 }
 
 void ReplaceString(char* text, const char* find, const char* replacement, int32_t greatestLength, bool all) {
@@ -117,7 +117,7 @@ void ReplaceString(char* text, const char* find, const char* replacement, int32_
     const size_t begin = static_cast<size_t>(found - text);
     const size_t kept = length - findLength;
     const size_t inserted = std::min(replacementLength, greatest > kept ? greatest - kept : 0);
-    MoveTail(text, begin + inserted, begin + findLength, length);
+    _MoveTail(text, begin + inserted, begin + findLength, length);
     std::memcpy(found, replacement, inserted);
     length = kept + inserted;
     found = all ? std::strstr(found + inserted, find) : nullptr;

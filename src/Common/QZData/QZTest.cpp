@@ -14,12 +14,12 @@ namespace qz {
 namespace {
 
 // Wraps, as 32-bit sums do.
-int32_t Add(int32_t a, int32_t b) {
+int32_t _Add(int32_t a, int32_t b) {
   return static_cast<int32_t>(static_cast<uint32_t>(a) + static_cast<uint32_t>(b));
 }
 
 template <typename Record>
-int32_t FindByName(const std::vector<Record>& records, std::string_view name) {
+int32_t _FindByName(const std::vector<Record>& records, std::string_view name) {
   if (name.empty()) return -1;
   const auto found = std::find_if(records.begin(), records.end(), [name](const Record& record) {
     return AsciiEqualNoCase(record.name, name);
@@ -28,11 +28,11 @@ int32_t FindByName(const std::vector<Record>& records, std::string_view name) {
 }
 
 template <typename Record>
-const Record* At(const std::vector<Record>& records, int32_t index) {
+const Record* _At(const std::vector<Record>& records, int32_t index) {
   return index < 0 ? nullptr : &records[static_cast<size_t>(index)];
 }
 
-char* Append(char* end, std::string_view text) {
+char* _Append(char* end, std::string_view text) {
   end += text.copy(end, text.size());
   *end = '\0';
   return end;
@@ -56,7 +56,7 @@ char* Test::GetMCItemFeedback(const TestQuestion& question, char letter, char* b
   const char* const found = StringSearch(question.feedback.c_str(), marker);
   if (found == nullptr) return buffer;
   const std::string_view text = found + std::strlen(marker);
-  Append(buffer, text.substr(0, kMaxFeedback));
+  _Append(buffer, text.substr(0, kMaxFeedback));
   ++marker[1];
   if (char* const next = StringSearch(buffer, marker)) *next = '\0';
   return buffer;
@@ -72,7 +72,7 @@ int32_t Test::NumberAfter(size_t count, std::optional<int32_t> type) const {
   for (size_t i = 0; i < count; ++i) {
     if (questions[i].type == type) {
       seen = true;
-      number = Add(number, 1);
+      number = _Add(number, 1);
     } else if (!seen) {
       number = 1;
     }
@@ -82,14 +82,14 @@ int32_t Test::NumberAfter(size_t count, std::optional<int32_t> type) const {
 
 int32_t Test::GetQuestionNumber(int32_t index) const {
   if (index < 0) return startNumber;
-  if ((numbering & kNumberContinuously) != 0) return Add(startNumber, index);
+  if ((numbering & kNumberContinuously) != 0) return _Add(startNumber, index);
   const size_t wanted = static_cast<size_t>(index);
   if (wanted >= questions.size()) return NumberAfter(questions.size(), std::nullopt);
   return NumberAfter(wanted, questions[wanted].type);
 }
 
 int32_t Test::GetNewQuestionNumber(int32_t type) const {
-  if ((numbering & kNumberContinuously) != 0) return Add(startNumber, GetQuestionCount());
+  if ((numbering & kNumberContinuously) != 0) return _Add(startNumber, GetQuestionCount());
   return NumberAfter(questions.size(), type);
 }
 
@@ -99,46 +99,46 @@ bool Test::HasQuestionType(int32_t type) const {
 }
 
 int32_t Test::FindMatchingGroupIndex(std::string_view name) const {
-  return FindByName(matchingGroups, name);
+  return _FindByName(matchingGroups, name);
 }
 
 const MatchingGroupRecord* Test::FindMatchingGroupPtr(std::string_view name) const {
-  return At(matchingGroups, FindMatchingGroupIndex(name));
+  return _At(matchingGroups, FindMatchingGroupIndex(name));
 }
 
 int32_t Test::FindNarrativeIndex(std::string_view name) const {
-  return FindByName(narratives, name);
+  return _FindByName(narratives, name);
 }
 
 const NarrativeRecord* Test::FindNarrativePtr(std::string_view name) const {
-  return At(narratives, FindNarrativeIndex(name));
+  return _At(narratives, FindNarrativeIndex(name));
 }
 
 char* Test::BuildCSSFromDefaultFont(char* buffer, const DefaultFont& font, bool mapSize) const {
   const int32_t size = mapSize ? MapFontSize(font.size) : font.size;
   char part[32];  // room for the longest size and the colour
   std::snprintf(part, sizeof part, "font-size:%dpt;", size);
-  char* end = Append(buffer, part);
-  if ((font.style & kFontBold) != 0) end = Append(end, " font-weight:bold;");
-  if ((font.style & kFontItalic) != 0) end = Append(end, " font-style:italic;");
-  if ((font.style & kFontUnderline) != 0) end = Append(end, " text-decoration:underline;");
+  char* end = _Append(buffer, part);
+  if ((font.style & kFontBold) != 0) end = _Append(end, " font-weight:bold;");
+  if ((font.style & kFontItalic) != 0) end = _Append(end, " font-style:italic;");
+  if ((font.style & kFontUnderline) != 0) end = _Append(end, " text-decoration:underline;");
   const auto found = std::find_if(fonts.begin(), fonts.end(),
                                   [&font](const FontRecord& record) { return record.id == font.fontID; });
   if (found != fonts.end()) {
-    end = Append(end, " font-family:\"");
-    end = Append(end, found->name.c_str());
-    end = Append(end, "\";");
+    end = _Append(end, " font-family:\"");
+    end = _Append(end, found->name.c_str());
+    end = _Append(end, "\";");
   }
   std::snprintf(part, sizeof part, " color:#%02X%02X%02X;", font.colour & 0xFF, (font.colour >> 8) & 0xFF,
                 (font.colour >> 16) & 0xFF);
-  Append(end, part);
+  _Append(end, part);
   return buffer;
 }
 
 char* Test::MakePrefixedFilename(char* buffer, std::string_view name) const {
-  char* end = Append(buffer, filenamePrefix);
-  if (!filenamePrefix.empty() && filenamePrefix.back() != '_' && !name.empty()) end = Append(end, "_");
-  Append(end, name);
+  char* end = _Append(buffer, filenamePrefix);
+  if (!filenamePrefix.empty() && filenamePrefix.back() != '_' && !name.empty()) end = _Append(end, "_");
+  _Append(end, name);
   return buffer;
 }
 

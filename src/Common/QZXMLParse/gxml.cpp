@@ -7,140 +7,140 @@ using List = _XmlElementListTag;
 
 namespace {
 
-constexpr List Text(int32_t id, const char* name) {
+constexpr List _Text(int32_t id, const char* name) {
   return {id, name, nullptr, true, false, 0};
 }
-constexpr List Container(int32_t id, const char* name, List* children) {
+constexpr List _Container(int32_t id, const char* name, List* children) {
   return {id, name, children, false, false, 0};
 }
-constexpr List End() {
+constexpr List _End() {
   return {-1, nullptr, nullptr, false, false, 0};
 }
 
 // Innermost lists first: a list has to exist before the entry that points to it.
 
 List _gResponseElement[] = {
-    Text(kElementText, "text"),
-    Text(kElementPointsEarned, "points-earned"),
-    End(),
+    _Text(kElementText, "text"),
+    _Text(kElementPointsEarned, "points-earned"),
+    _End(),
 };
 
 List _gResponseListElement[] = {
-    Container(kElementResponse, "response", _gResponseElement),
-    End(),
+    _Container(kElementResponse, "response", _gResponseElement),
+    _End(),
 };
 
 List _gResultsElement[] = {
-    Text(kElementNumAttempts, "num-attempts"),
-    Text(kElementStartDate, "start-date"),
-    Text(kElementEndDate, "end-date"),
-    Container(kElementResponseList, "response-list", _gResponseListElement),
-    End(),
+    _Text(kElementNumAttempts, "num-attempts"),
+    _Text(kElementStartDate, "start-date"),
+    _Text(kElementEndDate, "end-date"),
+    _Container(kElementResponseList, "response-list", _gResponseListElement),
+    _End(),
 };
 
 List _gResultsListElement[] = {
-    Container(kElementResults, "results", _gResultsElement),
-    End(),
+    _Container(kElementResults, "results", _gResultsElement),
+    _End(),
 };
 
 List _gQuestionElement[] = {
-    Text(kElementNumChoices, "num-choices"),
-    Text(kElementAnswer, "answer"),
-    Text(kElementReference, "reference"),
-    Text(kElementLearningObjective, "learning-objective"),
-    Text(kElementNationalStandard, "national-standard"),
-    Text(kElementLocalStandard, "local-standard"),
-    Text(kElementStateStandard, "state-standard"),
-    Text(kElementQuestionPoints, "points-possible"),
-    Text(kElementResponseGrid, "response-grid"),
-    End(),
+    _Text(kElementNumChoices, "num-choices"),
+    _Text(kElementAnswer, "answer"),
+    _Text(kElementReference, "reference"),
+    _Text(kElementLearningObjective, "learning-objective"),
+    _Text(kElementNationalStandard, "national-standard"),
+    _Text(kElementLocalStandard, "local-standard"),
+    _Text(kElementStateStandard, "state-standard"),
+    _Text(kElementQuestionPoints, "points-possible"),
+    _Text(kElementResponseGrid, "response-grid"),
+    _End(),
 };
 
 List _gQuestionListElement[] = {
-    Container(kElementQuestion, "question", _gQuestionElement),
-    End(),
+    _Container(kElementQuestion, "question", _gQuestionElement),
+    _End(),
 };
 
 List _gAssignmentElement[] = {
-    Text(kElementAssignmentName, "assignment-name"),
-    Text(kElementAssignmentID, "assignment-id"),
-    Text(kElementCategory, "category"),
-    Text(kElementOnlineID, "online-id"),
-    Text(kElementTerm, "term"),
-    Text(kElementAssignmentDate, "assignment-date"),
-    Text(kElementDeliveryMethod, "delivery-method"),
-    Text(kElementTestFile, "test-file"),
-    Text(kElementAssignmentPoints, "points-possible"),
-    Container(kElementQuestionList, "question-list", _gQuestionListElement),
-    Container(kElementResultsList, "results-list", _gResultsListElement),
-    End(),
+    _Text(kElementAssignmentName, "assignment-name"),
+    _Text(kElementAssignmentID, "assignment-id"),
+    _Text(kElementCategory, "category"),
+    _Text(kElementOnlineID, "online-id"),
+    _Text(kElementTerm, "term"),
+    _Text(kElementAssignmentDate, "assignment-date"),
+    _Text(kElementDeliveryMethod, "delivery-method"),
+    _Text(kElementTestFile, "test-file"),
+    _Text(kElementAssignmentPoints, "points-possible"),
+    _Container(kElementQuestionList, "question-list", _gQuestionListElement),
+    _Container(kElementResultsList, "results-list", _gResultsListElement),
+    _End(),
 };
 
 List _gAssignmentListElement[] = {
-    Container(kElementAssignment, "assignment", _gAssignmentElement),
-    End(),
+    _Container(kElementAssignment, "assignment", _gAssignmentElement),
+    _End(),
 };
 
 List _gStudentElement[] = {
-    Text(kElementFirstName, "first-name"),
-    Text(kElementLastName, "last-name"),
-    Text(kElementStudentID, "student-id"),
-    Text(kElementAlias, "alias"),
-    Text(kElementPassword, "password"),
-    Text(kElementGender, "gender"),
-    Text(kElementDateOfBirth, "date-of-birth"),
-    Text(kElementGradeLevel, "grade-level"),
-    Text(kElementSociological, "sociological"),
-    Text(kElementRace, "race"),
-    Text(kElementOther, "other"),
-    Text(kElementCustom1, "custom-1"),
-    Text(kElementCustom2, "custom-2"),
-    Text(kElementCustom3, "custom-3"),
-    Text(kElementPadID, "pad-id"),
-    End(),
+    _Text(kElementFirstName, "first-name"),
+    _Text(kElementLastName, "last-name"),
+    _Text(kElementStudentID, "student-id"),
+    _Text(kElementAlias, "alias"),
+    _Text(kElementPassword, "password"),
+    _Text(kElementGender, "gender"),
+    _Text(kElementDateOfBirth, "date-of-birth"),
+    _Text(kElementGradeLevel, "grade-level"),
+    _Text(kElementSociological, "sociological"),
+    _Text(kElementRace, "race"),
+    _Text(kElementOther, "other"),
+    _Text(kElementCustom1, "custom-1"),
+    _Text(kElementCustom2, "custom-2"),
+    _Text(kElementCustom3, "custom-3"),
+    _Text(kElementPadID, "pad-id"),
+    _End(),
 };
 
 // student is the one container that keeps its character data.
 List _gStudentListElement[] = {
     {kElementStudent, "student", _gStudentElement, true, false, 0},
-    End(),
+    _End(),
 };
 
 List _gPreferencesElement[] = {
-    Text(kElementStudentSort, "student-sort"),
-    Text(kElementAssignmentSort, "assignment-sort"),
-    Text(kElementDisplayScore, "display-score"),
-    Text(kElementShowTerm, "show-term"),
-    Text(kElementShowNCLB, "show-nclb"),
-    Text(kElementDefaultTerm, "default-term"),
-    Text(kElementDefaultGradeLevel, "default-grade-level"),
-    Text(kElementCategoryName, "category-name"),
-    Text(kElementLabel1, "custom-1"),
-    Text(kElementLabel2, "custom-2"),
-    Text(kElementLabel3, "custom-3"),
-    End(),
+    _Text(kElementStudentSort, "student-sort"),
+    _Text(kElementAssignmentSort, "assignment-sort"),
+    _Text(kElementDisplayScore, "display-score"),
+    _Text(kElementShowTerm, "show-term"),
+    _Text(kElementShowNCLB, "show-nclb"),
+    _Text(kElementDefaultTerm, "default-term"),
+    _Text(kElementDefaultGradeLevel, "default-grade-level"),
+    _Text(kElementCategoryName, "category-name"),
+    _Text(kElementLabel1, "custom-1"),
+    _Text(kElementLabel2, "custom-2"),
+    _Text(kElementLabel3, "custom-3"),
+    _End(),
 };
 
 List _gClassElement[] = {
-    Text(kElementClassName, "class-name"),
-    Text(kElementClassID, "class-id"),
-    Text(kElementPeriod, "period"),
-    Text(kElementSection, "section"),
-    Text(kElementInstructorName, "instructor-name"),
-    Text(kElementInstructorID, "instructor-id"),
-    Text(kElementSchoolName, "school-name"),
-    Text(kElementSchoolID, "school-id"),
-    Text(kElementCity, "city"),
-    Text(kElementState, "state"),
-    Container(kElementPreferences, "preferences", _gPreferencesElement),
-    Container(kElementStudentList, "student-list", _gStudentListElement),
-    Container(kElementAssignmentList, "assignment-list", _gAssignmentListElement),
-    End(),
+    _Text(kElementClassName, "class-name"),
+    _Text(kElementClassID, "class-id"),
+    _Text(kElementPeriod, "period"),
+    _Text(kElementSection, "section"),
+    _Text(kElementInstructorName, "instructor-name"),
+    _Text(kElementInstructorID, "instructor-id"),
+    _Text(kElementSchoolName, "school-name"),
+    _Text(kElementSchoolID, "school-id"),
+    _Text(kElementCity, "city"),
+    _Text(kElementState, "state"),
+    _Container(kElementPreferences, "preferences", _gPreferencesElement),
+    _Container(kElementStudentList, "student-list", _gStudentListElement),
+    _Container(kElementAssignmentList, "assignment-list", _gAssignmentListElement),
+    _End(),
 };
 
 List _gRootElement[] = {
-    Container(kElementClass, "class", _gClassElement),
-    End(),
+    _Container(kElementClass, "class", _gClassElement),
+    _End(),
 };
 
 // The first enabled entry of `list` that `matches`, or null.

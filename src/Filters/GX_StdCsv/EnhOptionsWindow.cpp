@@ -67,15 +67,13 @@ bool s_bExportAnswerKey = false;
 bool s_bExportPointsEarned = false;
 bool s_bExportPointsPossible = false;
 
-}  // namespace
-
-static bool _UseSession(const DLGRecord* dialog) {
+bool _UseSession(const DLGRecord* dialog) {
   m_pSession = SessionOfDialog(dialog);
   m_pntClass = m_pSession == nullptr ? nullptr : m_pSession->GetClass();
   return m_pSession != nullptr;
 }
 
-static void _ResetChoices() {
+void _ResetChoices() {
   s_bExportAnswerKey = false;
   s_bExportResponses = true;
   s_bExportPointsEarned = false;
@@ -84,19 +82,19 @@ static void _ResetChoices() {
 }
 
 // Enables a box with its choice, or disables and unchecks it; the choice stays.
-static void _SetBox(DLGRecord* dialog, int32_t item, bool enabled, bool choice) {
+void _SetBox(DLGRecord* dialog, int32_t item, bool enabled, bool choice) {
   CKSetCheck(dialog, item, enabled && choice ? 1 : 0, 0, false);
   EnableDLGItem(dialog, item, enabled);
 }
 
-static void _EnableBoxes(DLGRecord* dialog) {
+void _EnableBoxes(DLGRecord* dialog) {
   EnableDLGItem(dialog, kAsterisks, true);
   EnableDLGItem(dialog, kAnswerKey, true);
   EnableDLGItem(dialog, kPointsPossible, true);
 }
 
 // The boxes follow the question columns.
-static void OnExportedResults(DLGRecord* dialog) {
+void OnExportedResults(DLGRecord* dialog) {
   switch (CBGetSelect(dialog, kColumns)) {
     case kResponsesOnly:
       _SetBox(dialog, kAsterisks, true, s_bWriteAsterisks);
@@ -112,14 +110,14 @@ static void OnExportedResults(DLGRecord* dialog) {
   }
 }
 
-static void _SetSpanishLabels(DLGRecord* dialog) {
+void _SetSpanishLabels(DLGRecord* dialog) {
   SetText(dialog, kAssignmentLabel, QZLoadString(70342).c_str(), true);
   SetText(dialog, kAnswerKey, QZLoadString(70500).c_str(), true);
   SetText(dialog, kPointsPossible, QZLoadString(70345).c_str(), true);
   SetText(dialog, kFieldsLabel, QZLoadString(70347).c_str(), true);
 }
 
-static void _FillAssignmentPopup(DLGRecord* dialog) {
+void _FillAssignmentPopup(DLGRecord* dialog) {
   int32_t selected = 0;
   int32_t row = 0;
   for (const qz::AssignmentRecord& assignment : m_pntClass->assignments) {
@@ -130,7 +128,7 @@ static void _FillAssignmentPopup(DLGRecord* dialog) {
   CBSetSelect(dialog, kAssignment, selected);
 }
 
-static void _FillColumnsPopup(DLGRecord* dialog) {
+void _FillColumnsPopup(DLGRecord* dialog) {
   static constexpr const char* kEnglish[] = {"Question Responses", "Points Earned", "Responses and Points"};
   static constexpr const char* kSpanish[] = {"pregunta Respuestas", "Puntos ganados", "Respuesta y Puntos"};
   for (const char* text : IsSpanish() ? kSpanish : kEnglish) CBInsertItem(dialog, kColumns, text, kRowLast);
@@ -140,7 +138,7 @@ static void _FillColumnsPopup(DLGRecord* dialog) {
   CBSetSelect(dialog, kColumns, row);
 }
 
-static void _FillFields(DLGRecord* dialog) {
+void _FillFields(DLGRecord* dialog) {
   LBSetTabs(dialog, kFields, 1, &kTab);
   for (const Field& field : kOptionalFields) {
     const std::string text = IsSpanish() ? QZLoadString(field.spanishID) : std::string(field.name);
@@ -152,7 +150,7 @@ static void _FillFields(DLGRecord* dialog) {
   LBSelectItem(dialog, kFields, 0, true);
 }
 
-static void _FillEnhMainOptions(DLGRecord* dialog) {
+void _FillEnhMainOptions(DLGRecord* dialog) {
   if (IsSpanish()) _SetSpanishLabels(dialog);
   SetExportTitle(dialog, *m_pSession);  // from here on the language is English
   _FillAssignmentPopup(dialog);
@@ -164,7 +162,7 @@ static void _FillEnhMainOptions(DLGRecord* dialog) {
   _FillFields(dialog);
 }
 
-static uint32_t _CheckedFields(DLGRecord* dialog) {
+uint32_t _CheckedFields(DLGRecord* dialog) {
   uint32_t fields = kAlwaysExported;
   int32_t row = 0;
   for (const Field& field : kOptionalFields) {
@@ -176,7 +174,7 @@ static uint32_t _CheckedFields(DLGRecord* dialog) {
   return fields;
 }
 
-static void _StoreAssignment(DLGRecord* dialog) {
+void _StoreAssignment(DLGRecord* dialog) {
   const int32_t row = CBGetSelect(dialog, kAssignment);
   if (row < 0) return;
   for (size_t i = 0; i < m_pntClass->assignments.size(); ++i) {
@@ -184,7 +182,7 @@ static void _StoreAssignment(DLGRecord* dialog) {
   }
 }
 
-static void _StoreSwitches(DLGRecord* dialog) {
+void _StoreSwitches(DLGRecord* dialog) {
   const int32_t columns = CBGetSelect(dialog, kColumns);
   s_bExportResponses = columns != kPointsOnly;
   s_bExportPointsEarned = columns != kResponsesOnly;
@@ -198,7 +196,7 @@ static void _StoreSwitches(DLGRecord* dialog) {
   m_pntClass->options[qz::kReportAsterisks] = s_bWriteAsterisks;
 }
 
-static void OK(DLGRecord* dialog) {
+void OK(DLGRecord* dialog) {
   std::string path;
   if (!ChooseOutputFile(dialog, &path) || !_UseSession(dialog)) return;
   m_pntClass->exportPath = path;
@@ -209,19 +207,19 @@ static void OK(DLGRecord* dialog) {
   ExportAndClose(dialog, kSavedMessage);
 }
 
-static void Cancel(DLGRecord* dialog) {
+void Cancel(DLGRecord* dialog) {
   MyCloseDialog(dialog);
 }
 
-static void SelectAll(DLGRecord* dialog) {
+void SelectAll(DLGRecord* dialog) {
   CheckAllRows(dialog, kFields, true);
 }
 
-static void ClearAll(DLGRecord* dialog) {
+void ClearAll(DLGRecord* dialog) {
   CheckAllRows(dialog, kFields, false);
 }
 
-static intptr_t _DoEnhOptions(DLGRecord* dialog, int32_t item) {
+intptr_t _DoEnhOptions(DLGRecord* dialog, int32_t item) {
   if (!_UseSession(dialog) && item != kCancel) return 0;
   switch (item) {
     case kColumns: OnExportedResults(dialog); break;
@@ -237,6 +235,8 @@ static intptr_t _DoEnhOptions(DLGRecord* dialog, int32_t item) {
   }
   return 0;
 }
+
+}  // namespace
 
 bool DisplayEnhOptionsDialog(void* hostWindow, Session* session, qz::ClassRecord* record) {
   m_pSession = session;

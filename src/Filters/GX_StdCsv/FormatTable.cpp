@@ -20,7 +20,7 @@ using qz::kUserIDCustom1;
 using qz::kUserIDStudentID;
 
 template <typename FormatSession>
-std::unique_ptr<Session> Make(const QZEXPORTBEGIN* begin) {
+std::unique_ptr<Session> _Make(const QZEXPORTBEGIN* begin) {
   return std::make_unique<FormatSession>(begin);
 }
 
@@ -28,27 +28,27 @@ std::unique_ptr<Session> Make(const QZEXPORTBEGIN* begin) {
 // clang-format off
 constexpr FormatRow kFormats[] = {
     {0, "webct", "Assignment Results for WebCT Vista", 70442,
-     "WebCT User ID", kUserIDAlias, false, Make<SessionWebCT>},
+     "WebCT User ID", kUserIDAlias, false, _Make<SessionWebCT>},
     {1, "blackboard6", "Assignment Results for Blackboard 6.0 - 7.0", 70443,
-     "Blackboard User Name", kUserIDAlias, false, Make<SessionBlackboard>},
+     "Blackboard User Name", kUserIDAlias, false, _Make<SessionBlackboard>},
     {2, "angel", "Assignment Results for ANGEL", 70445,
-     "ANGEL User ID", kUserIDAlias, false, Make<SessionANGEL>},
+     "ANGEL User ID", kUserIDAlias, false, _Make<SessionANGEL>},
     {kDetailedResultsFormat, "detailed", "Detailed Results as Text", 70446,
-     nullptr, kUserIDAlias, false, Make<SessionEnhancedText>},
+     nullptr, kUserIDAlias, false, _Make<SessionEnhancedText>},
     {4, "blackboard8", "Assignment Results for Blackboard 8.0 - 9.0", 70444,
-     "Blackboard User Name", kUserIDAlias, true, Make<SessionBlackboard9>},
+     "Blackboard User Name", kUserIDAlias, true, _Make<SessionBlackboard9>},
     {5, "blackboard91", "Assignment Results for Blackboard Learn 9.1", 70444,
-     "Blackboard Learn 9.1 Username", kUserIDStudentID, true, Make<SessionBlackboard91>},
+     "Blackboard Learn 9.1 Username", kUserIDStudentID, true, _Make<SessionBlackboard91>},
     {6, "canvas", "Assignment Results for Canvas", 0,
-     "Canvas User ID", kUserIDStudentID, false, Make<SessionCanvas>},
+     "Canvas User ID", kUserIDStudentID, false, _Make<SessionCanvas>},
     {7, "d2l", "Assignment Results for Brightspace by D2L", 0,
-     "Brightspace by D2L Username", kUserIDCustom1, false, Make<SessionD2L>},
+     "Brightspace by D2L Username", kUserIDCustom1, false, _Make<SessionD2L>},
     {8, "moodle", "Assignment Results for Moodle 3.1.2", 0,
-     "Moodle Student ID", kUserIDCustom1, false, Make<SessionMoodle>},
+     "Moodle Student ID", kUserIDCustom1, false, _Make<SessionMoodle>},
     {9, "schoology", "Assignment Results for Schoology", 0,
-     "Schoology User ID", kUserIDStudentID, false, Make<SessionSchoology>},
+     "Schoology User ID", kUserIDStudentID, false, _Make<SessionSchoology>},
     {10, "sakai", "Assignment Results for Sakai", 0,
-     "Sakai Student ID", kUserIDStudentID, false, Make<SessionSakai>},
+     "Sakai Student ID", kUserIDStudentID, false, _Make<SessionSakai>},
 };
 // clang-format on
 

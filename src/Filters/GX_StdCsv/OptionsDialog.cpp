@@ -15,13 +15,13 @@ namespace {
 constexpr int16_t kSavedInformation = 3;
 constexpr int32_t kPathSize = 256;
 
-}  // namespace
-
 // The close procedure: the session goes with its dialog.
-static bool _CleanDialog(DLGRecord* dialog) {
+bool _CleanDialog(DLGRecord* dialog) {
   g_sessionMgr.EndSession(static_cast<uint32_t>(dialog->userValue));
   return true;
 }
+
+}  // namespace
 
 Session* SessionOfDialog(const DLGRecord* dialog) {
   return g_sessionMgr.GetSession(static_cast<uint32_t>(dialog->userValue));

@@ -71,12 +71,15 @@ int32_t DefaultUserIDRow(uint32_t formatIndex) {
   return (format == nullptr ? qz::kUserIDAlias : format->defaultUserIDField) - 1;
 }
 
+namespace {
+
 // The string tables are the host's: what they hold is checked while it is filled in.
-static std::string _Format(int spanishID, const char* english,
-                           std::initializer_list<AlertArgument> arguments) {
+std::string _Format(int spanishID, const char* english, std::initializer_list<AlertArgument> arguments) {
   return ExpandAlertText(IsSpanish() ? QZLoadString(spanishID) : std::string(english),
                          {arguments.begin(), arguments.size()});
 }
+
+}  // namespace
 
 std::string SomeEmptyMessage(const OptionsTexts& texts, size_t empty, size_t students) {
   return _Format(

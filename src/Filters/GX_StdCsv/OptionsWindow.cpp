@@ -49,27 +49,25 @@ Session* m_ptSession = nullptr;
 qz::ClassRecord* m_ptClass = nullptr;
 qz::UserIDField s_nUserIDField = qz::kUserIDAlias;  // as the last successful OK had it
 
-}  // namespace
-
 // Takes up the session of the dialog at work. False when it is gone.
-static bool _UseSession(const DLGRecord* dialog) {
+bool _UseSession(const DLGRecord* dialog) {
   m_ptSession = SessionOfDialog(dialog);
   m_ptClass = m_ptSession == nullptr ? nullptr : m_ptSession->GetClass();
   return m_ptSession != nullptr;
 }
 
-static uint32_t _FormatIndex() {
+uint32_t _FormatIndex() {
   return m_ptSession->GetExportInfo().formatIndex;
 }
 
 // The texts of a format that has none.
-static const OptionsTexts& _Texts() {
+const OptionsTexts& _Texts() {
   static constexpr OptionsTexts kNone{"", "", "", kOtherHelpTopic, "", "", 0, 0, 0, false, false};
   const OptionsTexts* texts = FindOptionsTexts(_FormatIndex());
   return texts == nullptr ? kNone : *texts;
 }
 
-static void _SetFormatTexts(DLGRecord* dialog, const OptionsTexts& texts) {
+void _SetFormatTexts(DLGRecord* dialog, const OptionsTexts& texts) {
   if (IsSpanish() && texts.spanishIDName != 0) {
     SetText(dialog, kIDName, QZLoadString(texts.spanishIDName).c_str(), true);
     SetText(dialog, kPrompt, QZLoadString(texts.spanishPrompt).c_str(), false);
@@ -81,7 +79,7 @@ static void _SetFormatTexts(DLGRecord* dialog, const OptionsTexts& texts) {
   SetText(dialog, kPopupLabel, texts.popupLabel, false);
 }
 
-static void _SetUpBlackboardItems(DLGRecord* dialog, const OptionsTexts& texts) {
+void _SetUpBlackboardItems(DLGRecord* dialog, const OptionsTexts& texts) {
   for (int32_t item = kStandardFile; item <= kWithoutQuotes; ++item) {
     EnableDLGItem(dialog, item, texts.hasQuotes);
   }
@@ -90,7 +88,7 @@ static void _SetUpBlackboardItems(DLGRecord* dialog, const OptionsTexts& texts) 
   CKSetCheck(dialog, kWithQuotes, 1, 0, false);  // how a new session writes
 }
 
-static void _FillFieldPopup(DLGRecord* dialog) {
+void _FillFieldPopup(DLGRecord* dialog) {
   static constexpr const char* kEnglish[] = {"First name", "Last name", "Student ID", "Student alias"};
   static constexpr const char* kSpanish[] = {"Nombre", "Apellido", "Id. de estudiante",
                                              "Alias del estudiante"};
@@ -103,7 +101,7 @@ static void _FillFieldPopup(DLGRecord* dialog) {
   CBSetSelect(dialog, kFieldPopup, DefaultUserIDRow(_FormatIndex()));
 }
 
-static void _FillAssignments(DLGRecord* dialog) {
+void _FillAssignments(DLGRecord* dialog) {
   LBSetTabs(dialog, kAssignments, 1, &kDateTab);
   for (qz::AssignmentRecord& assignment : m_ptClass->assignments) {
     // Cuts long names in the record, so the file has them cut, too. Of exactly 30 characters there is nothing
@@ -116,7 +114,7 @@ static void _FillAssignments(DLGRecord* dialog) {
   LBSelectItem(dialog, kAssignments, 0, true);
 }
 
-static void _FillMainOptions(DLGRecord* dialog) {
+void _FillMainOptions(DLGRecord* dialog) {
   if (IsSpanish()) SetText(dialog, kAssignmentsLabel, QZLoadString(kAssignmentsLabelID).c_str(), true);
   SetExportTitle(dialog, *m_ptSession);  // from here on the language is English
   _SetFormatTexts(dialog, _Texts());
@@ -125,21 +123,21 @@ static void _FillMainOptions(DLGRecord* dialog) {
   _FillAssignments(dialog);
 }
 
-static bool _IsAnyChecked(DLGRecord* dialog) {
+bool _IsAnyChecked(DLGRecord* dialog) {
   for (int32_t row = 0; row < LBGetCount(dialog, kAssignments); ++row) {
     if (LBGetCheck(dialog, kAssignments, row) != 0) return true;
   }
   return false;
 }
 
-static qz::UserIDField _ChosenField(DLGRecord* dialog) {
+qz::UserIDField _ChosenField(DLGRecord* dialog) {
   const int32_t row = CBGetSelect(dialog, kFieldPopup);
   constexpr int32_t kLastRow = qz::kUserIDCustom3 - 1;
   return row >= 0 && row <= kLastRow ? static_cast<qz::UserIDField>(row + 1) : s_nUserIDField;
 }
 
 // Warns of students without an identifier. False when the export cannot go on; the dialog may be gone.
-static bool _CheckIdentifiers(DLGRecord* dialog, qz::UserIDField field) {
+bool _CheckIdentifiers(DLGRecord* dialog, qz::UserIDField field) {
   const RosterCheck check = CheckUserIDs(*m_ptClass, field);
   const DLGWatch watch(dialog);
   if (check.SomeEmpty()) {
@@ -151,7 +149,7 @@ static bool _CheckIdentifiers(DLGRecord* dialog, qz::UserIDField field) {
   return watch.IsLive() && !check.HasDuplicates();  // duplicates stop without a word
 }
 
-static void _StoreChoices(DLGRecord* dialog, qz::UserIDField field, const std::string& path) {
+void _StoreChoices(DLGRecord* dialog, qz::UserIDField field, const std::string& path) {
   m_ptClass->exportPath = path;
   for (size_t i = 0; i < m_ptClass->assignments.size(); ++i) {
     m_ptClass->assignments[i].selected = LBGetCheck(dialog, kAssignments, static_cast<int32_t>(i)) == 1;
@@ -160,7 +158,7 @@ static void _StoreChoices(DLGRecord* dialog, qz::UserIDField field, const std::s
   m_ptClass->userIDField = field;
 }
 
-static void OnOK(DLGRecord* dialog) {
+void OnOK(DLGRecord* dialog) {
   if (!_IsAnyChecked(dialog)) {
     InfoAlert(kNothingChecked);
     return;
@@ -173,27 +171,27 @@ static void OnOK(DLGRecord* dialog) {
   ExportAndClose(dialog, kSavedMessage);
 }
 
-static void OnCancel(DLGRecord* dialog) {
+void OnCancel(DLGRecord* dialog) {
   MyCloseDialog(dialog);
 }
 
-static void OnSelectAll(DLGRecord* dialog) {
+void OnSelectAll(DLGRecord* dialog) {
   CheckAllRows(dialog, kAssignments, true);
 }
 
-static void OnClearAll(DLGRecord* dialog) {
+void OnClearAll(DLGRecord* dialog) {
   CheckAllRows(dialog, kAssignments, false);
 }
 
 // Of the three kinds of file the one that was chosen last is marked.
-static void _ChooseFileKind(DLGRecord* dialog, int32_t chosen) {
+void _ChooseFileKind(DLGRecord* dialog, int32_t chosen) {
   m_ptSession->SetUseQuotes(chosen != kWithoutQuotes);
   for (int32_t item = kStandardFile; item <= kWithoutQuotes; ++item) {
     CKSetCheck(dialog, item, item == chosen ? 1 : 0, 0, false);
   }
 }
 
-static intptr_t _DoOptions(DLGRecord* dialog, int32_t item) {
+intptr_t _DoOptions(DLGRecord* dialog, int32_t item) {
   if (!_UseSession(dialog) && item != kCancel) return 0;
   switch (item) {
     case kSelectAll: OnSelectAll(dialog); break;
@@ -212,6 +210,8 @@ static intptr_t _DoOptions(DLGRecord* dialog, int32_t item) {
   }
   return 0;
 }
+
+}  // namespace
 
 bool DisplayOptionsDialog(void* hostWindow, Session* session, qz::ClassRecord* record) {
   m_ptSession = session;

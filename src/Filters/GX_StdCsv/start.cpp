@@ -45,10 +45,14 @@ void _FillFormatInfo(QZEXPORTFORMAT* info, const char* name) {
   info->flags = kFormatFlags;
 }
 
+namespace {
+
 // The Spanish name where there is one and the language asks for it.
-static std::string _FormatName(const FormatRow& format) {
+std::string _FormatName(const FormatRow& format) {
   return IsSpanish() && format.spanishNameID != 0 ? QZLoadString(format.spanishNameID) : format.name;
 }
+
+}  // namespace
 
 uint32_t QZFilter_GetExportFormatInfoA(QZEXPORTFORMAT* info, unsigned long index) {
   try {
@@ -67,19 +71,21 @@ uint32_t QZFilter_GetExportFormatInfoA(QZEXPORTFORMAT* info, unsigned long index
   }
 }
 
+namespace {
+
 // Reads the class file into the record. False when it cannot be opened or is malformed.
-static bool _ReadClassFile(const FSRef* file, qz::ClassRecord* record) {
+bool _ReadClassFile(const FSRef* file, qz::ClassRecord* record) {
   char path[kMaxPath] = "";
   FSRefMakePath(file, path, sizeof path);
   std::ifstream stream(path, std::ios::binary);
   return QZClassParse(record, stream);
 }
 
-static void _SelectAssignment(qz::ClassRecord* record, int32_t id) {
+void _SelectAssignment(qz::ClassRecord* record, int32_t id) {
   for (qz::AssignmentRecord& assignment : record->assignments) assignment.selected = assignment.id == id;
 }
 
-static uint32_t _ExportFile(void* hostWindow, const QZEXPORTFILE* file) {
+uint32_t _ExportFile(void* hostWindow, const QZEXPORTFILE* file) {
   if (!_LoadExtraResourceFile(_ExtraResourceFileName())) return 0;
   Session* session = g_sessionMgr.GetSession(ncontextID);
   // A session whose dialog is open has its class already.
@@ -95,6 +101,8 @@ static uint32_t _ExportFile(void* hostWindow, const QZEXPORTFILE* file) {
   }
   return 1;
 }
+
+}  // namespace
 
 uint32_t QZFilter_ExportFileA(void* hostWindow, unsigned long id, const QZEXPORTFILE* file, void* module) {
   ncontextID = id;

@@ -19,7 +19,9 @@ struct CFBundle final : CFObject {
   mutable std::map<std::string, StringsTable> tables;  // those that were asked for, missing ones empty
 };
 
-static constexpr size_t kTableLimit = size_t{4} << 20;  // bytes
+namespace {
+
+constexpr size_t kTableLimit = size_t{4} << 20;  // bytes
 
 static std::string _MainBundlePath() {
   const char* const environment = std::getenv("GRADIX_BUNDLE");
@@ -32,12 +34,14 @@ static std::string _MainBundlePath() {
 }
 
 // Bundles live as long as the process.
-static CFBundleRef _BundleOf(const std::string& path) {
+CFBundleRef _BundleOf(const std::string& path) {
   static auto* const bundles = new std::map<std::string, const CFBundle*>;
   const auto [entry, isNew] = bundles->try_emplace(path, nullptr);
   if (isNew) entry->second = new CFBundle(path);
   return entry->second;
 }
+
+}  // namespace
 
 CFBundleRef CFBundleGetMainBundle() {
   const std::string path = _MainBundlePath();
@@ -48,8 +52,10 @@ CFURLRef CFBundleCopyBundleURL(CFBundleRef bundle) {
   return bundle == nullptr ? nullptr : CFURLCreateWithFileSystemPath(bundle->path.c_str(), true);
 }
 
+namespace {
+
 // Appends "/" and the name; false for one that is no single path component.
-static bool _AppendComponent(std::string* path, const std::string& name) {
+bool _AppendComponent(std::string* path, const std::string& name) {
   constexpr std::string_view kForbidden("/\0", 2);
   if (name.empty() || name == "." || name == ".." || name.find_first_of(kForbidden) != std::string::npos)
     return false;
@@ -58,8 +64,8 @@ static bool _AppendComponent(std::string* path, const std::string& name) {
 }
 
 // The path of an existing resource.
-static std::optional<std::string> _FindResource(CFBundleRef bundle, const std::string& name,
-                                                const std::string& subfolder) {
+std::optional<std::string> _FindResource(CFBundleRef bundle, const std::string& name,
+                                         const std::string& subfolder) {
   if (bundle == nullptr) return std::nullopt;
   std::string path = bundle->path + "/Resources";
   if (!subfolder.empty() && !_AppendComponent(&path, subfolder)) return std::nullopt;
@@ -69,6 +75,8 @@ static std::optional<std::string> _FindResource(CFBundleRef bundle, const std::s
   return path;
 }
 
+}  // namespace
+
 CFURLRef CFBundleCopyResourceURL(CFBundleRef bundle, CFStringRef name, CFStringRef type,
                                  CFStringRef subfolder) {
   std::string fullName = CFStringGetUTF8(name);
@@ -77,7 +85,9 @@ CFURLRef CFBundleCopyResourceURL(CFBundleRef bundle, CFStringRef name, CFStringR
   return path ? CFURLCreateWithFileSystemPath(path->c_str(), false) : nullptr;
 }
 
-static const StringsTable& _TableOf(const CFBundle& bundle, CFStringRef table) {
+namespace {
+
+const StringsTable& _TableOf(const CFBundle& bundle, CFStringRef table) {
   const std::string name = CFStringGetLength(table) > 0 ? CFStringGetUTF8(table) : "Localizable";
   const auto [entry, isNew] = bundle.tables.try_emplace(name);
   if (!isNew) return entry->second;
@@ -86,6 +96,8 @@ static const StringsTable& _TableOf(const CFBundle& bundle, CFStringRef table) {
   if (bytes) entry->second = ParseStringsBytes(*bytes);
   return entry->second;
 }
+
+}  // namespace
 
 CFStringRef CFBundleCopyLocalizedString(CFBundleRef bundle, CFStringRef key, CFStringRef value,
                                         CFStringRef table) {

@@ -14,16 +14,14 @@ constexpr char32_t kMalformed = 0xFFFFFFFF;
 constexpr uint8_t kAppleLogo = 0xF0;  // the byte that the character map leaves out
 constexpr char16_t kAppleLogoCharacter = 0xF8FF;
 
-}  // namespace
-
-static char16_t _RomanToUnicode(char character) {
+char16_t _RomanToUnicode(char character) {
   const auto code = static_cast<uint8_t>(character);
   if (code == kAppleLogo) return kAppleLogoCharacter;
   const int32_t codePoint = XmlMapToUnicodeChar(code);
   return codePoint == 0 && code != 0 ? char16_t{kReplacement} : static_cast<char16_t>(codePoint);
 }
 
-static std::optional<char> _UnicodeToRoman(char32_t character) {
+std::optional<char> _UnicodeToRoman(char32_t character) {
   if (character == kAppleLogoCharacter) return static_cast<char>(kAppleLogo);
   if (character > 0xFFFF) return std::nullopt;
   const uint8_t code = XmlMapFromUnicodeChar(static_cast<int32_t>(character));
@@ -31,13 +29,13 @@ static std::optional<char> _UnicodeToRoman(char32_t character) {
   return static_cast<char>(code);
 }
 
-static bool _IsSurrogate(char32_t character) {
+bool _IsSurrogate(char32_t character) {
   return character >= 0xD800 && character <= 0xDFFF;
 }
 
 // Takes one character off the front of `text`: shortest form only, no surrogates. A malformed byte is taken
 // alone and gives kMalformed.
-static char32_t _TakeUTF8(std::string_view* text) {
+char32_t _TakeUTF8(std::string_view* text) {
   const auto lead = static_cast<uint8_t>(text->front());
   const size_t length = lead < 0x80   ? 1
                         : lead < 0xC2 ? 0
@@ -59,7 +57,7 @@ static char32_t _TakeUTF8(std::string_view* text) {
 }
 
 // The same for UTF-16, where only a lone surrogate is malformed.
-static char32_t _TakeUTF16(std::u16string_view* text) {
+char32_t _TakeUTF16(std::u16string_view* text) {
   const char32_t unit = text->front();
   text->remove_prefix(1);
   if (!_IsSurrogate(unit)) return unit;
@@ -70,12 +68,12 @@ static char32_t _TakeUTF16(std::u16string_view* text) {
   return 0x10000 + ((unit - 0xD800) << 10) + (low - 0xDC00);
 }
 
-static void _AppendUTF8(std::string* text, char32_t character) {
+void _AppendUTF8(std::string* text, char32_t character) {
   char bytes[4];
   text->append(bytes, static_cast<size_t>(XmlUtf8EncodeChar(bytes, static_cast<int32_t>(character))));
 }
 
-static std::optional<std::u16string> _UTF8ToUTF16(std::string_view text) {
+std::optional<std::u16string> _UTF8ToUTF16(std::string_view text) {
   std::u16string result;
   result.reserve(text.size());
   while (!text.empty()) {
@@ -92,7 +90,7 @@ static std::optional<std::u16string> _UTF8ToUTF16(std::string_view text) {
 }
 
 // The text's bytes in an encoding; nullopt when it lacks one of the characters.
-static std::optional<std::string> _Encode(std::u16string_view text, CFStringEncoding encoding) {
+std::optional<std::string> _Encode(std::u16string_view text, CFStringEncoding encoding) {
   if (encoding != kCFStringEncodingUTF8 && encoding != kCFStringEncodingMacRoman) return std::nullopt;
   std::string bytes;
   while (!text.empty()) {
@@ -108,6 +106,8 @@ static std::optional<std::string> _Encode(std::u16string_view text, CFStringEnco
   }
   return bytes;
 }
+
+}  // namespace
 
 CFStringRef CFStringCreateWithCString(const char* text, CFStringEncoding encoding) {
   if (text == nullptr) return nullptr;

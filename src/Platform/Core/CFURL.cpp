@@ -5,15 +5,17 @@
 #include "Platform/Core/Files.h"
 #include "Platform/Core/Paths.h"
 
+namespace {
+
 // What a URL's path may hold as it stands: RFC 3986, section 3.3.
-static bool _IsPathCharacter(char character) {
+bool _IsPathCharacter(char character) {
   const bool isAlphanumeric = (character >= 'a' && character <= 'z') ||
                               (character >= 'A' && character <= 'Z') ||
                               (character >= '0' && character <= '9');
   return isAlphanumeric || (character != '\0' && std::strchr("/-._~!$&'()*+,;=:@", character) != nullptr);
 }
 
-static CFStringRef _CreateText(std::string_view path, bool isDirectory) {
+CFStringRef _CreateText(std::string_view path, bool isDirectory) {
   std::string text = "file://";
   for (const char character : path) {
     if (_IsPathCharacter(character)) {
@@ -28,6 +30,8 @@ static CFStringRef _CreateText(std::string_view path, bool isDirectory) {
   if (isDirectory && text.back() != '/') text += '/';
   return CFStringCreateWithCString(text.c_str(), kCFStringEncodingUTF8);
 }
+
+}  // namespace
 
 CFURL::CFURL(std::string_view absolutePath, bool isFolder)
     : path(absolutePath), isDirectory(isFolder), text(_CreateText(absolutePath, isFolder)) {}

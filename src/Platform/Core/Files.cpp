@@ -28,20 +28,18 @@ struct DirectoryTable {
   std::unordered_map<std::string, int32_t> ids;
 };
 
-}  // namespace
-
 // Both tables are never freed: references and ids live as long as the process.
-static const char* _InternPath(const std::string& path) {
+const char* _InternPath(const std::string& path) {
   static auto* const paths = new std::unordered_set<std::string>;
   return paths->insert(path).first->c_str();
 }
 
-static DirectoryTable& _Directories() {
+DirectoryTable& _Directories() {
   static auto* const table = new DirectoryTable;
   return *table;
 }
 
-static OSErr _ErrorOf(int error) {
+OSErr _ErrorOf(int error) {
   switch (error) {
     case ENOENT:
     case ENOTDIR: return fnfErr;
@@ -49,6 +47,8 @@ static OSErr _ErrorOf(int error) {
     default: return ioErr;
   }
 }
+
+}  // namespace
 
 const char* FSRefPath(const FSRef* file) {
   if (file == nullptr || std::memcmp(file->hidden, kTag, sizeof(kTag)) != 0) return nullptr;
@@ -82,7 +82,9 @@ OSStatus FSRefMakePath(const FSRef* file, char* path, uint32_t size) {
   return noErr;
 }
 
-static OSErr _FolderToID(const std::string& folder, int16_t* vRefNum, int32_t* dirID) {
+namespace {
+
+OSErr _FolderToID(const std::string& folder, int16_t* vRefNum, int32_t* dirID) {
   if (vRefNum == nullptr || dirID == nullptr) return paramErr;
   if (!IsFolder(folder)) return dirNFErr;
   DirectoryTable& table = _Directories();
@@ -93,6 +95,8 @@ static OSErr _FolderToID(const std::string& folder, int16_t* vRefNum, int32_t* d
   *dirID = entry->second;
   return noErr;
 }
+
+}  // namespace
 
 OSErr FSRefToID(const FSRef* folder, int16_t* vRefNum, int32_t* dirID) {
   const char* const path = FSRefPath(folder);
@@ -108,13 +112,17 @@ OSErr PathToID(const char* path, int16_t* vRefNum, int32_t* dirID) {
   return _FolderToID(AbsolutePath(folder), vRefNum, dirID);
 }
 
+namespace {
+
 // The path of a directory id, null for an unknown one.
-static const std::string* _PathOfID(int32_t dirID) {
+const std::string* _PathOfID(int32_t dirID) {
   const std::vector<std::string>& paths = _Directories().paths;
   const int64_t index = int64_t{dirID} - kFirstDirectory;
   if (index < 0 || index >= static_cast<int64_t>(paths.size())) return nullptr;
   return &paths[static_cast<size_t>(index)];
 }
+
+}  // namespace
 
 OSErr FSMakeFSRefFromID(int16_t vRefNum, int32_t dirID, FSRef* folder) {
   if (folder == nullptr) return paramErr;
@@ -124,10 +132,14 @@ OSErr FSMakeFSRefFromID(int16_t vRefNum, int32_t dirID, FSRef* folder) {
   return static_cast<OSErr>(FSPathMakeRef(path->c_str(), folder, nullptr));
 }
 
-static bool _IsComponent(std::string_view name) {
+namespace {
+
+bool _IsComponent(std::string_view name) {
   return !name.empty() && name != "." && name != ".." && name.size() <= kComponentLimit &&
          name.find('/') == std::string_view::npos;
 }
+
+}  // namespace
 
 OSErr FSResolvePartialPath(int16_t vRefNum, int32_t dirID, const char* partialPath, FSRef* file) {
   if (partialPath == nullptr || file == nullptr) return paramErr;

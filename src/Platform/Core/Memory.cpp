@@ -11,12 +11,12 @@ struct alignas(std::max_align_t) Block {
   size_t size;
 };
 
-}  // namespace
-
 // The master pointer is the block's first member.
-static Block* _BlockOf(Handle handle) {
+Block* _BlockOf(Handle handle) {
   return reinterpret_cast<Block*>(handle);
 }
+
+}  // namespace
 
 Handle NewHandleClear(size_t size) {
   if (size > PTRDIFF_MAX - sizeof(Block)) return nullptr;

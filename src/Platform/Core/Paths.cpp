@@ -8,13 +8,15 @@
 #include <cerrno>
 #include <climits>
 
-static std::string _WorkingFolder() {
+namespace {
+
+std::string _WorkingFolder() {
   char buffer[PATH_MAX];
   return getcwd(buffer, sizeof(buffer)) == nullptr ? std::string() : std::string(buffer);
 }
 
 // Appends "/" and the component for each component of `path`.
-static void _AppendComponents(std::string* result, std::string_view path) {
+void _AppendComponents(std::string* result, std::string_view path) {
   while (!path.empty()) {
     const size_t end = std::min(path.find('/'), path.size());
     const std::string_view component = path.substr(0, end);
@@ -22,6 +24,8 @@ static void _AppendComponents(std::string* result, std::string_view path) {
     path.remove_prefix(std::min(end + 1, path.size()));
   }
 }
+
+}  // namespace
 
 std::string AbsolutePath(std::string_view path) {
   std::string result;
@@ -49,8 +53,10 @@ bool IsFolder(const std::string& path) {
   return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 
+namespace {
+
 // Reads up to `size` bytes, fewer at the end of the file; false on an error.
-static bool _ReadBytes(int descriptor, size_t size, std::string* bytes) {
+bool _ReadBytes(int descriptor, size_t size, std::string* bytes) {
   bytes->resize(size);
   size_t count = 0;
   while (count < size) {
@@ -63,6 +69,8 @@ static bool _ReadBytes(int descriptor, size_t size, std::string* bytes) {
   bytes->resize(count);
   return true;
 }
+
+}  // namespace
 
 std::optional<std::string> ReadWholeFile(const char* path, size_t limit) {
   // Not blocking, so that opening a pipe by mistake returns.

@@ -29,15 +29,13 @@ class ForkReader {
   Bytes m_names;  // from the name list to the end of the map
 };
 
-}  // namespace
-
 // A list's counter field holds one less than the count; 0xFFFF is none.
-static uint32_t _CountOf(uint16_t field) {
+uint32_t _CountOf(uint16_t field) {
   return static_cast<uint16_t>(field + 1);
 }
 
 // `length` bytes at `offset`; false when they are not all there.
-static bool _Part(Bytes bytes, size_t offset, size_t length, Bytes* part) {
+bool _Part(Bytes bytes, size_t offset, size_t length, Bytes* part) {
   BigEndianReader reader(bytes);
   reader.Seek(offset);
   *part = reader.Take(length);
@@ -45,9 +43,11 @@ static bool _Part(Bytes bytes, size_t offset, size_t length, Bytes* part) {
 }
 
 // All bytes from `offset` on.
-static bool _Tail(Bytes bytes, size_t offset, Bytes* tail) {
+bool _Tail(Bytes bytes, size_t offset, Bytes* tail) {
   return offset <= bytes.size() && _Part(bytes, offset, bytes.size() - offset, tail);
 }
+
+}  // namespace
 
 bool ForkReader::Read(Bytes fork) {
   return ReadParts(fork) && ReadTypes();

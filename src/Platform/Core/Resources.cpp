@@ -71,15 +71,13 @@ class ResourceManager {
   ResFileRefNum m_lastNumber = 0;
 };
 
-}  // namespace
-
-static ResourceManager& _Manager() {
+ResourceManager& _Manager() {
   static auto* const manager = new ResourceManager;
   return *manager;
 }
 
 // Null for a file that cannot be read or is damaged.
-static std::unique_ptr<ResourceFile> _ReadFile(const char* path) {
+std::unique_ptr<ResourceFile> _ReadFile(const char* path) {
   std::optional<std::string> bytes = ReadWholeFile(path, kFileLimit);
   if (!bytes) return nullptr;
   auto file = std::make_unique<ResourceFile>();
@@ -92,7 +90,7 @@ static std::unique_ptr<ResourceFile> _ReadFile(const char* path) {
   return file;
 }
 
-static std::string _ApplicationFilePath() {
+std::string _ApplicationFilePath() {
   const CFURLRef folder = CFBundleCopyBundleURL(CFBundleGetMainBundle());
   if (folder == nullptr) return {};
   std::string path = folder->path + "/Resources/Gradix.rsrc";
@@ -100,11 +98,13 @@ static std::string _ApplicationFilePath() {
   return path;
 }
 
-static Resource* _FindIn(ResourceFile* file, const ResourceKey& key) {
+Resource* _FindIn(ResourceFile* file, const ResourceKey& key) {
   if (file == nullptr) return nullptr;
   const auto found = file->resources.find(key);
   return found == file->resources.end() ? nullptr : &found->second;
 }
+
+}  // namespace
 
 ResourceManager::FileList::iterator ResourceManager::FileOf(ResFileRefNum number) {
   return std::find_if(m_files.begin(), m_files.end(),
@@ -211,13 +211,17 @@ bool ResourceManager::Forget(Handle handle) {
   return true;
 }
 
-static OSErr _OpenResourceFile(const FSRef* file, uint16_t forkNameLength, int8_t permissions,
-                               ResFileRefNum* number) {
+namespace {
+
+OSErr _OpenResourceFile(const FSRef* file, uint16_t forkNameLength, int8_t permissions,
+                        ResFileRefNum* number) {
   const char* const path = FSRefPath(file);
   const bool readOnly = permissions == fsCurPerm || permissions == fsRdPerm;
   if (path == nullptr || forkNameLength != 0 || !readOnly) return paramErr;
   return _Manager().Open(path, number);
 }
+
+}  // namespace
 
 OSErr FSOpenResourceFile(const FSRef* file, uint16_t forkNameLength, const char16_t* /*forkName*/,
                          int8_t permissions, ResFileRefNum* refNum) {

@@ -27,18 +27,18 @@ class TableParser {
   std::u16string_view m_rest;
 };
 
-}  // namespace
-
-static bool _IsSpace(char16_t character) {
+bool _IsSpace(char16_t character) {
   return character == u' ' || (character >= u'\t' && character <= u'\r');
 }
 
-static std::optional<uint16_t> _HexDigit(char16_t character) {
+std::optional<uint16_t> _HexDigit(char16_t character) {
   if (character >= u'0' && character <= u'9') return character - u'0';
   const auto lower = static_cast<char16_t>(character | 0x20);
   if (lower >= u'a' && lower <= u'f') return lower - u'a' + 10;
   return std::nullopt;
 }
+
+}  // namespace
 
 bool TableParser::SkipPast(std::u16string_view end) {
   const size_t position = m_rest.find(end);
@@ -119,7 +119,9 @@ StringsTable ParseStringsTable(std::u16string_view text) {
   return table;
 }
 
-static std::u16string _FromUTF16(std::string_view bytes, bool isBigEndian) {
+namespace {
+
+std::u16string _FromUTF16(std::string_view bytes, bool isBigEndian) {
   std::u16string text;
   text.reserve(bytes.size() / 2);
   for (size_t i = 0; i + 1 < bytes.size(); i += 2) {
@@ -129,6 +131,8 @@ static std::u16string _FromUTF16(std::string_view bytes, bool isBigEndian) {
   }
   return text;
 }
+
+}  // namespace
 
 StringsTable ParseStringsBytes(std::string_view bytes) {
   if (bytes.starts_with("\xFE\xFF")) return ParseStringsTable(_FromUTF16(bytes.substr(2), true));

@@ -31,16 +31,14 @@ struct ControlTemplate {
   std::string title;
 };
 
-}  // namespace
-
 // Empty when there is no such resource; a record is never empty.
-static std::span<const char> _Resource(ResType type, int16_t id) {
+std::span<const char> _Resource(ResType type, int16_t id) {
   const Handle handle = GetResource(type, id);
   if (handle == nullptr || *handle == nullptr) return {};
   return {*handle, GetHandleSize(handle)};
 }
 
-static Rect _ReadRect(BigEndianReader& reader) {
+Rect _ReadRect(BigEndianReader& reader) {
   Rect rect;
   reader.ReadI16(&rect.top);
   reader.ReadI16(&rect.left);
@@ -48,6 +46,8 @@ static Rect _ReadRect(BigEndianReader& reader) {
   reader.ReadI16(&rect.right);
   return rect;
 }
+
+}  // namespace
 
 std::optional<DialogTemplate> ReadDialogTemplate(int16_t id) {
   BigEndianReader reader(_Resource(FourCharCode("DLOG"), id));
@@ -78,7 +78,9 @@ std::optional<AlertTemplate> ReadAlertTemplate(int16_t id) {
   return alert;
 }
 
-static std::optional<ControlTemplate> _ReadControlTemplate(int16_t id) {
+namespace {
+
+std::optional<ControlTemplate> _ReadControlTemplate(int16_t id) {
   BigEndianReader reader(_Resource(FourCharCode("CNTL"), id));
   ControlTemplate control;
   uint8_t visible = 0;
@@ -97,7 +99,7 @@ static std::optional<ControlTemplate> _ReadControlTemplate(int16_t id) {
 }
 
 // Every other id is a pane, which the program draws and works.
-static ControlKind _KindOfProcID(int16_t procID) {
+ControlKind _KindOfProcID(int16_t procID) {
   constexpr int16_t kFirstPopup = 400;
   constexpr int16_t kLastPopup = 409;
   switch (procID) {
@@ -114,7 +116,7 @@ static ControlKind _KindOfProcID(int16_t procID) {
   return procID >= kFirstPopup && procID <= kLastPopup ? kControlKindPopupButton : kControlKindUserPane;
 }
 
-static bool _ReadListDescription(int16_t id, ItemTemplate* item) {
+bool _ReadListDescription(int16_t id, ItemTemplate* item) {
   BigEndianReader reader(_Resource(FourCharCode("ldes"), id));
   constexpr size_t kVersionAndSizes = 10;
   uint8_t hasVertical = 0;
@@ -127,7 +129,7 @@ static bool _ReadListDescription(int16_t id, ItemTemplate* item) {
   return !reader.failed();
 }
 
-static bool _ReadResourceControl(std::span<const char> data, ItemTemplate* item) {
+bool _ReadResourceControl(std::span<const char> data, ItemTemplate* item) {
   BigEndianReader reader(data);
   int16_t id = 0;
   if (!reader.ReadI16(&id)) return false;
@@ -143,7 +145,7 @@ static bool _ReadResourceControl(std::span<const char> data, ItemTemplate* item)
   return true;
 }
 
-static bool _ReadItem(BigEndianReader& reader, ItemTemplate* item) {
+bool _ReadItem(BigEndianReader& reader, ItemTemplate* item) {
   uint8_t type = 0;
   reader.Skip(4);  // placeholder
   item->bounds = _ReadRect(reader);
@@ -165,6 +167,8 @@ static bool _ReadItem(BigEndianReader& reader, ItemTemplate* item) {
   }
   return true;
 }
+
+}  // namespace
 
 std::optional<std::vector<ItemTemplate>> ReadItemList(int16_t id) {
   // A copy: reading an item gets other resources.

@@ -1,0 +1,45 @@
+#include "Host/App/LanguageSetting.h"
+
+#include <QCoreApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QSettings>
+#include <QTranslator>
+
+namespace host {
+
+namespace {
+
+constexpr const char* kLanguageKey = "language";
+
+// Qt's own texts, such as the columns of a file dialog, where their translation is installed.
+void _TranslateQt(Language language) {
+  static QTranslator translator;
+  QCoreApplication::removeTranslator(&translator);
+  if (language == Language::kSpanish &&
+      translator.load(QStringLiteral("qtbase_es"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    QCoreApplication::installTranslator(&translator);
+  }
+}
+
+void _Apply(Language language) {
+  SetCurrentLanguage(language);
+  _TranslateQt(language);
+}
+
+}  // namespace
+
+void RestoreLanguage() {
+  const QString system =
+      QLocale::system().language() == QLocale::Spanish ? QStringLiteral("es") : QStringLiteral("en");
+  const QString name = QSettings().value(QLatin1String(kLanguageKey), system).toString();
+  _Apply(name == QLatin1String("es") ? Language::kSpanish : Language::kEnglish);
+}
+
+void ChangeLanguage(Language language) {
+  _Apply(language);
+  const bool spanish = language == Language::kSpanish;
+  QSettings().setValue(QLatin1String(kLanguageKey), spanish ? QStringLiteral("es") : QStringLiteral("en"));
+}
+
+}  // namespace host

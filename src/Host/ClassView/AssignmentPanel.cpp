@@ -1,0 +1,129 @@
+#include "Host/ClassView/AssignmentPanel.h"
+
+#include <QComboBox>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "Host/ClassView/HistogramWidget.h"
+#include "Host/ClassView/RomanText.h"
+
+namespace host {
+
+namespace {
+
+constexpr TextID kFigureTitles[] = {
+    TextID::kStudents, TextID::kResults, TextID::kMissing,           TextID::kMean,          TextID::kMedian,
+    TextID::kMinimum,  TextID::kMaximum, TextID::kStandardDeviation, TextID::kPointsPossible};
+
+}  // namespace
+
+AssignmentPanel::AssignmentPanel(QWidget* parent, std::function<void(int)> selected)
+    : QWidget(parent),
+      m_selected(std::move(selected)),
+      m_label(new QLabel(this)),
+      m_combo(new QComboBox(this)),
+      m_nothing(new QLabel(this)),
+      m_group(new QGroupBox(this)),
+      m_histogram(new HistogramWidget(this)) {
+  m_combo->setObjectName(QStringLiteral("assignment"));
+  m_combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  m_combo->setMinimumContentsLength(20);
+  m_label->setBuddy(m_combo);
+  m_nothing->setWordWrap(true);
+  AddFigures();
+  auto* const layout = new QVBoxLayout(this);
+  layout->addWidget(m_label);
+  layout->addWidget(m_combo);
+  layout->addWidget(m_nothing);
+  layout->addWidget(m_group);
+  layout->addWidget(m_histogram, 1);
+  connect(m_combo, &QComboBox::currentIndexChanged, this, [this] { ShowSelected(); });
+  SetClass(nullptr);
+  Retranslate();
+}
+
+void AssignmentPanel::AddFigures() {
+  auto* const form = new QFormLayout(m_group);
+  form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+  for (const TextID title : kFigureTitles) {
+    const Figure figure{title, new QLabel(m_group), new QLabel(m_group)};
+    figure.value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    figure.value->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    figure.label->setBuddy(figure.value);
+    form->addRow(figure.label, figure.value);
+    m_figures.push_back(figure);
+  }
+}
+
+void AssignmentPanel::SetClass(std::shared_ptr<const OpenClass> openClass) {
+  m_class = std::move(openClass);
+  {
+    const QSignalBlocker blocker(m_combo);
+    m_combo->clear();
+    if (m_class != nullptr) {
+      for (const qz::AssignmentRecord& row : m_class->record.assignments) {
+        m_combo->addItem(LineFromRoman(row.name));
+      }
+    }
+  }
+  const bool any = m_combo->count() > 0;
+  m_nothing->setVisible(!any);
+  m_combo->setEnabled(any);
+  m_group->setVisible(any);
+  m_histogram->setVisible(any);
+  ShowSelected();
+}
+
+int AssignmentPanel::Selected() const {
+  return m_combo->currentIndex();
+}
+
+void AssignmentPanel::Select(int assignment) {
+  if (assignment >= 0 && assignment < m_combo->count()) m_combo->setCurrentIndex(assignment);
+}
+
+void AssignmentPanel::ShowSelected() {
+  const int selected = Selected();
+  if (m_class != nullptr && selected >= 0) {
+    const auto position = static_cast<size_t>(selected);
+    const int pointsPossible = m_class->record.assignments[position].pointsPossible;
+    ShowFigures(m_class->scores[position], pointsPossible);
+    m_histogram->SetHistogram(ComputeHistogram(m_class->scores[position], pointsPossible));
+  }
+  if (m_selected) m_selected(selected);
+}
+
+void AssignmentPanel::ShowFigures(const Scores& scores, int pointsPossible) {
+  const ScoreStatistics statistics = ComputeStatistics(scores);
+  const auto number = [](size_t count) { return QString::number(count); };
+  const auto points = [&statistics](double ScoreFigures::*member) {
+    return statistics.figures ? PointsText((*statistics.figures).*member) : QStringLiteral("—");
+  };
+  const QString values[] = {number(statistics.students),    number(statistics.results),
+                            number(statistics.missing),     points(&ScoreFigures::mean),
+                            points(&ScoreFigures::median),  points(&ScoreFigures::minimum),
+                            points(&ScoreFigures::maximum), points(&ScoreFigures::standardDeviation),
+                            QString::number(pointsPossible)};
+  static_assert(std::size(values) == std::size(kFigureTitles));
+  for (size_t i = 0; i < m_figures.size(); ++i) m_figures[i].value->setText(values[i]);
+}
+
+void AssignmentPanel::Retranslate() {
+  setAccessibleName(Text(TextID::kPanel));
+  m_label->setText(Text(TextID::kAssignment));
+  m_combo->setAccessibleName(Text(TextID::kPanel));
+  m_nothing->setText(Text(TextID::kNoAssignments));
+  m_group->setTitle(Text(TextID::kStatistics));
+  m_group->setAccessibleName(Text(TextID::kStatistics));
+  for (const Figure& figure : m_figures) {
+    figure.label->setText(Text(figure.title));
+    figure.value->setAccessibleName(Text(figure.title));
+  }
+  m_histogram->Retranslate();
+}
+
+}  // namespace host

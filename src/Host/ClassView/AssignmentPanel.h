@@ -1,0 +1,59 @@
+// The panel beside the table: choice of an assignment, its statistics and the distribution of its scores.
+#ifndef GRADIX_ASSIGNMENTPANEL_H
+#define GRADIX_ASSIGNMENTPANEL_H
+
+#include <QWidget>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "Host/App/Texts.h"
+#include "Host/ClassView/ClassReader.h"
+
+class QComboBox;
+class QGroupBox;
+class QLabel;
+
+namespace host {
+
+class HistogramWidget;
+
+class AssignmentPanel : public QWidget {
+ public:
+  // `selected` is called when another assignment becomes the selected one, whoever selected it.
+  AssignmentPanel(QWidget* parent, std::function<void(int assignment)> selected);
+
+  // Selects the first assignment.
+  void SetClass(std::shared_ptr<const OpenClass> openClass);
+
+  // The selected assignment's position in the record; -1 when there is none.
+  int Selected() const;
+  void Select(int assignment);
+
+  // Told of a change of the language.
+  void Retranslate();
+
+ private:
+  struct Figure {
+    TextID title;
+    QLabel* label;
+    QLabel* value;
+  };
+
+  void AddFigures();
+  void ShowSelected();
+  void ShowFigures(const Scores& scores, int pointsPossible);
+
+  std::function<void(int)> m_selected;
+  std::shared_ptr<const OpenClass> m_class;
+  QLabel* m_label;
+  QComboBox* m_combo;
+  QLabel* m_nothing;
+  QGroupBox* m_group;
+  std::vector<Figure> m_figures;
+  HistogramWidget* m_histogram;
+};
+
+}  // namespace host
+
+#endif  // GRADIX_ASSIGNMENTPANEL_H

@@ -1,0 +1,96 @@
+#include "Host/ClassView/ClassTableModel.h"
+
+#include <QGuiApplication>
+#include <QPalette>
+#include <utility>
+
+#include "Host/App/Texts.h"
+#include "Host/ClassView/RomanText.h"
+
+namespace host {
+
+namespace {
+
+constexpr qsizetype kMaxHeaderLength = 24;
+
+QString _Shortened(const QString& name) {
+  if (name.size() <= kMaxHeaderLength) return name;
+  return name.left(kMaxHeaderLength - 1).trimmed() + QChar(u'…');
+}
+
+QString _NameOf(const qz::StudentRecord& student) {
+  return LineFromRoman(student.firstName + " " + student.lastName).trimmed();
+}
+
+}  // namespace
+
+void ClassTableModel::SetClass(std::shared_ptr<const OpenClass> openClass) {
+  beginResetModel();
+  m_class = std::move(openClass);
+  endResetModel();
+}
+
+void ClassTableModel::Retranslate() {
+  if (m_class == nullptr) return;
+  emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
+  if (rowCount() > 0) emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+}
+
+int ClassTableModel::rowCount(const QModelIndex& parent) const {
+  if (parent.isValid() || m_class == nullptr) return 0;
+  return static_cast<int>(m_class->record.students.size());
+}
+
+int ClassTableModel::columnCount(const QModelIndex& parent) const {
+  if (parent.isValid() || m_class == nullptr) return 0;
+  return kFirstAssignmentColumn + static_cast<int>(m_class->record.assignments.size());
+}
+
+QVariant ClassTableModel::data(const QModelIndex& index, int role) const {
+  if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
+  const auto row = static_cast<size_t>(index.row());
+  if (index.column() >= kFirstAssignmentColumn) {
+    return PointsData(row, static_cast<size_t>(index.column() - kFirstAssignmentColumn), role);
+  }
+  if (role != Qt::DisplayRole) return {};
+  const qz::StudentRecord& student = m_class->record.students[row];
+  return index.column() == kNameColumn ? _NameOf(student) : LineFromRoman(student.studentID);
+}
+
+QVariant ClassTableModel::PointsData(size_t student, size_t assignment, int role) const {
+  if (role == Qt::TextAlignmentRole) return int{Qt::AlignRight | Qt::AlignVCenter};
+  const std::optional<double>& points = m_class->scores[assignment][student];
+  switch (role) {
+    case Qt::DisplayRole: return points ? PointsText(*points) : QStringLiteral("—");
+    case Qt::AccessibleTextRole: return points ? PointsText(*points) : Text(TextID::kNoResult);
+    case Qt::ToolTipRole: return points ? QVariant() : Text(TextID::kNoResult);
+    case Qt::ForegroundRole:
+      return points ? QVariant() : QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
+    default: return {};
+  }
+}
+
+QVariant ClassTableModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (m_class == nullptr) return {};
+  if (orientation == Qt::Vertical) return role == Qt::DisplayRole ? QVariant(section + 1) : QVariant();
+  if (section >= kFirstAssignmentColumn && section < columnCount()) {
+    return AssignmentHeader(
+        m_class->record.assignments[static_cast<size_t>(section - kFirstAssignmentColumn)], role);
+  }
+  if (role == Qt::TextAlignmentRole) return int{Qt::AlignLeft | Qt::AlignVCenter};
+  if (role != Qt::DisplayRole) return {};
+  if (section == kNameColumn) return Text(TextID::kStudentName);
+  return section == kStudentIDColumn ? Text(TextID::kStudentID) : QVariant();
+}
+
+QVariant ClassTableModel::AssignmentHeader(const qz::AssignmentRecord& assignment, int role) const {
+  const QString name = LineFromRoman(assignment.name);
+  if (role == Qt::DisplayRole) return _Shortened(name);
+  if (role == Qt::TextAlignmentRole) return int{Qt::AlignRight | Qt::AlignVCenter};
+  if (role != Qt::ToolTipRole) return {};
+  QString tip = name + u'\n' + Text(TextID::kPointsPossibleTip).arg(assignment.pointsPossible);
+  if (!assignment.date.empty()) tip += u'\n' + Text(TextID::kDateTip).arg(LineFromRoman(assignment.date));
+  return tip;
+}
+
+}  // namespace host

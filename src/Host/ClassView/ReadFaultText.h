@@ -1,0 +1,21 @@
+// What is told of a class file that could not be read.
+#ifndef GRADIX_READFAULTTEXT_H
+#define GRADIX_READFAULTTEXT_H
+
+#include <QString>
+
+#include "Host/ClassView/ClassReader.h"
+
+namespace host {
+
+struct FaultText {
+  QString what;
+  QString advice;
+};
+
+// In the current language; the result must have a fault.
+FaultText TextOfFault(const ReadResult& result);
+
+}  // namespace host
+
+#endif  // GRADIX_READFAULTTEXT_H

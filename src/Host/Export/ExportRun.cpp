@@ -1,0 +1,149 @@
+#include "Host/Export/ExportRun.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QFile>
+#include <QFileInfo>
+#include <algorithm>
+#include <cstring>
+#include <utility>
+
+namespace host {
+
+namespace {
+
+constexpr int kDialogTries = 20;
+constexpr int kDialogWait = 50;  // milliseconds
+
+FSRef _FileReference(const QByteArray& path) {
+  constexpr uint8_t kTag[] = {0x46, 0x53, 0x72, 0x66};
+  constexpr size_t kPointerOffset = 8;
+  FSRef reference{};
+  std::memcpy(reference.hidden, kTag, sizeof(kTag));
+  const char* const bytes = path.constData();
+  std::memcpy(reference.hidden + kPointerOffset, &bytes, sizeof(bytes));
+  return reference;
+}
+
+bool _IsDialogLike(const QWidget& window) {
+  const Qt::WindowType type = window.windowType();
+  return window.isVisible() && (type == Qt::Window || type == Qt::Dialog || type == Qt::Tool);
+}
+
+}  // namespace
+
+ExportRun::ExportRun(QObject* parent, Choose choose, Finished finished)
+    : QObject(parent), m_choose(std::move(choose)), m_finished(std::move(finished)) {
+  m_search.setInterval(kDialogWait);
+  connect(&m_search, &QTimer::timeout, this, [this] { FindDialog(); });
+  for (QTimer* const timer : {&m_hidden, &m_end}) timer->setSingleShot(true);
+  connect(&m_hidden, &QTimer::timeout, this, [this] { FinishUnlessVisible(); });
+  connect(&m_end, &QTimer::timeout, this, [this] {
+    m_running = false;
+    m_finished(m_outcome, m_chosenPath);
+  });
+}
+
+StartResult ExportRun::Start(const FilterModule& filter, const ExportRequest& request, QWidget* hostWindow) {
+  if (m_running) return StartResult::kBusy;
+  m_running = true;
+  m_classPath = QFile::encodeName(request.classPath);
+  m_chosenPath.clear();
+  m_windowsBefore.clear();
+  for (QWidget* const window : QApplication::topLevelWidgets()) m_windowsBefore.append(window);
+
+  const StartResult result = Run(filter, request, hostWindow);
+  if (result == StartResult::kStarted) {
+    m_triesLeft = kDialogTries;
+    m_search.start();
+    FindDialog();
+  } else {
+    m_running = false;
+  }
+  return result;
+}
+
+StartResult ExportRun::Run(const FilterModule& filter, const ExportRequest& request, QWidget* hostWindow) {
+  QZEXPORTBEGIN begin{};
+  begin.formatIndex = request.formatIndex;
+  begin.chooseFileValue = reinterpret_cast<uintptr_t>(this);
+  begin.chooseFile = ChooseFile;
+  unsigned long id = 0;
+  if (filter.ExportBegin(&begin, &id) != QZFILTER_SUCCESS) return StartResult::kBeginFailed;
+
+  QZEXPORTFILE file{};
+  file.assignmentID = request.assignmentID;
+  file.classFile = _FileReference(m_classPath);
+  filter.SetSpanish(request.spanish);
+  const uint32_t status = filter.ExportFile(reinterpret_cast<void*>(hostWindow->winId()), id, &file);
+  filter.ExportEnd(id);
+  if (status == 1) return StartResult::kStarted;
+  return status == 0 ? StartResult::kFileFailed : StartResult::kSessionUnknown;
+}
+
+// The filter's dialog is the window that was not there before. A desktop may show it a little later.
+void ExportRun::FindDialog() {
+  for (QWidget* const window : QApplication::topLevelWidgets()) {
+    if (m_windowsBefore.contains(window) || !_IsDialogLike(*window)) continue;
+    m_search.stop();
+    m_dialog = window;
+    window->installEventFilter(this);
+    connect(window, &QObject::destroyed, this, [this] { Finish(); });
+    return;
+  }
+  if (m_triesLeft-- == 0) Finish();
+}
+
+bool ExportRun::eventFilter(QObject* watched, QEvent* event) {
+  // Minimizing hides the window, too, but spontaneously.
+  if (watched == m_dialog && event->type() == QEvent::Hide && !event->spontaneous()) {
+    m_hidden.start();
+  }
+  return QObject::eventFilter(watched, event);
+}
+
+void ExportRun::FinishUnlessVisible() {
+  if (m_dialog != nullptr && !m_dialog->isVisible()) Finish();
+}
+
+void ExportRun::Finish() {
+  if (!m_running || m_end.isActive()) return;
+  m_search.stop();
+  if (m_dialog != nullptr) {
+    m_dialog->removeEventFilter(this);
+    disconnect(m_dialog, &QObject::destroyed, this, nullptr);
+  }
+  m_dialog = nullptr;
+  m_outcome = RunOutcome::kCanceled;
+  if (!m_chosenPath.isEmpty()) {
+    const FileState state = StateOf(m_chosenPath);
+    m_outcome = state.exists && state != m_chosenState ? RunOutcome::kWritten : RunOutcome::kNotWritten;
+  }
+  // The dialog may still be in the middle of its closing.
+  m_end.start();
+}
+
+int32_t ExportRun::ChooseFile(void* dialog, int32_t /*reserved*/, char* path, int32_t size, uintptr_t value) {
+  auto* const run = reinterpret_cast<ExportRun*>(value);
+  if (run == nullptr || path == nullptr || size <= 0) return 1;
+  return run->StorePath(QWidget::find(reinterpret_cast<WId>(dialog)), path, size) ? 0 : 1;
+}
+
+bool ExportRun::StorePath(QWidget* dialog, char* path, int32_t size) {
+  const std::optional<QString> chosen = m_choose(dialog);
+  if (!chosen) return false;
+  const QByteArray bytes = QFile::encodeName(*chosen);
+  if (bytes.isEmpty() || bytes.size() >= size) return false;
+  std::memcpy(path, bytes.constData(), static_cast<size_t>(bytes.size()) + 1);
+  m_chosenPath = *chosen;
+  m_chosenState = StateOf(*chosen);
+  return true;
+}
+
+ExportRun::FileState ExportRun::StateOf(const QString& path) {
+  const QFileInfo file(path);
+  if (!file.exists()) return {};
+  return {true, file.size(), file.lastModified()};
+}
+
+}  // namespace host

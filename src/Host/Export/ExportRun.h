@@ -1,0 +1,95 @@
+// One export at a time: from the beginning of a session until its options dialog has closed.
+#ifndef GRADIX_EXPORTRUN_H
+#define GRADIX_EXPORTRUN_H
+
+#include <QByteArray>
+#include <QDateTime>
+#include <QList>
+#include <QObject>
+#include <QPointer>
+#include <QString>
+#include <QTimer>
+#include <QWidget>
+#include <functional>
+#include <optional>
+
+#include "Host/Export/FilterModule.h"
+
+namespace host {
+
+struct ExportRequest {
+  uint32_t formatIndex = 0;
+  int32_t assignmentID = 0;
+  QString classPath;  // absolute
+  bool spanish = false;
+};
+
+enum class StartResult {
+  kStarted,
+  kBusy,            // another export is under way
+  kBeginFailed,     // the filter does not know the format
+  kFileFailed,      // the class file or the filter's resource file could not be read
+  kSessionUnknown,  // the filter lost the session
+};
+
+// What a run came to once its dialog has closed.
+enum class RunOutcome { kCanceled, kWritten, kNotWritten };
+
+// Main thread only. Must outlive a run's dialog, which asks it for the file.
+class ExportRun : public QObject {
+ public:
+  // Asks for the output file in front of the dialog (null when the filter named none).
+  using Choose = std::function<std::optional<QString>(QWidget* dialog)>;
+  // Called after the dialog has closed; `path` is empty when no file was chosen.
+  using Finished = std::function<void(RunOutcome outcome, const QString& path)>;
+
+  ExportRun(QObject* parent, Choose choose, Finished finished);
+
+  // Shows the options dialog of `filter`, which has to outlive the run. `Finished` follows after kStarted
+  // only.
+  StartResult Start(const FilterModule& filter, const ExportRequest& request, QWidget* hostWindow);
+
+  bool IsRunning() const { return m_running; }
+
+  // The dialog of the run under way, or null.
+  QWidget* Dialog() const { return m_dialog; }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  // What a file was like when it was chosen.
+  struct FileState {
+    bool exists = false;
+    qint64 size = 0;
+    QDateTime modified;
+    bool operator==(const FileState&) const = default;
+  };
+
+  static int32_t ChooseFile(void* dialog, int32_t reserved, char* path, int32_t size, uintptr_t value);
+  static FileState StateOf(const QString& path);
+
+  StartResult Run(const FilterModule& filter, const ExportRequest& request, QWidget* hostWindow);
+  bool StorePath(QWidget* dialog, char* path, int32_t size);
+  void FindDialog();
+  void FinishUnlessVisible();
+  void Finish();
+
+  Choose m_choose;
+  Finished m_finished;
+  bool m_running = false;
+  QList<QPointer<QWidget>> m_windowsBefore;
+  QPointer<QWidget> m_dialog;
+  QTimer m_search;  // for a dialog that is not there at once
+  int m_triesLeft = 0;
+  QTimer m_hidden;  // the dialog was hidden
+  QTimer m_end;     // the run has ended
+  RunOutcome m_outcome = RunOutcome::kCanceled;
+  QByteArray m_classPath;  // the filter keeps a pointer to it
+  QString m_chosenPath;
+  FileState m_chosenState;
+};
+
+}  // namespace host
+
+#endif  // GRADIX_EXPORTRUN_H

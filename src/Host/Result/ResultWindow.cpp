@@ -1,0 +1,136 @@
+#include "Host/Result/ResultWindow.h"
+
+#include <QDesktopServices>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QFontDatabase>
+#include <QFormLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLocale>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QShortcut>
+#include <QTabWidget>
+#include <QTableView>
+#include <QUrl>
+#include <QVBoxLayout>
+
+#include "Host/App/Texts.h"
+#include "Host/ClassView/RomanText.h"
+#include "Host/Result/CsvTableModel.h"
+
+namespace host {
+
+namespace {
+
+constexpr qint64 kMaxShownBytes = qint64{8} * 1024 * 1024;
+
+QByteArray _Beginning(const QString& path) {
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) ? file.read(kMaxShownBytes) : QByteArray();
+}
+
+std::string_view _View(const QByteArray& bytes) {
+  return {bytes.constData(), static_cast<size_t>(bytes.size())};
+}
+
+}  // namespace
+
+ResultWindow::ResultWindow(QWidget* parent, const QString& path)
+    : QWidget(parent, Qt::Window),
+      m_fileName(QFileInfo(path).fileName()),
+      m_size(QFileInfo(path).size()),
+      m_tabs(new QTabWidget(this)),
+      m_cut(new QLabel(this)),
+      m_details(new QFormLayout),
+      m_sizeText(new QLabel(this)),
+      m_openFolder(new QPushButton(this)),
+      m_close(new QPushButton(this)) {
+  setObjectName(QStringLiteral("resultWindow"));
+  setAttribute(Qt::WA_DeleteOnClose);
+  auto* const layout = new QVBoxLayout(this);
+  layout->addWidget(m_tabs, 1);
+  layout->addWidget(m_cut);
+  layout->addLayout(m_details);
+  AddTabs(_Beginning(path));
+  AddDetails(path);
+  AddButtons(path);
+  Retranslate();
+  resize(fontMetrics().height() * 48, fontMetrics().height() * 28);
+}
+
+void ResultWindow::AddTabs(const QByteArray& bytes) {
+  auto* const table = new QTableView(m_tabs);
+  table->setModel(new CsvTableModel(table, ReadCsv(_View(bytes))));
+  table->setAlternatingRowColors(true);
+  table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  table->resizeColumnsToContents();
+  table->setTabKeyNavigation(false);
+
+  auto* const text = new QPlainTextEdit(m_tabs);
+  text->setReadOnly(true);
+  text->setTabChangesFocus(true);
+  text->setLineWrapMode(QPlainTextEdit::NoWrap);
+  text->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  text->setPlainText(FromRoman(_View(bytes)));
+
+  m_tabs->addTab(table, QString());
+  m_tabs->addTab(text, QString());
+  m_cut->setVisible(bytes.size() < m_size);
+}
+
+void ResultWindow::AddDetails(const QString& path) {
+  auto* const pathText = new QLabel(QDir::toNativeSeparators(path), this);
+  for (QLabel* const value : {pathText, m_sizeText}) {
+    value->setTextFormat(Qt::PlainText);
+    value->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  }
+  pathText->setWordWrap(true);
+  m_details->addRow(new QLabel(this), pathText);
+  m_details->addRow(new QLabel(this), m_sizeText);
+}
+
+void ResultWindow::AddButtons(const QString& path) {
+  auto* const row = new QHBoxLayout;
+  row->addWidget(m_openFolder);
+  row->addStretch();
+  row->addWidget(m_close);
+  static_cast<QVBoxLayout*>(layout())->addLayout(row);
+  connect(m_openFolder, &QPushButton::clicked, this, [folder = QFileInfo(path).absolutePath()] {
+    QDesktopServices::openUrl(QUrl::fromLocalFile(folder));
+  });
+  connect(m_close, &QPushButton::clicked, this, &QWidget::close);
+  for (const QKeySequence& keys : {QKeySequence(QKeySequence::Close), QKeySequence(Qt::Key_Escape)}) {
+    connect(new QShortcut(keys, this), &QShortcut::activated, this, &QWidget::close);
+  }
+}
+
+void ResultWindow::Retranslate() {
+  setWindowTitle(Text(TextID::kResultTitle).arg(m_fileName));
+  setAccessibleName(windowTitle());
+  constexpr TextID kTabs[] = {TextID::kResultTable, TextID::kResultText};
+  int tab = 0;
+  for (const TextID title : kTabs) {
+    m_tabs->setTabText(tab, Text(title));
+    m_tabs->widget(tab++)->setAccessibleName(Text(title));
+  }
+  m_tabs->setAccessibleName(windowTitle());
+  m_cut->setText(Text(TextID::kResultTooLarge));
+  constexpr TextID kDetails[] = {TextID::kResultPath, TextID::kResultSize};
+  const QLocale locale(CurrentLanguage() == Language::kSpanish ? QLocale::Spanish : QLocale::English);
+  m_sizeText->setText(locale.formattedDataSize(m_size));
+  int row = 0;
+  for (const TextID title : kDetails) {
+    auto* const label = static_cast<QLabel*>(m_details->itemAt(row, QFormLayout::LabelRole)->widget());
+    label->setText(Text(title));
+    m_details->itemAt(row++, QFormLayout::FieldRole)->widget()->setAccessibleName(Text(title));
+  }
+  m_openFolder->setText(Text(TextID::kOpenFolder));
+  m_openFolder->setAccessibleName(Text(TextID::kOpenFolder).remove(u'&'));
+  m_close->setText(Text(TextID::kClose));
+  m_close->setAccessibleName(Text(TextID::kClose).remove(u'&'));
+}
+
+}  // namespace host

@@ -1,0 +1,151 @@
+#include "Host/Window/MainActions.h"
+
+#include <QActionGroup>
+#include <QFileInfo>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QStyle>
+#include <QToolBar>
+#include <QToolButton>
+#include <utility>
+
+#include "Host/App/RecentFiles.h"
+
+namespace host {
+
+namespace {
+
+// As the text of an action.
+QString _Escaped(QString text) {
+  return text.replace(QLatin1String("&"), QLatin1String("&&"));
+}
+
+}  // namespace
+
+MainActions::MainActions(QMainWindow* window, ActionHandlers handlers)
+    : m_window(window), m_handlers(std::move(handlers)) {
+  AddFileMenu();
+  AddExportMenu();
+  AddLanguageMenu();
+  AddHelpMenu();
+  AddToolBar();
+  Retranslate();
+}
+
+void MainActions::AddFileMenu() {
+  m_fileMenu = m_window->menuBar()->addMenu(QString());
+  m_open = m_fileMenu->addAction(QString(), m_window, [this] { m_handlers.open(); });
+  m_open->setObjectName(QStringLiteral("open"));
+  m_open->setShortcut(QKeySequence::Open);
+  m_open->setIcon(m_window->style()->standardIcon(QStyle::SP_DialogOpenButton));
+  m_recentMenu = m_fileMenu->addMenu(QString());
+  QObject::connect(m_recentMenu, &QMenu::aboutToShow, m_window, [this] { FillRecentMenu(); });
+  m_fileMenu->addSeparator();
+  m_quit = m_fileMenu->addAction(QString(), m_window, [this] { m_handlers.quit(); });
+  m_quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+  m_quit->setMenuRole(QAction::QuitRole);
+}
+
+void MainActions::FillRecentMenu() {
+  m_recentMenu->clear();
+  int number = 0;
+  for (const QString& path : RecentFiles()) {
+    const QString text = QStringLiteral("&%1  %2").arg(++number).arg(_Escaped(QFileInfo(path).fileName()));
+    QAction* const action =
+        m_recentMenu->addAction(text, m_window, [this, path] { m_handlers.openRecent(path); });
+    action->setToolTip(path);
+    action->setEnabled(m_open->isEnabled());
+  }
+  m_recentMenu->setToolTipsVisible(true);
+  if (number == 0) m_recentMenu->addAction(Text(TextID::kNoRecentFiles))->setEnabled(false);
+}
+
+void MainActions::AddExportMenu() {
+  m_exportMenu = m_window->menuBar()->addMenu(QString());
+  m_exportMenu->setObjectName(QStringLiteral("exportMenu"));
+  m_noFormats = m_exportMenu->addAction(QString());
+  m_noFormats->setEnabled(false);
+}
+
+void MainActions::SetFormats(const std::vector<ExportFormat>& formats) {
+  m_noFormats->setVisible(formats.empty());
+  for (const ExportFormat& format : formats) {
+    m_exports.append(m_exportMenu->addAction(_Escaped(format.name), m_window,
+                                             [this, format] { m_handlers.exportAs(format); }));
+  }
+  SetExportEnabled(false);
+}
+
+void MainActions::AddLanguageMenu() {
+  m_languageMenu = m_window->menuBar()->addMenu(QString());
+  auto* const group = new QActionGroup(m_window);
+  const auto add = [this, group](Language language) {
+    QAction* const action = m_languageMenu->addAction(QString(), m_window,
+                                                      [this, language] { m_handlers.setLanguage(language); });
+    action->setCheckable(true);
+    group->addAction(action);
+    return action;
+  };
+  m_english = add(Language::kEnglish);
+  m_spanish = add(Language::kSpanish);
+}
+
+void MainActions::AddHelpMenu() {
+  m_helpMenu = m_window->menuBar()->addMenu(QString());
+  m_about = m_helpMenu->addAction(QString(), m_window, [this] { m_handlers.about(); });
+  m_about->setMenuRole(QAction::AboutRole);
+}
+
+void MainActions::AddToolBar() {
+  m_toolBar = m_window->addToolBar(QString());
+  m_toolBar->setObjectName(QStringLiteral("toolBar"));
+  m_toolBar->setMovable(false);
+  m_toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  m_toolBar->addAction(m_open);
+  m_exportButton = new QToolButton(m_toolBar);
+  m_exportButton->setObjectName(QStringLiteral("exportButton"));
+  m_exportButton->setMenu(m_exportMenu);
+  m_exportButton->setPopupMode(QToolButton::InstantPopup);
+  m_exportButton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  m_exportButton->setIcon(m_window->style()->standardIcon(QStyle::SP_DialogSaveButton));
+  m_toolBar->addWidget(m_exportButton);
+  // Reachable by keyboard, as the menus are.
+  m_exportButton->setFocusPolicy(Qt::TabFocus);
+  m_toolBar->widgetForAction(m_open)->setFocusPolicy(Qt::TabFocus);
+}
+
+void MainActions::SetOpenEnabled(bool enabled) {
+  m_open->setEnabled(enabled);
+}
+
+void MainActions::SetExportEnabled(bool enabled) {
+  for (QAction* const action : m_exports) action->setEnabled(enabled);
+  m_exportButton->setEnabled(enabled);
+}
+
+void MainActions::Retranslate() {
+  const auto title = [](QMenu* menu, TextID id) {
+    menu->setTitle(Text(id));
+    menu->setAccessibleName(Text(id).remove(u'&'));
+  };
+  title(m_fileMenu, TextID::kFileMenu);
+  title(m_recentMenu, TextID::kRecentMenu);
+  title(m_exportMenu, TextID::kExportMenu);
+  title(m_languageMenu, TextID::kLanguageMenu);
+  title(m_helpMenu, TextID::kHelpMenu);
+  m_open->setText(Text(TextID::kOpen));
+  m_quit->setText(Text(TextID::kQuit));
+  m_about->setText(Text(TextID::kAbout));
+  m_english->setText(Text(TextID::kEnglish));
+  m_spanish->setText(Text(TextID::kSpanish));
+  m_noFormats->setText(Text(TextID::kNoFormats));
+  m_exportButton->setText(Text(TextID::kExport));
+  m_exportButton->setAccessibleName(Text(TextID::kExport));
+  m_toolBar->setWindowTitle(Text(TextID::kToolBar));
+  m_toolBar->setAccessibleName(Text(TextID::kToolBar));
+  m_toolBar->widgetForAction(m_open)->setAccessibleName(Text(TextID::kOpen).remove(u'&'));
+  (CurrentLanguage() == Language::kSpanish ? m_spanish : m_english)->setChecked(true);
+}
+
+}  // namespace host

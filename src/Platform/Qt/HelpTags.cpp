@@ -1,0 +1,75 @@
+#include "Platform/Ui/HelpTags.h"
+
+#include <QTextDocument>
+#include <QToolTip>
+#include <algorithm>
+#include <limits>
+
+#include "Platform/Qt/QtHelpTags.h"
+#include "Platform/Qt/QtRegistry.h"
+#include "Platform/Qt/QtText.h"
+
+namespace ui {
+
+HelpTags::HelpTags() {
+  m_timer.setSingleShot(true);
+  connect(&m_timer, &QTimer::timeout, this, [this] { Show(); });
+}
+
+// Lives as long as the process.
+HelpTags& HelpTags::Get() {
+  static auto* const tags = new HelpTags;
+  return *tags;
+}
+
+void HelpTags::MouseMoved(QWidget* widget, QPoint position) {
+  if (position == m_position && widget == m_widget) return;
+  Cancel();
+  const ControlRecord* const control = FindControlOf(widget);
+  if (control == nullptr || control->help.empty()) return;
+  m_widget = widget;
+  m_position = position;
+  m_timer.start(m_delay);
+}
+
+void HelpTags::Cancel() {
+  m_timer.stop();
+  if (!m_widget.isNull()) QToolTip::hideText();
+  m_widget.clear();
+}
+
+void HelpTags::Show() {
+  const ControlRecord* const control = FindControlOf(m_widget);
+  if (control == nullptr || !m_widget->isVisible() || m_widget->window()->isHidden()) return;
+  QString text = control->widget->toolTip();
+  if (Qt::mightBeRichText(text)) text = QStringLiteral("<p>") + text.toHtmlEscaped();  // shown literally
+  QToolTip::showText(m_position, text, m_widget);
+}
+
+namespace {
+
+void _TrackMouse(QWidget* widget) {
+  widget->setMouseTracking(true);
+  for (QObject* const child : widget->children()) {
+    if (child->isWidgetType()) _TrackMouse(static_cast<QWidget*>(child));
+  }
+}
+
+}  // namespace
+
+}  // namespace ui
+
+void HMSetControlHelpContent(ControlRef control, const std::string& text) {
+  ui::ControlRecord* const record = ui::FindControl(control);
+  if (record == nullptr) return;
+  record->help = text;
+  const QString shown = ui::FromMacRoman(text);
+  record->widget->setToolTip(shown);
+  record->widget->setAccessibleDescription(shown);
+  if (!text.empty()) ui::_TrackMouse(record->widget);
+}
+
+void HMSetTagDelay(uint32_t milliseconds) {
+  constexpr uint32_t kLongest = std::numeric_limits<int>::max();
+  ui::HelpTags::Get().SetDelay(static_cast<int>(std::min(milliseconds, kLongest)));
+}

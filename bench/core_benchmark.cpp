@@ -179,13 +179,13 @@ void _Sizes(benchmark::internal::Benchmark* benchmark) {
 }
 
 [[maybe_unused]] const bool kRegistered = [] {
-  benchmark::RegisterBenchmark("read_floor", BM_ReadFloor)->Apply(Sizes);
-  benchmark::RegisterBenchmark("read", BM_Read)->Apply(Sizes);
-  benchmark::RegisterBenchmark("check_identifiers", BM_CheckIdentifiers)->Apply(Sizes);
+  benchmark::RegisterBenchmark("read_floor", BM_ReadFloor)->Apply(_Sizes);
+  benchmark::RegisterBenchmark("read", BM_Read)->Apply(_Sizes);
+  benchmark::RegisterBenchmark("check_identifiers", BM_CheckIdentifiers)->Apply(_Sizes);
   for (const FormatRow& format : FormatTable()) {
     const std::string key = format.key;
-    benchmark::RegisterBenchmark(("write_" + key).c_str(), BM_Write, &format)->Apply(Sizes);
-    benchmark::RegisterBenchmark(("write_floor_" + key).c_str(), BM_WriteFloor, &format)->Apply(Sizes);
+    benchmark::RegisterBenchmark(("write_" + key).c_str(), BM_Write, &format)->Apply(_Sizes);
+    benchmark::RegisterBenchmark(("write_floor_" + key).c_str(), BM_WriteFloor, &format)->Apply(_Sizes);
   }
   return true;
 }();

@@ -51,8 +51,8 @@ int main(int argc, char** argv) {
   if (file == nullptr || parser == nullptr) return 1;
   Counts counts;
   XML_SetUserData(parser.get(), &counts);
-  XML_SetElementHandler(parser.get(), CountStart, CountEnd);
-  XML_SetCharacterDataHandler(parser.get(), CountText);
+  XML_SetElementHandler(parser.get(), _CountStart, _CountEnd);
+  XML_SetCharacterDataHandler(parser.get(), _CountText);
   if (!_Parse(file.get(), parser.get())) {
     std::fputs("expat_pass: the file does not parse\n", stderr);
     return 1;

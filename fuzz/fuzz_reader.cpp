@@ -45,9 +45,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   static std::FILE* const sink = std::fopen("/dev/null", "wb");
   std::istringstream stream(std::string(reinterpret_cast<const char*>(data), size));
   qz::ClassRecord record;
-  QZClassParseError error;
-  const bool parsed = QZClassParse(&record, stream, &error);
-  _Require(parsed == (error.reason == nullptr));
+  QZClassParseReport report;
+  const bool parsed = QZClassParse(&record, stream, &report);
+  _Require(parsed == (report.reason == nullptr));
   _CheckRecord(record);
   for (qz::AssignmentRecord& assignment : record.assignments) assignment.selected = true;
   CheckUserIDs(record, qz::kUserIDAlias);

@@ -23,22 +23,22 @@ std::string _ReasonOf(int error) {
   return std::strerror(error != 0 ? error : EIO);
 }
 
-std::string _Place(const QZClassParseError& error) {
+std::string _Place(const QZClassParseReport& report) {
   std::string place;
-  if (error.line == 0) return place;
-  for (const uint64_t number : {error.line, error.column}) place.append(":").append(std::to_string(number));
+  if (report.line == 0) return place;
+  for (const uint64_t number : {report.line, report.column}) place.append(":").append(std::to_string(number));
   return place;
 }
 
 // `name` is the file as messages call it.
 void _Parse(const std::string& name, std::istream& stream, qz::ClassRecord* record) {
-  QZClassParseError error;
+  QZClassParseReport report;
   errno = 0;
-  const bool parsed = QZClassParse(record, stream, &error);
+  const bool parsed = QZClassParse(record, stream, &report);
   // What could not be read to its end looks malformed, so this comes first.
   if (stream.bad()) _Fail("cannot read " + name + ": " + _ReasonOf(errno));
-  if (parsed && error.reason == nullptr) return;
-  _Fail(name + _Place(error) + ": " + (error.reason != nullptr ? error.reason : "not a class file"));
+  if (parsed && report.reason == nullptr) return;
+  _Fail(name + _Place(report) + ": " + (report.reason != nullptr ? report.reason : "not a class file"));
 }
 
 void _ReadFile(const std::string& path, const std::string& name, qz::ClassRecord* record) {

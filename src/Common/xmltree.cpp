@@ -192,9 +192,9 @@ uint8_t _MapToSymbol(int32_t codePoint, bool* mapped) {
   return static_cast<uint8_t>(codePoint);
 }
 
-// Converts one text item behind the first `*count` bytes of the buffer.
-bool _JoinText(const char* text, char* buffer, int32_t size, int32_t* count, MapCodePoint map) {
-  bool complete = true;
+// Converts one text item behind the first `*count` bytes of the buffer. Returns the characters replaced.
+uint64_t _JoinText(const char* text, char* buffer, int32_t size, int32_t* count, MapCodePoint map) {
+  uint64_t replaced = 0;
   int32_t out = *count;
   while (*text != '\0' && out < size) {
     if (static_cast<unsigned char>(*text) < 0x80) {
@@ -206,24 +206,23 @@ bool _JoinText(const char* text, char* buffer, int32_t size, int32_t* count, Map
     bool mapped = false;
     const uint8_t code = length > 0 ? map(codePoint, &mapped) : uint8_t{0};
     buffer[out++] = mapped ? static_cast<char>(code) : '?';
-    complete = complete && mapped;
+    if (!mapped) ++replaced;
     text += length > 0 ? XmlUtf8Step(text, length) : 1;
   }
   *count = out;
-  return complete;
+  return replaced;
 }
 
-bool _JoinAllText(const _XmlTreeTag* node, char* buffer, int32_t size, MapCodePoint map) {
-  bool complete = true;
+uint64_t _JoinAllText(const _XmlTreeTag* node, char* buffer, int32_t size, MapCodePoint map) {
+  uint64_t replaced = 0;
   int32_t count = 0;
   buffer[0] = '\0';
   for (int32_t i = 0; i < node->itemCount && count < size; ++i) {
     if (node->items[i].kind != kXmlTreeText) continue;
-    complete =
-        _JoinText(static_cast<const char*>(node->items[i].data), buffer, size, &count, map) && complete;
+    replaced += _JoinText(static_cast<const char*>(node->items[i].data), buffer, size, &count, map);
     buffer[count] = '\0';
   }
-  return complete;
+  return replaced;
 }
 
 }  // namespace
@@ -293,11 +292,15 @@ bool XmlTreeAddText(_XmlTreeTag* node, const char* text, int32_t length) {
 }
 
 bool XmlTreeGetAllText(const _XmlTreeTag* node, char* buffer, int32_t size) {
+  return XmlTreeJoinText(node, buffer, size) == 0;
+}
+
+uint64_t XmlTreeJoinText(const _XmlTreeTag* node, char* buffer, int32_t size) {
   return _JoinAllText(node, buffer, size, _MapToRoman);
 }
 
 bool XmlTreeGetAllTextAsSymbol(const _XmlTreeTag* node, char* buffer, int32_t size) {
-  return _JoinAllText(node, buffer, size, _MapToSymbol);
+  return _JoinAllText(node, buffer, size, _MapToSymbol) == 0;
 }
 
 void XmlTreeDeleteAllText(_XmlTreeTag* node) {

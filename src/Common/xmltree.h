@@ -61,7 +61,10 @@ bool XmlTreeAddText(_XmlTreeTag* node, const char* text, int32_t length);
 // the set lacks becomes "?" and makes the result false.
 bool XmlTreeGetAllText(const _XmlTreeTag* node, char* buffer, int32_t size);
 
-// The same for text in a symbol font: code points below 256 are the bytes.
+// The same, giving the number of characters that became "?".
+uint64_t XmlTreeJoinText(const _XmlTreeTag* node, char* buffer, int32_t size);
+
+// The same as XmlTreeGetAllText for text in a symbol font: code points below 256 are the bytes.
 bool XmlTreeGetAllTextAsSymbol(const _XmlTreeTag* node, char* buffer, int32_t size);
 
 // Frees every text item.

@@ -14,13 +14,13 @@ namespace {
 struct Parsed {
   bool success;
   qz::ClassRecord record;
-  QZClassParseError error;
+  QZClassParseReport report;
 };
 
 Parsed Parse(const std::string& document) {
   std::istringstream stream(document);
   Parsed parsed{};
-  parsed.success = QZClassParse(&parsed.record, stream, &parsed.error);
+  parsed.success = QZClassParse(&parsed.record, stream, &parsed.report);
   return parsed;
 }
 
@@ -34,7 +34,7 @@ std::string InStudent(const std::string& content) {
 const char kWhole[] = R"(<?xml version="1.0" encoding="UTF-8"?>
 <!DOCTYPE class [<!ENTITY school "Sch&#xF6;n">]>
 <class>
-  <class-name>Biology</class-name>
+  <class-name>Biología <b/>中</class-name><class-name>other</class-name>
   <preferences><custom-1>Canvas ID</custom-1><custom-2/><show-term>1</show-term></preferences>
   <student-list>
     <student id="7">
@@ -84,7 +84,9 @@ const char kWholeDump[] =
 TEST(ClassParse, ReadsEveryField) {
   const Parsed parsed = Parse(kWhole);
   EXPECT_TRUE(parsed.success);
-  EXPECT_EQ(parsed.error.reason, nullptr);
+  EXPECT_EQ(parsed.report.reason, nullptr);
+  EXPECT_EQ(parsed.report.className, "Biología 中");
+  EXPECT_EQ(parsed.report.replacedCharacters, 1U);
   EXPECT_EQ(Dump(parsed.record), kWholeDump);
 }
 
@@ -127,6 +129,46 @@ TEST(ClassParse, EveryByteMayStraddleAChunk) {
   }
 }
 
+TEST(ClassParse, CountsWhatIsReplacedInKeptTexts) {
+  const std::string a199(199, 'a');
+  const struct {
+    const char* what;
+    std::string document;
+    uint64_t replaced;
+  } rows[] = {
+      {"none", InStudent("<alias>?é</alias>"), 0},
+      {"each one", InStudent("<alias>中?中</alias><race>Ω</race>"), 3},
+      {"a label", InClass("<preferences><custom-1>中</custom-1></preferences>"), 1},
+      {"not what is cut", InStudent("<alias>" + a199 + "中</alias>"), 0},
+      {"not what is repeated", InStudent("<alias/><alias>中</alias>"), 0},
+      {"not what no record holds", InClass("<city>中</city><x>中</x>"), 0},
+      {"not in a number",
+       InClass("<assignment-list><assignment id='中'><points-possible>1中</points-possible></assignment>"
+               "</assignment-list>"),
+       0},
+      {"not in a second list",
+       InClass("<assignment-list><assignment><results-list/><results-list><results><response-list><response>"
+               "<text>中</text></response></response-list></results></results-list></assignment>"
+               "</assignment-list>"),
+       0},
+  };
+  for (const auto& row : rows)
+    EXPECT_EQ(Parse(row.document).report.replacedCharacters, row.replaced) << row.what;
+}
+
+TEST(ClassParse, RecordsThatAreFoundMayBeChanged) {
+  qz::ClassRecord record = Parse(kWhole).record;
+  qz::AssignmentRecord& quiz = record.assignments.at(0);
+  qz::ResultsRecord* results = quiz.FindResultsForStudent(7);
+  ASSERT_EQ(results, &quiz.results.at(0));
+  qz::ResponseRecord* response = results->FindResponseForQuestion(quiz.questions.at(1));
+  ASSERT_EQ(response, &results->responses.at(1));
+  response->pointsEarned = 4;
+  EXPECT_EQ(results->GetTotalPoints(), 6.5);
+  EXPECT_EQ(quiz.results.at(1).FindResponseForQuestion(quiz.questions.at(1)), nullptr);
+  EXPECT_EQ(quiz.FindResultsForStudent(9), nullptr);
+}
+
 struct StudentRow {
   const char* what;
   std::string content;
@@ -155,7 +197,7 @@ TEST(ClassParse, TakesTextsAsWritten) {
   };
   for (const StudentRow& row : rows) {
     const Parsed parsed = Parse(InStudent(row.content));
-    ASSERT_TRUE(parsed.success) << row.what << ": " << parsed.error.reason;
+    ASSERT_TRUE(parsed.success) << row.what << ": " << parsed.report.reason;
     ASSERT_EQ(parsed.record.students.size(), 1U) << row.what;
     EXPECT_EQ(parsed.record.students[0].firstName, row.firstName) << row.what;
   }

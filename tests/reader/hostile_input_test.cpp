@@ -30,6 +30,8 @@ struct Row {
   size_t students;
   uint64_t line;
   const char* reason;
+  QZClassFault fault = kClassFaultMalformed;
+  const char* encoding = "";
 };
 
 TEST(HostileInput, FailsAndKeepsWhatWasComplete) {
@@ -38,8 +40,9 @@ TEST(HostileInput, FailsAndKeepsWhatWasComplete) {
       {"empty", "", 0, 1, "no element found"},
       {"blank", " \n ", 0, 2, "no element found"},
       {"another document element", "<class-list><student-list/></class-list>", 0, 1,
-       "the document element is not class"},
-      {"a document element of another case", "<Class/>", 0, 1, "the document element is not class"},
+       "the document element is not class", kClassFaultNotAClass},
+      {"a document element of another case", "<Class/>", 0, 1, "the document element is not class",
+       kClassFaultNotAClass},
       {"cut between records", kTwoStudents, 2, 2, "no element found"},
       {"cut inside a record", kTwoStudents + "<student id='3'><alias>x", 2, 2, "no element found"},
       {"cut inside a tag", kTwoStudents + "<student id='3", 2, 2, "unclosed token"},
@@ -48,23 +51,29 @@ TEST(HostileInput, FailsAndKeepsWhatWasComplete) {
        "not well-formed (invalid token)"},
       {"a zero byte ends the chunk", kTwoStudents + zero + "</student-list></class>", 2, 2,
        "no element found"},
-      {"UTF-16", std::string("<\0c\0l\0a\0s\0s\0/\0>\0", 16), 0, 1, "unclosed token"},
+      {"UTF-16", std::string("<\0c\0l\0a\0s\0s\0/\0>\0", 16), 0, 1, "unclosed token", kClassFaultEncoding,
+       "UTF-16"},
+      {"UTF-16 with a byte order mark", "\xFE\xFF" + zero + "<", 0, 1, "no element found",
+       kClassFaultEncoding, "UTF-16"},
       {"undeclared prefix", "<x:class/>", 0, 1, "unbound prefix"},
       {"undeclared entity", "<class>&nope;</class>", 0, 1, "undefined entity"},
       {"two document elements", "<class/><class/>", 0, 1, "junk after document element"},
-      {"unknown encoding", "<?xml version='1.0' encoding='windows-1252'?><class/>", 0, 1, "unknown encoding"},
+      {"unknown encoding", "<?xml version='1.0' encoding='windows-1252'?><class/>", 0, 1, "unknown encoding",
+       kClassFaultEncoding, "windows-1252"},
       {"recursive entity", "<!DOCTYPE class [<!ENTITY a '&b;'><!ENTITY b '&a;'>]><class>&a;</class>", 0, 1,
        "recursive entity reference"},
   };
   for (const Row& row : rows) {
     std::istringstream stream(row.document);
     qz::ClassRecord record;
-    QZClassParseError error;
-    EXPECT_FALSE(QZClassParse(&record, stream, &error)) << row.what;
+    QZClassParseReport report;
+    EXPECT_FALSE(QZClassParse(&record, stream, &report)) << row.what;
     EXPECT_EQ(record.students.size(), row.students) << row.what;
-    EXPECT_EQ(error.line, row.line) << row.what;
-    EXPECT_GT(error.column, 0U) << row.what;
-    EXPECT_STREQ(error.reason, row.reason) << row.what;
+    EXPECT_EQ(report.line, row.line) << row.what;
+    EXPECT_GT(report.column, 0U) << row.what;
+    EXPECT_STREQ(report.reason, row.reason) << row.what;
+    EXPECT_EQ(report.fault, row.fault) << row.what;
+    EXPECT_EQ(report.encoding, row.encoding) << row.what;
   }
 }
 
@@ -97,8 +106,8 @@ TEST(HostileInput, HugeDocuments) {
   for (const Row& row : rows) {
     std::istringstream stream(row.document);
     qz::ClassRecord record;
-    QZClassParseError error;
-    EXPECT_TRUE(QZClassParse(&record, stream, &error)) << row.what << ": " << error.reason;
+    QZClassParseReport report;
+    EXPECT_TRUE(QZClassParse(&record, stream, &report)) << row.what << ": " << report.reason;
     EXPECT_EQ(record.students.size(), row.students) << row.what;
   }
 }
@@ -119,9 +128,9 @@ TEST(HostileInput, EntitiesNeitherGrowNorNestWithoutBound) {
   for (const std::string& document : {laughs.str(), chain.str()}) {
     std::istringstream stream(document);
     qz::ClassRecord record;
-    QZClassParseError error;
-    EXPECT_FALSE(QZClassParse(&record, stream, &error));
-    EXPECT_NE(error.reason, nullptr);
+    QZClassParseReport report;
+    EXPECT_FALSE(QZClassParse(&record, stream, &report));
+    EXPECT_NE(report.reason, nullptr);
   }
 }
 

@@ -60,14 +60,14 @@ TEST(OutOfMemory, EveryAllocationMayFail) {
   for (bool parsed = false; !parsed; failing += failing < 3000 ? 1 : 97) {
     std::istringstream stream(document);
     qz::ClassRecord record;
-    QZClassParseError error;
+    QZClassParseReport report;
     gAllocationsLeft = failing;
-    parsed = QZClassParse(&record, stream, &error);
+    parsed = QZClassParse(&record, stream, &report);
     gAllocationsLeft = kNever;
-    ASSERT_EQ(error.reason == nullptr, parsed) << failing;
+    ASSERT_EQ(report.reason == nullptr, parsed) << failing;
     if (!parsed) {
-      ASSERT_STREQ(error.reason, "out of memory") << failing;
-      ASSERT_GT(error.line, 0U);
+      ASSERT_STREQ(report.reason, "out of memory") << failing;
+      ASSERT_GT(report.line, 0U);
     }
     ASSERT_LE(record.students.size(), 8U);
     if (parsed) {

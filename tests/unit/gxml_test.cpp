@@ -61,7 +61,7 @@ void Walk(_XmlElementListTag* list, std::set<int32_t>* ids, std::string* textCon
 TEST(ElementTables, HoldEveryElementOnce) {
   std::set<int32_t> ids;
   std::string textContainers;
-  Walk(XmlElementRootList(), &ids, &textContainers);
+  Walk(_gRootElement, &ids, &textContainers);
   EXPECT_EQ(ids.size(), 1U + 13 + 11 + 1 + 15 + 1 + 11 + 1 + 9 + 1 + 4 + 1 + 2);
   EXPECT_EQ(textContainers, "student ") << "of the containers, only a student keeps its character data";
 }

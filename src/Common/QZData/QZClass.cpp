@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace qz {
 
@@ -25,12 +26,20 @@ const ResultsRecord* AssignmentRecord::FindResultsForStudent(int32_t studentID) 
   return found == results.end() ? nullptr : &*found;
 }
 
+ResultsRecord* AssignmentRecord::FindResultsForStudent(int32_t studentID) {
+  return const_cast<ResultsRecord*>(std::as_const(*this).FindResultsForStudent(studentID));
+}
+
 const ResponseRecord* ResultsRecord::FindResponseForQuestion(const QuestionRecord& question) const {
   const auto found =
       std::find_if(responses.begin(), responses.end(), [&question](const ResponseRecord& response) {
         return response.questionID == question.questionID && response.bankID == question.bankID;
       });
   return found == responses.end() ? nullptr : &*found;
+}
+
+ResponseRecord* ResultsRecord::FindResponseForQuestion(const QuestionRecord& question) {
+  return const_cast<ResponseRecord*>(std::as_const(*this).FindResponseForQuestion(question));
 }
 
 double ResultsRecord::GetTotalPoints() const {

@@ -69,6 +69,7 @@ struct ResultsRecord {
   std::vector<ResponseRecord> responses;
 
   // The first response to the question, or null.
+  ResponseRecord* FindResponseForQuestion(const QuestionRecord& question);
   const ResponseRecord* FindResponseForQuestion(const QuestionRecord& question) const;
   // Sum of the points earned, in list order.
   double GetTotalPoints() const;
@@ -108,6 +109,7 @@ struct AssignmentRecord {
   std::vector<QuestionRecord> questions;
 
   // The first results record of the student with that id, or null.
+  ResultsRecord* FindResultsForStudent(int32_t studentID);
   const ResultsRecord* FindResultsForStudent(int32_t studentID) const;
 };
 

@@ -4,6 +4,7 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "Common/QZXMLParse/QZClassParseContext.h"
 #include "Common/QZXMLParse/QZClassParseHandlers.h"
@@ -37,6 +38,7 @@ bool _SetCallback(std::string_view path, XmlParserHandler handler) {
 
 void _SetCallbacks() {
   XmlElementClearAllUserData();
+  _SetCallback("class/class-name", _HandleClassName);
   _SetCallback("class/preferences", _HandlePreferences);
   _SetCallback("class/student-list/student", _HandleStudent);
   _SetCallback("class/assignment-list/assignment", _HandleAssignment);
@@ -53,12 +55,12 @@ void _SetCallbacks() {
 
 }  // namespace
 
-bool QZClassParse(qz::ClassRecord* record, std::istream& stream, QZClassParseError* error) {
+bool QZClassParse(qz::ClassRecord* record, std::istream& stream, QZClassParseReport* report) {
   _SetCallbacks();
   cXmlParserContext context(record);
   const bool parsed = context.ProcessFile(stream);
   // Files give no sort key. Equal keys may come out in any order; file order is what a teacher expects.
   std::stable_sort(record->assignments.begin(), record->assignments.end(), qz::AssignmentLess());
-  if (error != nullptr) *error = context.Error();
+  if (report != nullptr) *report = std::move(context.Report());
   return parsed;
 }

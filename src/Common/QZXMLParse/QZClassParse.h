@@ -4,20 +4,36 @@
 
 #include <cstdint>
 #include <iosfwd>
+#include <string>
 
 #include "Common/QZData/QZClass.h"
 
-// Where and why a read failed.
-struct QZClassParseError {
+enum QZClassFault : int32_t {
+  kClassFaultNone = 0,
+  kClassFaultMalformed = 1,
+  kClassFaultOutOfMemory = 2,
+  kClassFaultEncoding = 3,      // neither UTF-8 nor US-ASCII nor ISO-8859-1
+  kClassFaultNotAClass = 5,     // the document element is not class
+  kClassFaultDeclarations = 6,  // declares more than the parser can handle in bounded time and memory
+};
+
+// What a read can tell beyond its records.
+struct QZClassParseReport {
+  // The first fault, and where the parser stood. Without a fault the place is 0 and the reason null.
+  QZClassFault fault = kClassFaultNone;
   uint64_t line = 0;             // 1-based
   uint64_t column = 0;           // 1-based, in bytes
-  const char* reason = nullptr;  // static text; null: nothing was wrong
+  const char* reason = nullptr;  // static text
+  std::string encoding;          // the one that is not supported, as far as it is known
+
+  std::string className;            // UTF-8, as written, up to about 800 bytes; empty when there is none
+  uint64_t replacedCharacters = 0;  // became "?" in a text of the records because Mac OS Roman lacks them
 };
 
 // Reads a class file (XML: UTF-8, US-ASCII or a declared ISO-8859-1) from `stream` and appends to `record`.
 // Returns false when the document is malformed or its document element is not class; the records completed
-// before the fault stay. `error`, unless null, receives the first fault. Assignments end up sorted by
-// AssignmentLess. One parse at a time: the element tables are process-wide.
-bool QZClassParse(qz::ClassRecord* record, std::istream& stream, QZClassParseError* error = nullptr);
+// before the fault stay. `report`, unless null, is overwritten. Assignments end up sorted by AssignmentLess.
+// One parse at a time: the element tables are process-wide.
+bool QZClassParse(qz::ClassRecord* record, std::istream& stream, QZClassParseReport* report = nullptr);
 
 #endif  // GRADIX_QZCLASSPARSE_H

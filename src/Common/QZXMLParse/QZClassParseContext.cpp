@@ -21,10 +21,21 @@ constexpr size_t kMaximumRead = size_t{1} << 26;
 constexpr int32_t kMaximumEntities = 1000;
 constexpr float kMaximumEntityAmplification = 10.0F;
 
+constexpr size_t kMaximumEncodingName = 40;
+
 // The part of `name` behind its namespace.
 const char* _SkipNamespace(const char* name) {
   const char* separator = std::strrchr(name, '#');
   return separator == nullptr ? name : separator + 1;
+}
+
+// With or without a byte order mark: a document begins with "<".
+bool _IsUtf16(const char* bytes, size_t count) {
+  if (count < 2) return false;
+  const auto first = static_cast<unsigned char>(bytes[0]);
+  const auto second = static_cast<unsigned char>(bytes[1]);
+  return (first == 0xFE && second == 0xFF) || (first == 0xFF && second == 0xFE) ||
+         (first == '<' && second == 0) || (first == 0 && second == '<');
 }
 
 }  // namespace
@@ -36,6 +47,7 @@ cXmlParserContext::cXmlParserContext(qz::ClassRecord* record)
   XML_SetElementHandler(m_parser, StartElement, EndElement);
   XML_SetCharacterDataHandler(m_parser, CharacterData);
   XML_SetEntityDeclHandler(m_parser, EntityDeclaration);
+  XML_SetUnknownEncodingHandler(m_parser, UnknownEncoding, this);
   XML_SetBillionLaughsAttackProtectionMaximumAmplification(m_parser, kMaximumEntityAmplification);
 }
 
@@ -46,7 +58,8 @@ cXmlParserContext::~cXmlParserContext() {
 
 bool cXmlParserContext::ProcessFile(std::istream& stream) {
   if (m_parser == nullptr) {
-    m_error.reason = "out of memory";
+    m_report.fault = kClassFaultOutOfMemory;
+    m_report.reason = "out of memory";
     return false;
   }
   for (;;) {
@@ -54,13 +67,13 @@ bool cXmlParserContext::ProcessFile(std::istream& stream) {
     auto* buffer = static_cast<char*>(XML_GetBuffer(m_parser, static_cast<int>(size + 1)));
     if (buffer == nullptr) {
       // Kept as it always was: not having a buffer is recorded, but the parse does not count as failed.
-      AddError(kXmlOutOfMemory, "out of memory");
+      AddOutOfMemory();
       return true;
     }
     const int length = ReadChunks(stream, buffer, size);
     const bool final = stream.fail();
     if (XML_ParseBuffer(m_parser, length, final ? XML_TRUE : XML_FALSE) == XML_STATUS_ERROR) {
-      if (!m_aborted) SetError(XML_ErrorString(XML_GetErrorCode(m_parser)));
+      if (!m_aborted) AddParserError();
       return false;
     }
     if (m_aborted) return false;
@@ -81,6 +94,7 @@ int cXmlParserContext::ReadChunks(std::istream& stream, char* buffer, size_t siz
     char* chunk = buffer + length;
     stream.read(chunk, static_cast<std::streamsize>(kChunkSize));
     const auto count = static_cast<size_t>(stream.gcount());
+    if (m_bytesFed == 0 && done == 0 && _IsUtf16(chunk, count)) m_isUtf16 = true;
     // A zero byte ends its chunk.
     const void* zero = std::memchr(chunk, 0, count);
     length += zero == nullptr ? count : static_cast<size_t>(static_cast<const char*>(zero) - chunk);
@@ -102,7 +116,7 @@ void XMLCALL cXmlParserContext::EndElement(void* self, const XML_Char* /*name*/)
   try {
     context->End();
   } catch (const std::exception&) {
-    context->AddError(kXmlOutOfMemory, "out of memory");
+    context->AddOutOfMemory();
   }
 }
 
@@ -116,12 +130,21 @@ void XMLCALL cXmlParserContext::EntityDeclaration(void* self, const XML_Char* /*
                                                   const XML_Char*) {
   auto* context = static_cast<cXmlParserContext*>(self);
   if (context->m_aborted || ++context->m_entityCount <= kMaximumEntities) return;
-  context->AddError(kXmlTooManyEntities, "too many entity declarations");
+  context->AddError(kClassFaultDeclarations, "too many entity declarations");
   XML_StopParser(context->m_parser, XML_FALSE);
 }
 
+int XMLCALL cXmlParserContext::UnknownEncoding(void* self, const XML_Char* name, XML_Encoding* /*encoding*/) {
+  try {
+    static_cast<cXmlParserContext*>(self)->m_report.encoding.assign(
+        name, std::min(std::strlen(name), kMaximumEncodingName));
+  } catch (const std::bad_alloc&) {  // it stays without a name
+  }
+  return XML_STATUS_ERROR;
+}
+
 _XmlElementListTag* cXmlParserContext::ChildList() const {
-  if (m_depth == 0) return XmlElementRootList();
+  if (m_depth == 0) return _gRootElement;
   const _XmlElementListTag* entry = m_path[static_cast<size_t>(m_depth) - 1].entry;
   return entry == nullptr ? nullptr : entry->children;
 }
@@ -138,14 +161,14 @@ void cXmlParserContext::Start(const char* name, const char** attributes) {
     if (entry != nullptr && IsRepeatedText(*entry)) entry = nullptr;
     m_path[static_cast<size_t>(m_depth)] = {entry, 0};
   }
-  if (m_depth == 0 && entry == nullptr) AddError(kXmlNotAClass, "the document element is not class");
+  if (m_depth == 0 && entry == nullptr) AddError(kClassFaultNotAClass, "the document element is not class");
   ++m_depth;
   if (entry == nullptr) return;
 
   _XmlTreeTag* node =
       XmlTreeNewNode(m_node, entry->elementID, static_cast<int32_t>(XML_GetCurrentLineNumber(m_parser)),
                      static_cast<long>(XML_GetCurrentByteIndex(m_parser)));
-  if (node == nullptr) return AddError(kXmlOutOfMemory, "out of memory");
+  if (node == nullptr) return AddOutOfMemory();
   m_node = node;
   for (; *attributes != nullptr; attributes += 2) {
     XmlTreeAddAttribute(node, _SkipNamespace(attributes[0]), attributes[1]);
@@ -157,7 +180,7 @@ void cXmlParserContext::Text(const char* text, int32_t length) {
   OpenElement& open = m_path[static_cast<size_t>(m_depth) - 1];
   if (open.entry == nullptr || !open.entry->acceptChars) return;
   if (open.textBytes >= kMaximumTextBytes) return;
-  if (!XmlTreeAddText(m_node, text, length)) return AddError(kXmlOutOfMemory, "out of memory");
+  if (!XmlTreeAddText(m_node, text, length)) return AddOutOfMemory();
   open.textBytes += length;
 }
 
@@ -172,15 +195,23 @@ void cXmlParserContext::End() {
   if (parent != nullptr) m_node = parent;
 }
 
-void cXmlParserContext::AddError(XmlParserErrorCode code, const char* reason) {
-  m_errorCode = code;
+void cXmlParserContext::AddError(QZClassFault fault, const char* reason) {
   m_aborted = true;
-  SetError(reason);
+  SetError(fault, reason);
 }
 
-void cXmlParserContext::SetError(const char* reason) {
-  if (m_error.reason != nullptr) return;
-  m_error.line = XML_GetCurrentLineNumber(m_parser);
-  m_error.column = XML_GetCurrentColumnNumber(m_parser) + 1;
-  m_error.reason = reason;
+void cXmlParserContext::AddParserError() {
+  const XML_Error error = XML_GetErrorCode(m_parser);
+  if (m_isUtf16) m_report.encoding = "UTF-16";
+  QZClassFault fault = m_report.encoding.empty() ? kClassFaultMalformed : kClassFaultEncoding;
+  if (error == XML_ERROR_NO_MEMORY) fault = kClassFaultOutOfMemory;
+  SetError(fault, XML_ErrorString(error));
+}
+
+void cXmlParserContext::SetError(QZClassFault fault, const char* reason) {
+  if (m_report.reason != nullptr) return;
+  m_report.fault = fault;
+  m_report.line = XML_GetCurrentLineNumber(m_parser);
+  m_report.column = XML_GetCurrentColumnNumber(m_parser) + 1;
+  m_report.reason = reason;
 }

@@ -23,13 +23,6 @@ using XmlParserHandler = bool (*)(cXmlParserContext* context);
 // Elements nested deeper are skipped.
 constexpr int32_t kMaximumDepth = 40;
 
-enum XmlParserErrorCode : int32_t {
-  kXmlNoError = 0,
-  kXmlOutOfMemory = 2,
-  kXmlNotAClass = 5,        // the document element is not class
-  kXmlTooManyEntities = 6,  // more entity declarations than the parser can nest safely
-};
-
 // The assignment being read. Only the first list of each kind counts, as for every repeated element.
 struct PendingAssignment {
   qz::AssignmentRecord record;
@@ -49,7 +42,7 @@ class cXmlParserContext {
   // Parses the stream to its end or to the first fault; false when there was one.
   bool ProcessFile(std::istream& stream);
 
-  const QZClassParseError& Error() const { return m_error; }
+  QZClassParseReport& Report() { return m_report; }
   qz::ClassRecord* Class() { return m_classRecord; }
   PendingAssignment& Pending() { return m_pending; }
 
@@ -69,6 +62,7 @@ class cXmlParserContext {
                                         const XML_Char* value, int valueLength, const XML_Char* base,
                                         const XML_Char* systemID, const XML_Char* publicID,
                                         const XML_Char* notation);
+  static int XMLCALL UnknownEncoding(void* self, const XML_Char* name, XML_Encoding* encoding);
 
   void Start(const char* name, const char** attributes);
   void End();
@@ -84,19 +78,22 @@ class cXmlParserContext {
   // Reads chunks of the stream into the parser's buffer. Returns the bytes there are to parse.
   int ReadChunks(std::istream& stream, char* buffer, size_t size);
 
-  void AddError(XmlParserErrorCode code, const char* reason);
-  void SetError(const char* reason);
+  // Stops the parse.
+  void AddError(QZClassFault fault, const char* reason);
+  void AddOutOfMemory() { AddError(kClassFaultOutOfMemory, "out of memory"); }
+  void AddParserError();
+  void SetError(QZClassFault fault, const char* reason);
 
   qz::ClassRecord* m_classRecord;
   _XmlTreeTag* m_node = nullptr;
   XML_Parser m_parser;
   int32_t m_depth = 0;  // open elements, known or not
   std::array<OpenElement, kMaximumDepth> m_path{};
-  XmlParserErrorCode m_errorCode = kXmlNoError;
   bool m_aborted = false;  // the callbacks do nothing any more
   int32_t m_entityCount = 0;
   uint64_t m_bytesFed = 0;
-  QZClassParseError m_error;
+  bool m_isUtf16 = false;
+  QZClassParseReport m_report;
   PendingAssignment m_pending;
 };
 

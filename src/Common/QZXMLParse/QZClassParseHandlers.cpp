@@ -30,33 +30,37 @@ size_t _TranslateString(char* text) {
   return length;
 }
 
-// Text of the direct child `id` as Mac OS Roman, at most `size` characters, into a buffer of size + 1 bytes;
-// empty when there is none. Returns the length.
-size_t _GetElementText(const _XmlTreeTag* node, int32_t id, char* buffer, int32_t size) {
+// Text of the ended element's direct child `id` as Mac OS Roman, at most `size` characters, into a buffer of
+// size + 1 bytes; empty when there is none. Returns the length. What Roman lacks is added to `*replaced`.
+size_t _GetElementText(cXmlParserContext* context, int32_t id, char* buffer, int32_t size,
+                       uint64_t* replaced) {
   buffer[0] = '\0';
-  const _XmlTreeTag* child = XmlTreeFindNode(node, id);
+  const _XmlTreeTag* child = XmlTreeFindNode(context->Node(), id);
   if (child == nullptr) return 0;
-  XmlTreeGetAllText(child, buffer, size);
+  *replaced += XmlTreeJoinText(child, buffer, size);
   return _TranslateString(buffer);
 }
 
 using ElementText = std::array<char, kMaximumText + 1>;
 
-std::string _GetElementText(const _XmlTreeTag* node, int32_t id) {
+std::string _GetElementText(cXmlParserContext* context, int32_t id) {
   ElementText text;
-  const size_t length = _GetElementText(node, id, text.data(), kMaximumText);
+  const size_t length =
+      _GetElementText(context, id, text.data(), kMaximumText, &context->Report().replacedCharacters);
   return std::string(text.data(), length);
 }
 
-int32_t _GetElementInt(const _XmlTreeTag* node, int32_t id) {
+int32_t _GetElementInt(cXmlParserContext* context, int32_t id) {
   ElementText text;
-  _GetElementText(node, id, text.data(), kMaximumText);
+  uint64_t replaced = 0;  // in no text of the records
+  _GetElementText(context, id, text.data(), kMaximumText, &replaced);
   return ParseInt32(text.data());
 }
 
-double _GetElementDouble(const _XmlTreeTag* node, int32_t id) {
+double _GetElementDouble(cXmlParserContext* context, int32_t id) {
   ElementText text;
-  const size_t length = _GetElementText(node, id, text.data(), kMaximumText);
+  uint64_t replaced = 0;
+  const size_t length = _GetElementText(context, id, text.data(), kMaximumText, &replaced);
   return ParseDouble(text.data(), length);
 }
 
@@ -81,11 +85,20 @@ bool _DeleteElement(cXmlParserContext* context) {
 
 }  // namespace
 
+bool _HandleClassName(cXmlParserContext* context) {
+  const _XmlTreeTag* node = context->Node();
+  for (int32_t i = 0; i < node->itemCount; ++i) {
+    if (node->items[i].kind != kXmlTreeText) continue;
+    context->Report().className += static_cast<const char*>(node->items[i].data);
+  }
+  return true;
+}
+
 bool _HandlePreferences(cXmlParserContext* context) {
   constexpr std::array<int32_t, 3> kLabels = {kElementLabel1, kElementLabel2, kElementLabel3};
   for (size_t i = 0; i < kLabels.size(); ++i) {
     std::array<char, kMaximumLabel + 1> label;
-    _GetElementText(context->Node(), kLabels[i], label.data(), kMaximumLabel);
+    _GetElementText(context, kLabels[i], label.data(), kMaximumLabel, &context->Report().replacedCharacters);
     if (label[0] != '\0') context->Class()->customLabels[i] = label.data();
   }
   return _DeleteElement(context);
@@ -94,23 +107,23 @@ bool _HandlePreferences(cXmlParserContext* context) {
 bool _HandleStudent(cXmlParserContext* context) {
   const _XmlTreeTag* node = context->Node();
   qz::StudentRecord student;
-  student.firstName = _GetElementText(node, kElementFirstName);
-  student.lastName = _GetElementText(node, kElementLastName);
-  student.studentID = _GetElementText(node, kElementStudentID);
-  student.alias = _GetElementText(node, kElementAlias);
-  student.password = _GetElementText(node, kElementPassword);
+  student.firstName = _GetElementText(context, kElementFirstName);
+  student.lastName = _GetElementText(context, kElementLastName);
+  student.studentID = _GetElementText(context, kElementStudentID);
+  student.alias = _GetElementText(context, kElementAlias);
+  student.password = _GetElementText(context, kElementPassword);
   student.id = XmlTreeGetAttributeInt(node, "id");
-  student.dateOfBirth = _GetElementText(node, kElementDateOfBirth);
-  student.padID = _GetElementText(node, kElementPadID);
-  student.gradeLevel = _GetElementText(node, kElementGradeLevel);
-  student.gender = _GetElementText(node, kElementGender);
+  student.dateOfBirth = _GetElementText(context, kElementDateOfBirth);
+  student.padID = _GetElementText(context, kElementPadID);
+  student.gradeLevel = _GetElementText(context, kElementGradeLevel);
+  student.gender = _GetElementText(context, kElementGender);
   _NormalizeGender(&student.gender);
-  student.sociological = _GetElementText(node, kElementSociological);
-  student.race = _GetElementText(node, kElementRace);
-  student.other = _GetElementText(node, kElementOther);
-  student.custom[0] = _GetElementText(node, kElementCustom1);
-  student.custom[1] = _GetElementText(node, kElementCustom2);
-  student.custom[2] = _GetElementText(node, kElementCustom3);
+  student.sociological = _GetElementText(context, kElementSociological);
+  student.race = _GetElementText(context, kElementRace);
+  student.other = _GetElementText(context, kElementOther);
+  student.custom[0] = _GetElementText(context, kElementCustom1);
+  student.custom[1] = _GetElementText(context, kElementCustom2);
+  student.custom[2] = _GetElementText(context, kElementCustom3);
   context->Class()->students.push_back(std::move(student));
   return _DeleteElement(context);
 }
@@ -120,13 +133,13 @@ bool _HandleQuestion(cXmlParserContext* context) {
   if (!pending.questionListEnded) {
     const _XmlTreeTag* node = context->Node();
     qz::QuestionRecord question;
-    question.answer = _GetElementText(node, kElementAnswer);
-    question.learningObjective = _GetElementText(node, kElementLearningObjective);
+    question.answer = _GetElementText(context, kElementAnswer);
+    question.learningObjective = _GetElementText(context, kElementLearningObjective);
     question.number = XmlTreeGetAttributeInt(node, "number");
-    question.numChoices = _GetElementInt(node, kElementNumChoices);
-    question.pointsPossible = _GetElementDouble(node, kElementQuestionPoints);
-    question.reference = _GetElementText(node, kElementReference);
-    question.stateStandard = _GetElementText(node, kElementStateStandard);
+    question.numChoices = _GetElementInt(context, kElementNumChoices);
+    question.pointsPossible = _GetElementDouble(context, kElementQuestionPoints);
+    question.reference = _GetElementText(context, kElementReference);
+    question.stateStandard = _GetElementText(context, kElementStateStandard);
     question.type = _GetQuestionType(XmlTreeGetAttribute(node, "type"));
     question.questionID = XmlTreeGetAttributeInt(node, "question-id");
     question.bankID = XmlTreeGetAttributeInt(node, "bank-id");
@@ -142,13 +155,13 @@ bool _HandleQuestionList(cXmlParserContext* context) {
 
 bool _HandleResponse(cXmlParserContext* context) {
   PendingAssignment& pending = context->Pending();
-  if (!pending.responseListEnded) {
+  if (!pending.responseListEnded && !pending.resultsListEnded) {
     const _XmlTreeTag* node = context->Node();
     qz::ResponseRecord& response = pending.responses.emplace_back();
     response.questionID = XmlTreeGetAttributeInt(node, "question-id");
     response.bankID = XmlTreeGetAttributeInt(node, "bank-id");
-    response.text = _GetElementText(node, kElementText);
-    response.pointsEarned = _GetElementDouble(node, kElementPointsEarned);
+    response.text = _GetElementText(context, kElementText);
+    response.pointsEarned = _GetElementDouble(context, kElementPointsEarned);
   }
   return _DeleteElement(context);
 }
@@ -181,12 +194,12 @@ bool _HandleAssignment(cXmlParserContext* context) {
   const _XmlTreeTag* node = context->Node();
   PendingAssignment& pending = context->Pending();
   qz::AssignmentRecord& assignment = pending.record;
-  assignment.name = _GetElementText(node, kElementAssignmentName);
-  assignment.assignmentID = _GetElementText(node, kElementAssignmentID);
-  assignment.date = _GetElementText(node, kElementAssignmentDate);
-  assignment.category = _GetElementText(node, kElementCategory);
-  assignment.onlineID = _GetElementText(node, kElementOnlineID);
-  assignment.pointsPossible = _GetElementInt(node, kElementAssignmentPoints);
+  assignment.name = _GetElementText(context, kElementAssignmentName);
+  assignment.assignmentID = _GetElementText(context, kElementAssignmentID);
+  assignment.date = _GetElementText(context, kElementAssignmentDate);
+  assignment.category = _GetElementText(context, kElementCategory);
+  assignment.onlineID = _GetElementText(context, kElementOnlineID);
+  assignment.pointsPossible = _GetElementInt(context, kElementAssignmentPoints);
   assignment.id = XmlTreeGetAttributeInt(node, "id");
   context->Class()->assignments.push_back(std::move(assignment));
   pending = PendingAssignment();

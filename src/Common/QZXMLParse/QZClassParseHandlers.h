@@ -5,6 +5,9 @@
 
 class cXmlParserContext;
 
+// This one's text goes into the report.
+bool _HandleClassName(cXmlParserContext* context);
+
 // These append to the class record.
 bool _HandlePreferences(cXmlParserContext* context);
 bool _HandleStudent(cXmlParserContext* context);

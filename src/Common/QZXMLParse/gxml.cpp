@@ -138,10 +138,14 @@ List _gClassElement[] = {
     _End(),
 };
 
-List _gRootElement[] = {
+}  // namespace
+
+_XmlElementListTag _gRootElement[2] = {
     _Container(kElementClass, "class", _gClassElement),
     _End(),
 };
+
+namespace {
 
 // The first enabled entry of `list` that `matches`, or null.
 template <typename Matches>
@@ -192,10 +196,6 @@ void _ClearDataHelper(List* list, VisitedLists* visited) {
 }
 
 }  // namespace
-
-_XmlElementListTag* XmlElementRootList() {
-  return _gRootElement;
-}
 
 _XmlElementListTag* XmlElementFindEntry(_XmlElementListTag* list, const char* name) {
   return _FindEntry(

@@ -106,8 +106,8 @@ struct _XmlElementListTag {
   intptr_t userData;
 };
 
-// The list valid at depth 0.
-_XmlElementListTag* XmlElementRootList();
+// The list valid at depth 0: the document element.
+extern _XmlElementListTag _gRootElement[2];
 
 // The enabled entry of `list` with that name (exact comparison), or null. A null list has no entries.
 _XmlElementListTag* XmlElementFindEntry(_XmlElementListTag* list, const char* name);

@@ -46,11 +46,11 @@ void _SetFault(ReadResult* result, ReadFault fault, const QString& reason) {
   result->reason = reason;
 }
 
-void _SetParseFault(ReadResult* result, const QZClassParseError& error) {
+void _SetParseFault(ReadResult* result, const QZClassParseReport& report) {
   _SetFault(result, _IsAnotherDocument(result->path) ? ReadFault::kNotAClass : ReadFault::kMalformed,
-            QString::fromUtf8(error.reason));
-  result->line = error.line;
-  result->column = error.column;
+            QString::fromUtf8(report.reason));
+  result->line = report.line;
+  result->column = report.column;
 }
 
 void _Complete(OpenClass* openClass) {
@@ -75,13 +75,13 @@ void _Read(ReadResult* result) {
   }
   const auto openClass = std::make_shared<OpenClass>();
   openClass->path = result->path;
-  QZClassParseError error;
+  QZClassParseReport report;
   errno = 0;
-  const bool parsed = QZClassParse(&openClass->record, stream, &error);
+  const bool parsed = QZClassParse(&openClass->record, stream, &report);
   if (stream.bad()) {
     _SetFault(result, ReadFault::kCannotRead, _SystemReason(errno));
-  } else if (!parsed || error.reason != nullptr) {
-    _SetParseFault(result, error);
+  } else if (!parsed || report.reason != nullptr) {
+    _SetParseFault(result, report);
   } else {
     _Complete(openClass.get());
     result->openClass = openClass;

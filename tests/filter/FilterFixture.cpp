@@ -13,7 +13,9 @@
 #include <iterator>
 #include <stdexcept>
 
-static int32_t _ChooseFile(void* dialog, int32_t reserved, char* path, int32_t size, uintptr_t value) {
+namespace {
+
+int32_t _ChooseFile(void* dialog, int32_t reserved, char* path, int32_t size, uintptr_t value) {
   auto& chooser = *reinterpret_cast<FileChooser*>(value);
   chooser.calls.push_back({dialog, reserved, size});
   const size_t length = std::min(chooser.path.size() + 1, static_cast<size_t>(size));
@@ -21,6 +23,8 @@ static int32_t _ChooseFile(void* dialog, int32_t reserved, char* path, int32_t s
   if (chooser.meanwhile) chooser.meanwhile();
   return chooser.answer;
 }
+
+}  // namespace
 
 FilterModule& FilterTest::Module() {
   static FilterModule s_module;
@@ -91,21 +95,18 @@ void FilterTest::RunEvents() {
 }
 
 QWidget* FilterTest::Item(QWidget* dialog, int item) {
-  auto* const widget = dialog->findChild<QWidget*>(QStringLiteral("item%1").arg(item));
+  QWidget* const widget = gestures::Item(dialog, item);
   if (widget == nullptr) throw std::out_of_range("no item " + std::to_string(item));
   return widget;
 }
 
 void FilterTest::Click(QWidget* dialog, int item) {
-  QWidget* const widget = Item(dialog, item);
-  constexpr int kInTitle = 10;  // from the left edge
-  QTest::mouseClick(widget, Qt::LeftButton, {}, QPoint(kInTitle, widget->height() / 2));
+  gestures::Click(Item(dialog, item));
   RunEvents();
 }
 
 void FilterTest::Key(QWidget* dialog, int key, Qt::KeyboardModifiers modifiers) {
-  QWidget* const focus = dialog->focusWidget();
-  QTest::keyClick(focus != nullptr ? focus : dialog, static_cast<Qt::Key>(key), modifiers);
+  gestures::Type(dialog, key, modifiers);
   RunEvents();
 }
 
@@ -125,34 +126,16 @@ void FilterTest::Press(QWidget* dialog, int item, Input input) {
 void FilterTest::ChooseRow(QWidget* dialog, int popup, int row, Input input) {
   const int from = SelectedRow(dialog, popup);
   Press(dialog, popup, input);
-  QWidget* const menu = QApplication::activePopupWidget();
-  ASSERT_NE(menu, nullptr);
-  auto* const rows = menu->findChild<QAbstractItemView*>();
-  ASSERT_NE(rows, nullptr);
-  if (input == Input::mouse) {
-    const QPoint where = rows->visualRect(rows->model()->index(row, 0)).center();
-    QTest::mouseMove(rows->viewport(), where);
-    QTest::mouseClick(rows->viewport(), Qt::LeftButton, {}, where);
-  } else {
-    for (int i = from; i < row; ++i) QTest::keyClick(rows, Qt::Key_Down);
-    for (int i = from; i > row; --i) QTest::keyClick(rows, Qt::Key_Up);
-    QTest::keyClick(rows, Qt::Key_Return);
-  }
+  gestures::ChooseFromOpenPopup(from, row, input);
   RunEvents();
   EXPECT_EQ(SelectedRow(dialog, popup), row);
 }
 
 void FilterTest::ToggleRow(QWidget* dialog, int list, int row, Input input) {
-  auto* const view = qobject_cast<QAbstractItemView*>(Item(dialog, list));
-  ASSERT_NE(view, nullptr);
+  constexpr int kInCheckMark = 6;  // from the left edge
   if (input == Input::mouse) {
-    const QModelIndex index = view->model()->index(row, 0);
-    view->scrollTo(index);
-    const QRect bounds = view->visualRect(index);
-    constexpr int kInCheckMark = 6;  // from the left edge
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, {kInCheckMark, bounds.center().y()});
-    RunEvents();
-    return;
+    gestures::ClickRow(qobject_cast<QAbstractItemView*>(Item(dialog, list)), row, {}, kInCheckMark);
+    return RunEvents();
   }
   FocusByTab(dialog, list);
   Key(dialog, Qt::Key_Home);

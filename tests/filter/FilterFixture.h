@@ -15,6 +15,7 @@
 
 #include "tests/filter/AlertAnswerer.h"
 #include "tests/filter/FilterModule.h"
+#include "tests/support/Gestures.h"
 
 // Items of the gradebook options.
 enum OptionsItem : int {
@@ -66,8 +67,6 @@ struct FileChooser {
   std::function<void()> meanwhile;
   std::vector<Call> calls;
 };
-
-enum class Input { mouse, keys };
 
 inline void PrintTo(Input input, std::ostream* stream) {
   *stream << (input == Input::mouse ? "mouse" : "keys");

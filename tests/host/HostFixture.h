@@ -5,12 +5,9 @@
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
-#include <QAbstractButton>
-#include <QApplication>
 #include <QFile>
 #include <QSettings>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QTimer>
 #include <functional>
 #include <string>
@@ -18,6 +15,7 @@
 #include "Host/App/Texts.h"
 #include "Host/Export/FilterModule.h"
 #include "tests/host/fake_filter.h"
+#include "tests/support/Gestures.h"
 
 inline const QString kFakeFilter = QStringLiteral(FILTERS "/fake_filter.so");
 
@@ -34,17 +32,12 @@ inline QByteArray ReadFile(const QString& path) {
 
 // The visible window of that name, or null.
 inline QWidget* FindWindow(const char* name) {
-  for (QWidget* window : QApplication::topLevelWidgets()) {
-    if (window->isVisible() && window->objectName() == QLatin1String(name)) return window;
-  }
-  return nullptr;
+  return gestures::FindWindow(
+      [name](const QWidget& window) { return window.objectName() == QLatin1String(name); });
 }
 
 inline void ClickButton(QWidget* window, host::TextID text) {
-  for (QAbstractButton* button : window->findChildren<QAbstractButton*>()) {
-    if (button->text() == host::Text(text)) return button->click();
-  }
-  ADD_FAILURE() << "no button " << host::Text(text).toStdString();
+  gestures::PressTitled(window, host::Text(text));
 }
 
 // Every test begins with empty settings, in English, and with a filter that has been asked for nothing.

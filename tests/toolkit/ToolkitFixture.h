@@ -4,10 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QMouseEvent>
-#include <QPointer>
-#include <QWidget>
 #include <functional>
 #include <string>
 #include <utility>
@@ -21,6 +17,7 @@
 #include "Toolkit/DLGItems.h"
 #include "Toolkit/DLGManager.h"
 #include "Toolkit/StartUp.h"
+#include "tests/support/Gestures.h"
 
 // Items of the demo dialog.
 enum DemoItem : int32_t {
@@ -83,18 +80,7 @@ class ToolkitTest : public testing::Test {
   }
   // The same at a point of the window. With `doubleClick` it is the second one of a double click.
   static void ClickAt(DLGRecord* dialog, Point where, bool doubleClick = false) {
-    QWidget* const window = Window(dialog);
-    ASSERT_NE(window, nullptr);
-    QPointer<QWidget> target = window->childAt(where.h, where.v);
-    if (target == nullptr) target = window;
-    const QPointF at = target->mapFrom(window, QPointF(where.h, where.v));
-    const QPointF onScreen = target->mapToGlobal(at);
-    QMouseEvent press(doubleClick ? QEvent::MouseButtonDblClick : QEvent::MouseButtonPress, at, onScreen,
-                      Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(target, &press);
-    QMouseEvent release(QEvent::MouseButtonRelease, at, onScreen, Qt::LeftButton, Qt::NoButton,
-                        Qt::NoModifier);
-    if (target != nullptr) QCoreApplication::sendEvent(target, &release);
+    gestures::ClickAt(Window(dialog), {where.h, where.v}, doubleClick);
     RunEventPass(0);
   }
 
@@ -112,17 +98,8 @@ class ToolkitTest : public testing::Test {
   }
 
   // The dialog's window, found by its title.
-  static QWidget* Window(DLGRecord* dialog) {
-    const QString title = QString::fromStdString(GetWTitle(dialog->window));
-    for (QWidget* window : QApplication::topLevelWidgets()) {
-      if (window->isVisible() && window->windowTitle() == title) return window;
-    }
-    return nullptr;
-  }
-  static QWidget* Widget(DLGRecord* dialog, int32_t item) {
-    QWidget* const window = Window(dialog);
-    return window != nullptr ? window->findChild<QWidget*>(QStringLiteral("item%1").arg(item)) : nullptr;
-  }
+  static QWidget* Window(DLGRecord* dialog) { return gestures::WindowTitled(GetWTitle(dialog->window)); }
+  static QWidget* Widget(DLGRecord* dialog, int32_t item) { return gestures::Item(Window(dialog), item); }
 
   // The items reported to the dialogs' item-hit procedure since the last call.
   std::vector<int32_t> TakeHits() { return std::exchange(m_hits, {}); }

@@ -1,7 +1,5 @@
 #include "Toolkit/CBCombo.h"
 
-#include <QAbstractItemView>
-#include <QTest>
 #include <string>
 #include <vector>
 
@@ -160,12 +158,7 @@ TEST_F(ComboTest, OpensItsRowsByKeyAndReportsTheChoice) {
   int32_t selected = 0;
   for (const auto& key : keys) {
     EXPECT_EQ(KeyAnswer(key.character, key.modifiers), 2);
-    QWidget* const popup = QApplication::activePopupWidget();
-    ASSERT_NE(popup, nullptr);
-    auto* const rows = popup->findChild<QAbstractItemView*>();
-    ASSERT_NE(rows, nullptr);
-    QTest::keyClick(rows, Qt::Key_Down);
-    QTest::keyClick(rows, Qt::Key_Return);
+    gestures::ChooseFromOpenPopup(selected, selected + 1, Input::keys);
     RunEventPass(1);
     EXPECT_EQ(CBGetSelect(m_dialog, kDemoCombo), ++selected);
     EXPECT_EQ(TakeHits(), std::vector<int32_t>{kDemoCombo});

@@ -3,7 +3,6 @@
 #include <QAccessible>
 #include <QLineEdit>
 #include <QTimer>
-#include <QtTest/QTest>
 
 #include "Platform/Ui/Windows.h"
 #include "Toolkit/Buttons.h"
@@ -20,10 +19,10 @@ constexpr int32_t kFieldsOK = 1, kFieldsCancel = 2, kFirst = 3, kSecond = 4, kTh
 class Events : public ToolkitTest {
  protected:
   static void Press(DLGRecord* dialog, int32_t item) {
-    QTest::mouseClick(Widget(dialog, item), Qt::LeftButton, {}, Widget(dialog, item)->rect().center());
+    QTest::mouseClick(Widget(dialog, item), Qt::LeftButton);
   }
   static void Type(DLGRecord* dialog, Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-    QTest::keyClick(Widget(dialog, 1)->window(), key, modifiers);
+    QTest::keyClick(Window(dialog), key, modifiers);
   }
 };
 

@@ -1,9 +1,6 @@
 // The rest of a dialog's operations: showing and hiding, item fields, hooks, start-up, numbered alerts.
-#include <QAbstractButton>
-#include <QMessageBox>
 #include <QScreen>
 #include <QTimer>
-#include <QtTest/QTest>
 
 #include "Common/Language.h"
 #include "Toolkit/Alert.h"
@@ -27,7 +24,7 @@ class State : public ToolkitTest {
       auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
       if (box == nullptr) return;
       text = box->text();
-      QTest::mouseClick(static_cast<QWidget*>(box->buttons().front()), Qt::LeftButton);
+      gestures::PressTitled(box, box->buttons().front()->text());
     });
     show();
     return text;

@@ -5,8 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QTest>
 #include <QWindow>
 #include <functional>
 #include <memory>
@@ -23,6 +21,7 @@
 #include "Platform/Ui/Menus.h"
 #include "tests/platform/fork_builder.h"
 #include "tests/platform/temp_folder.h"
+#include "tests/support/Gestures.h"
 
 // A resource file that is current while the object lives.
 class OpenFork {
@@ -156,16 +155,11 @@ class DialogTest : public ::testing::Test {
   ControlRef Item(int16_t number) const { return GetDialogItemAsControl(m_dialog, number); }
 
   // The top-level widget at the window's place, found the way assistive technology would: by its title.
-  static QWidget* WidgetOf(WindowRef window) {
-    for (QWidget* const widget : QApplication::topLevelWidgets()) {
-      if (widget->windowTitle().toStdString() == GetWTitle(window) && !widget->isHidden()) return widget;
-    }
-    return nullptr;
-  }
+  static QWidget* WidgetOf(WindowRef window) { return gestures::WindowTitled(GetWTitle(window)); }
 
   template <typename Widget = QWidget>
   Widget* ItemWidget(int16_t number) const {
-    return WidgetOf(m_window)->findChild<Widget*>(QStringLiteral("item%1").arg(number));
+    return gestures::Item<Widget>(WidgetOf(m_window), number);
   }
 
   QPoint MiddleOf(int16_t number) const {

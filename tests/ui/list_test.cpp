@@ -38,8 +38,7 @@ class ListTest : public DialogTest {
   QListView* View() const { return ItemWidget<QListView>(kList); }
 
   void ClickRow(int32_t row, Qt::KeyboardModifiers modifiers = {}) {
-    const QRect place = View()->visualRect(View()->model()->index(row, 0));
-    QTest::mouseClick(View()->viewport(), Qt::LeftButton, modifiers, place.center());
+    gestures::ClickRow(View(), row, modifiers);
   }
 
   static bool IsChecked(ListRef /*list*/, int32_t row) { return s_checked.contains(row); }

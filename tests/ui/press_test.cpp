@@ -1,7 +1,5 @@
 // Presses: from the event to the handler, from there to the widget, and what the widget made of them.
-#include <QAbstractItemView>
 #include <QCheckBox>
-#include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -266,9 +264,7 @@ TEST_F(PressTest, APopupOpensAndItsChoiceIsAnAction) {
     ASSERT_TRUE(combo->view()->isVisible());
     EXPECT_EQ(TakeLog(), EventLog{"down"});
     QTest::qWait(QApplication::doubleClickInterval() + 50);  // the list's own guard
-    const QPoint where = combo->view()->visualRect(combo->model()->index(row, 0)).center();
-    QTest::mouseMove(combo->view()->viewport(), where);
-    QTest::mouseClick(combo->view()->viewport(), Qt::LeftButton, {}, where);
+    gestures::ChooseFromOpenPopup(row - 1, row, Input::mouse);
     EXPECT_EQ(GetControlValue(Item(kPopup)), row + 1);
     EXPECT_EQ(TakeLog(), EventLog{"action item6"});
   }

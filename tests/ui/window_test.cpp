@@ -2,8 +2,6 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QFile>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QTimer>
 #include <QUrl>
 
@@ -230,13 +228,7 @@ class AlertTest : public WindowTest {
     WindowTest::TearDown();
   }
 
-  static QMessageBox* Box() {
-    for (QWidget* const widget : QApplication::topLevelWidgets()) {
-      auto* const box = qobject_cast<QMessageBox*>(widget);
-      if (box != nullptr && box->isVisible()) return box;
-    }
-    return nullptr;
-  }
+  static QMessageBox* Box() { return gestures::MessageBox(); }
 
   static void Later(const std::function<void(QMessageBox*)>& act) {
     QTimer::singleShot(50, [act] {
@@ -246,10 +238,7 @@ class AlertTest : public WindowTest {
   }
 
   static void Press(QMessageBox* box, const char* title) {
-    for (QAbstractButton* const button : box->buttons()) {
-      if (button->accessibleName() == QLatin1String(title)) return QTest::mouseClick(button, Qt::LeftButton);
-    }
-    ADD_FAILURE() << "no button " << title;
+    gestures::PressTitled(box, QString::fromUtf8(title));
   }
 
   CFStringRef m_message = nullptr;

@@ -73,7 +73,7 @@ void _SetUpGradebook(const ExportOptions& options, Session* session) {
   if (record->assignments.empty()) Warn("the class has no assignments; the file will hold the students only");
   CheckIdentifiers(*record, *options.format, options.userIDField, options.force);
   record->userIDField = options.userIDField;
-  session->SetUseQuotes(options.useQuotes);
+  session->m_bUseQuotes = options.useQuotes;
 }
 
 void _SetUp(const ExportOptions& options, Session* session) {

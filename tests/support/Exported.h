@@ -48,7 +48,7 @@ inline std::string Exported(Session* session) {
 inline std::string Exported(const char* format, const qz::ClassRecord& record, bool useQuotes = true) {
   const std::unique_ptr<Session> session = NewSession(*FindFormat(format));
   *session->GetClass() = record;
-  session->SetUseQuotes(useQuotes);
+  session->m_bUseQuotes = useQuotes;
   return Exported(session.get());
 }
 

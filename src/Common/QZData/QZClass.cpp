@@ -4,19 +4,12 @@
 #include <cmath>
 #include <utility>
 
+#include "Common/QZData/StudentFields.h"
+
 namespace qz {
 
 const std::string& StudentRecord::GetUserID(UserIDField field) const {
-  switch (field) {
-    case kUserIDFirstName: return firstName;
-    case kUserIDLastName: return lastName;
-    case kUserIDStudentID: return studentID;
-    case kUserIDCustom1: return custom[0];
-    case kUserIDCustom2: return custom[1];
-    case kUserIDCustom3: return custom[2];
-    case kUserIDAlias: break;
-  }
-  return alias;
+  return FindStudentField(field).Value(*this);
 }
 
 const ResultsRecord* AssignmentRecord::FindResultsForStudent(int32_t studentID) const {

@@ -130,6 +130,12 @@ enum ReportOption : uint32_t {
   kReportOptionCount,
 };
 
+// What the detailed report has unless somebody chooses otherwise: a mask of student columns
+// (StudentField::reportBit), and the switches.
+inline constexpr uint32_t kDefaultReportFields = 0x7;  // first name, last name, student ID
+inline constexpr std::array<bool, kReportOptionCount> kDefaultReportOptions = {false, true, false, false,
+                                                                               true};
+
 struct ClassRecord {
   std::string exportPath;  // the file that the export writes
   UserIDField userIDField = kUserIDAlias;
@@ -137,7 +143,7 @@ struct ClassRecord {
   std::vector<AssignmentRecord> assignments;  // sorted by AssignmentLess
   std::array<std::string, 3> customLabels = {"Custom 1", "Custom 2", "Custom 3"};
   int32_t optionValue = 0;  // the detailed report's student columns, a bit mask
-  std::array<bool, kReportOptionCount> options = {false, true, false, false, true};
+  std::array<bool, kReportOptionCount> options = kDefaultReportOptions;
 };
 
 }  // namespace qz

@@ -1,6 +1,7 @@
 #include "Filters/GX_StdCsv/EnhOptionsWindow.h"
 
 #include "Common/Language.h"
+#include "Common/QZData/StudentFields.h"
 #include "Common/help.h"
 #include "Filters/GX_StdCsv/OptionsDialog.h"
 #include "Filters/GX_StdCsv/QZLoadString.h"
@@ -35,50 +36,22 @@ enum ColumnsRow : int32_t { kResponsesOnly = 0, kPointsOnly = 1, kResponsesAndPo
 
 constexpr int32_t kTab = 200;
 constexpr int kSavedMessage = 78204;
-constexpr uint32_t kAlwaysExported = 7;  // first name, last name, student ID
-
-struct Field {
-  const char* name;
-  int spanishID;
-  uint32_t bit;  // of ClassRecord::optionValue
-};
-
-// The rows before those of the class's own labels.
-constexpr Field kOptionalFields[] = {
-    {"Password", 41916, 8},
-    {"Student alias", 41914, 16},
-    {"Pad ID", 41918, 16384},
-    {"Gender", 41920, 32},
-    {"Date of birth", 41923, 64},
-    {"Grade level", 41924, 128},
-    {"Sociological/Economic", 41925, 256},
-    {"Race/Ethnicity", 41932, 512},
-    {"Other", 41939, 1024},
-};
-constexpr uint32_t kCustomBits[] = {2048, 4096, 8192};
-
 Session* m_pSession = nullptr;
 qz::ClassRecord* m_pntClass = nullptr;
 
-uint32_t s_bmExportFields = kAlwaysExported;
-bool s_bExportResponses = true;
-bool s_bWriteAsterisks = true;
-bool s_bExportAnswerKey = false;
-bool s_bExportPointsEarned = false;
-bool s_bExportPointsPossible = false;
+// The choices, each by its name.
+uint32_t s_bmExportFields = qz::kDefaultReportFields;
+auto gSwitches = qz::kDefaultReportOptions;
+bool& s_bExportAnswerKey = gSwitches[qz::kReportAnswerKey];
+bool& s_bExportResponses = gSwitches[qz::kReportResponses];
+bool& s_bExportPointsEarned = gSwitches[qz::kReportPointsEarned];
+bool& s_bExportPointsPossible = gSwitches[qz::kReportPointsPossible];
+bool& s_bWriteAsterisks = gSwitches[qz::kReportAsterisks];
 
 bool _UseSession(const DLGRecord* dialog) {
   m_pSession = SessionOfDialog(dialog);
   m_pntClass = m_pSession == nullptr ? nullptr : m_pSession->GetClass();
   return m_pSession != nullptr;
-}
-
-void _ResetChoices() {
-  s_bExportAnswerKey = false;
-  s_bExportResponses = true;
-  s_bExportPointsEarned = false;
-  s_bExportPointsPossible = false;
-  s_bWriteAsterisks = true;
 }
 
 // Enables a box with its choice, or disables and unchecks it; the choice stays.
@@ -138,14 +111,20 @@ void _FillColumnsPopup(DLGRecord* dialog) {
   CBSetSelect(dialog, kColumns, row);
 }
 
+// The rows of the check list: the other fields are in every report.
+bool _IsOptional(const qz::StudentField& field) {
+  return (field.reportBit & qz::kDefaultReportFields) == 0;
+}
+
+std::string _FieldName(const qz::StudentField& field) {
+  return IsSpanish() && field.spanishTitleID != 0 ? QZLoadString(field.spanishTitleID)
+                                                  : field.Title(*m_pntClass);
+}
+
 void _FillFields(DLGRecord* dialog) {
   LBSetTabs(dialog, kFields, 1, &kTab);
-  for (const Field& field : kOptionalFields) {
-    const std::string text = IsSpanish() ? QZLoadString(field.spanishID) : std::string(field.name);
-    LBInsertItem(dialog, kFields, text.c_str(), kRowLast);
-  }
-  for (const std::string& label : m_pntClass->customLabels) {
-    LBInsertItem(dialog, kFields, label.c_str(), kRowLast);
+  for (const qz::StudentField& field : qz::kStudentFields) {
+    if (_IsOptional(field)) LBInsertItem(dialog, kFields, _FieldName(field).c_str(), kRowLast);
   }
   LBSelectItem(dialog, kFields, 0, true);
 }
@@ -163,13 +142,10 @@ void _FillEnhMainOptions(DLGRecord* dialog) {
 }
 
 uint32_t _CheckedFields(DLGRecord* dialog) {
-  uint32_t fields = kAlwaysExported;
+  uint32_t fields = qz::kDefaultReportFields;
   int32_t row = 0;
-  for (const Field& field : kOptionalFields) {
-    if (LBGetCheck(dialog, kFields, row++) != 0) fields |= field.bit;
-  }
-  for (const uint32_t bit : kCustomBits) {
-    if (LBGetCheck(dialog, kFields, row++) != 0) fields |= bit;
+  for (const qz::StudentField& field : qz::kStudentFields) {
+    if (_IsOptional(field) && LBGetCheck(dialog, kFields, row++) != 0) fields |= field.reportBit;
   }
   return fields;
 }
@@ -189,11 +165,7 @@ void _StoreSwitches(DLGRecord* dialog) {
   s_bWriteAsterisks = CKGetCheck(dialog, kAsterisks) != 0;
   s_bExportAnswerKey = CKGetCheck(dialog, kAnswerKey) != 0;
   s_bExportPointsPossible = CKGetCheck(dialog, kPointsPossible) != 0;
-  m_pntClass->options[qz::kReportAnswerKey] = s_bExportAnswerKey;
-  m_pntClass->options[qz::kReportResponses] = s_bExportResponses;
-  m_pntClass->options[qz::kReportPointsEarned] = s_bExportPointsEarned;
-  m_pntClass->options[qz::kReportPointsPossible] = s_bExportPointsPossible;
-  m_pntClass->options[qz::kReportAsterisks] = s_bWriteAsterisks;
+  m_pntClass->options = gSwitches;
 }
 
 void OK(DLGRecord* dialog) {
@@ -241,7 +213,7 @@ intptr_t _DoEnhOptions(DLGRecord* dialog, int32_t item) {
 bool DisplayEnhOptionsDialog(void* hostWindow, Session* session, qz::ClassRecord* record) {
   m_pSession = session;
   m_pntClass = record;
-  _ResetChoices();
+  gSwitches = qz::kDefaultReportOptions;
   return ShowOptionsDialog(hostWindow, kEnhOptionsDialog, _DoEnhOptions, [](DLGRecord* dialog) {
     LBSetRedraw(dialog, kFields, true);
     _FillEnhMainOptions(dialog);

@@ -24,33 +24,202 @@ std::unique_ptr<Session> _Make(const QZEXPORTBEGIN* begin) {
   return std::make_unique<FormatSession>(begin);
 }
 
-// Hosts keep the index, so the order is fixed. Both later Blackboard formats share one Spanish name.
-// clang-format off
+constexpr char kBlackboardPrompt[] =
+    "Identify the Gradix student information field that corresponds to the Blackboard User Name.  "
+    "The Blackboard gradebook will not process data for any user name that is not enrolled as a user in the "
+    "Learning System course.";
+
+// Hosts keep the index, so the order is fixed: a new format comes last.
 constexpr FormatRow kFormats[] = {
-    {0, "webct", "Assignment Results for WebCT Vista", 70442,
-     "WebCT User ID", kUserIDAlias, false, _Make<SessionWebCT>},
-    {1, "blackboard6", "Assignment Results for Blackboard 6.0 - 7.0", 70443,
-     "Blackboard User Name", kUserIDAlias, false, _Make<SessionBlackboard>},
-    {2, "angel", "Assignment Results for ANGEL", 70445,
-     "ANGEL User ID", kUserIDAlias, false, _Make<SessionANGEL>},
-    {kDetailedResultsFormat, "detailed", "Detailed Results as Text", 70446,
-     nullptr, kUserIDAlias, false, _Make<SessionEnhancedText>},
-    {4, "blackboard8", "Assignment Results for Blackboard 8.0 - 9.0", 70444,
-     "Blackboard User Name", kUserIDAlias, true, _Make<SessionBlackboard9>},
-    {5, "blackboard91", "Assignment Results for Blackboard Learn 9.1", 70444,
-     "Blackboard Learn 9.1 Username", kUserIDStudentID, true, _Make<SessionBlackboard91>},
-    {6, "canvas", "Assignment Results for Canvas", 0,
-     "Canvas User ID", kUserIDStudentID, false, _Make<SessionCanvas>},
-    {7, "d2l", "Assignment Results for Brightspace by D2L", 0,
-     "Brightspace by D2L Username", kUserIDCustom1, false, _Make<SessionD2L>},
-    {8, "moodle", "Assignment Results for Moodle 3.1.2", 0,
-     "Moodle Student ID", kUserIDCustom1, false, _Make<SessionMoodle>},
-    {9, "schoology", "Assignment Results for Schoology", 0,
-     "Schoology User ID", kUserIDStudentID, false, _Make<SessionSchoology>},
-    {10, "sakai", "Assignment Results for Sakai", 0,
-     "Sakai Student ID", kUserIDStudentID, false, _Make<SessionSakai>},
+    {
+        .index = 0,
+        .key = "webct",
+        .name = "Assignment Results for WebCT Vista",
+        .spanishNameID = 70442,
+        .make = _Make<SessionWebCT>,
+        .idName = "WebCT User ID",
+        .defaultUserIDField = kUserIDAlias,
+        .popupLabel = "Extract User ID from:",
+        .prompt =
+            "Identify the Gradix student information field that corresponds to the WebCT User ID.  "
+            "WebCT will not process data for any student that is not already entered in the Grade Book.",
+        .nameWord = "WebCT",
+        .idWord = "User ID",
+        .helpTopic = 224,
+        .spanishIDName = 70372,
+        .spanishPrompt = 70373,
+        .spanishPopupLabel = 70352,
+    },
+    {
+        .index = 1,
+        .key = "blackboard6",
+        .name = "Assignment Results for Blackboard 6.0 - 7.0",
+        .spanishNameID = 70443,
+        .make = _Make<SessionBlackboard>,
+        .isBlackboard = true,
+        .idName = "Blackboard User Name",
+        .defaultUserIDField = kUserIDAlias,
+        .popupLabel = "Extract User Name from:",
+        .prompt = kBlackboardPrompt,
+        .nameWord = "Blackboard",
+        .idWord = "User Name",
+        .helpTopic = 223,
+        .spanishIDName = 70374,
+        .spanishPrompt = 70375,
+        .spanishPopupLabel = 70378,
+    },
+    {
+        .index = 2,
+        .key = "angel",
+        .name = "Assignment Results for ANGEL",
+        .spanishNameID = 70445,
+        .make = _Make<SessionANGEL>,
+        .idName = "ANGEL User ID",
+        .defaultUserIDField = kUserIDAlias,
+        .popupLabel = "Extract User ID from:",
+        .prompt = "Identify the Gradix student information field that corresponds to the ANGEL User ID.  "
+                  "ANGEL will not process data for any student that is not already entered in the Gradebook.",
+        .nameWord = "ANGEL",
+        .idWord = "User ID",
+        .helpTopic = 222,
+        .spanishIDName = 70376,
+        .spanishPrompt = 70377,
+        .spanishPopupLabel = 70352,
+    },
+    {
+        .index = kDetailedResultsFormat,
+        .key = "detailed",
+        .name = "Detailed Results as Text",
+        .spanishNameID = 70446,
+        .make = _Make<SessionEnhancedText>,
+        .helpTopic = 225,
+    },
+    {
+        .index = 4,
+        .key = "blackboard8",
+        .name = "Assignment Results for Blackboard 8.0 - 9.0",
+        .spanishNameID = 70444,
+        .make = _Make<SessionBlackboard9>,
+        .isBlackboard = true,
+        .hasUnquotedVariant = true,
+        .idName = "Blackboard User Name",
+        .defaultUserIDField = kUserIDAlias,
+        .popupLabel = "Extract User Name from:",
+        .prompt = kBlackboardPrompt,
+        .nameWord = "Blackboard",
+        .idWord = "User Name",
+        .helpTopic = 223,
+        .spanishIDName = 70374,
+        .spanishPrompt = 70375,
+        .spanishPopupLabel = 70378,
+    },
+    {
+        .index = 5,
+        .key = "blackboard91",
+        .name = "Assignment Results for Blackboard Learn 9.1",
+        .spanishNameID = 70444,  // that of 8.0 - 9.0: there is no other
+        .make = _Make<SessionBlackboard91>,
+        .isBlackboard = true,
+        .hasUnquotedVariant = true,
+        .idName = "Blackboard Learn 9.1 Username",
+        .defaultUserIDField = kUserIDStudentID,
+        .popupLabel = "Extract Username from:",
+        .prompt =
+            "Identify the Gradix student information field that corresponds to the Blackboard Learn 9.1 "
+            "Username. "
+            "Blackboard Learn 9.1 will not process data for any student that is not already entered in the "
+            "Results Center.",
+        .nameWord = "Blackboard Learn 9.1",
+        .idWord = "Username",
+        .helpTopic = 223,
+    },
+    {
+        .index = 6,
+        .key = "canvas",
+        .name = "Assignment Results for Canvas",
+        .make = _Make<SessionCanvas>,
+        .idName = "Canvas User ID",
+        .defaultUserIDField = kUserIDStudentID,
+        .popupLabel = "Extract User ID from:",
+        .prompt =
+            "Identify the Gradix student information field that corresponds to the Canvas Secondary ID. "
+            "Canvas will not process data for any student that is not already entered in the Gradebook.",
+        .nameWord = "Canvas",
+        .idWord = "User ID",
+        .helpTopic = 226,
+    },
+    {
+        .index = 7,
+        .key = "d2l",
+        .name = "Assignment Results for Brightspace by D2L",
+        .make = _Make<SessionD2L>,
+        .idName = "Brightspace by D2L Username",
+        .defaultUserIDField = kUserIDCustom1,
+        .popupLabel = "Extract Username from:",
+        .prompt = "Identify the Gradix student information field that corresponds to the Brightspace by D2L "
+                  "Username. "
+                  "Brightspace by D2L will not process data for any student that is not already entered in "
+                  "the grade "
+                  "book.",
+        .nameWord = "Brightspace by D2L",
+        .idWord = "Username",
+        .helpTopic = 227,
+    },
+    {
+        .index = 8,
+        .key = "moodle",
+        .name = "Assignment Results for Moodle 3.1.2",
+        .make = _Make<SessionMoodle>,
+        .idName = "Moodle Student ID",
+        .defaultUserIDField = kUserIDCustom1,
+        .popupLabel = "Extract Student ID from:",
+        .prompt =
+            "Identify the Gradix student information field that corresponds to the Moodle student email "
+            "address. "
+            "Moodle will not process data for any student that is not already entered in the Grader Report.",
+        .nameWord = "Moodle",
+        .idWord = "Student ID",
+        .helpTopic = 228,
+    },
+    {
+        .index = 9,
+        .key = "schoology",
+        .name = "Assignment Results for Schoology",
+        .make = _Make<SessionSchoology>,
+        .idName = "Schoology User ID",
+        .defaultUserIDField = kUserIDStudentID,
+        .popupLabel = "Extract User ID from:",
+        .prompt =
+            "Identify the Gradix student information field that corresponds to the Schoology User ID. "
+            "Schoology will not process data for any student that is not already entered in the Gradebook.",
+        .nameWord = "Schoology",
+        .idWord = "User ID",
+        .helpTopic = 229,
+    },
+    {
+        .index = 10,
+        .key = "sakai",
+        .name = "Assignment Results for Sakai",
+        .make = _Make<SessionSakai>,
+        .idName = "Sakai Student ID",
+        .defaultUserIDField = kUserIDStudentID,
+        .popupLabel = "Extract Student ID from:",
+        .prompt = "Identify the Gradix student information field that corresponds to the Sakai Student ID. "
+                  "Sakai will not process data for any student that is not already entered in the Gradebook.",
+        .nameWord = "Sakai",
+        .idWord = "Student ID",
+        .helpTopic = 230,
+    },
 };
-// clang-format on
+
+constexpr bool _IsInOrder() {
+  uint32_t index = 0;
+  for (const FormatRow& row : kFormats) {
+    if (row.index != index++) return false;
+  }
+  return true;
+}
+static_assert(_IsInOrder());
 
 }  // namespace
 

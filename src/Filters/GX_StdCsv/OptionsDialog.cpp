@@ -3,7 +3,7 @@
 #include <cstring>
 
 #include "Common/Language.h"
-#include "Filters/GX_StdCsv/OptionsTexts.h"
+#include "Filters/GX_StdCsv/DialogMessages.h"
 #include "Filters/GX_StdCsv/start.h"
 #include "Toolkit/Alert.h"
 #include "Toolkit/DLGManager.h"

@@ -1,9 +1,11 @@
 #include "Filters/GX_StdCsv/OptionsWindow.h"
 
 #include "Common/Language.h"
+#include "Common/QZData/StudentFields.h"
 #include "Common/help.h"
+#include "Filters/GX_StdCsv/DialogMessages.h"
+#include "Filters/GX_StdCsv/FormatTable.h"
 #include "Filters/GX_StdCsv/OptionsDialog.h"
-#include "Filters/GX_StdCsv/OptionsTexts.h"
 #include "Filters/GX_StdCsv/QZLoadString.h"
 #include "Filters/GX_StdCsv/RosterCheck.h"
 #include "Toolkit/Alert.h"
@@ -56,49 +58,42 @@ bool _UseSession(const DLGRecord* dialog) {
   return m_ptSession != nullptr;
 }
 
-uint32_t _FormatIndex() {
-  return m_ptSession->GetExportInfo().formatIndex;
+const FormatRow& _Format() {
+  return *FindFormat(m_ptSession->GetExportInfo().formatIndex);
 }
 
-// The texts of a format that has none.
-const OptionsTexts& _Texts() {
-  static constexpr OptionsTexts kNone{"", "", "", kOtherHelpTopic, "", "", 0, 0, 0, false, false};
-  const OptionsTexts* texts = FindOptionsTexts(_FormatIndex());
-  return texts == nullptr ? kNone : *texts;
-}
-
-void _SetFormatTexts(DLGRecord* dialog, const OptionsTexts& texts) {
-  if (IsSpanish() && texts.spanishIDName != 0) {
-    SetText(dialog, kIDName, QZLoadString(texts.spanishIDName).c_str(), true);
-    SetText(dialog, kPrompt, QZLoadString(texts.spanishPrompt).c_str(), false);
-    SetText(dialog, kPopupLabel, QZLoadString(texts.spanishPopupLabel).c_str(), false);
+void _SetFormatTexts(DLGRecord* dialog, const FormatRow& format) {
+  if (format.idName == nullptr) return;
+  if (IsSpanish() && format.spanishIDName != 0) {
+    SetText(dialog, kIDName, QZLoadString(format.spanishIDName).c_str(), true);
+    SetText(dialog, kPrompt, QZLoadString(format.spanishPrompt).c_str(), false);
+    SetText(dialog, kPopupLabel, QZLoadString(format.spanishPopupLabel).c_str(), false);
     return;
   }
-  SetText(dialog, kIDName, texts.idName, true);
-  SetText(dialog, kPrompt, texts.prompt, false);
-  SetText(dialog, kPopupLabel, texts.popupLabel, false);
+  SetText(dialog, kIDName, format.idName, true);
+  SetText(dialog, kPrompt, format.prompt, false);
+  SetText(dialog, kPopupLabel, format.popupLabel, false);
 }
 
-void _SetUpBlackboardItems(DLGRecord* dialog, const OptionsTexts& texts) {
+void _SetUpBlackboardItems(DLGRecord* dialog, const FormatRow& format) {
   for (int32_t item = kStandardFile; item <= kWithoutQuotes; ++item) {
-    EnableDLGItem(dialog, item, texts.hasQuotes);
+    EnableDLGItem(dialog, item, format.hasUnquotedVariant);
   }
-  if (!texts.isBlackboard) return;
+  if (!format.isBlackboard) return;
   for (int32_t item = kFirstBlackboardItem; item <= kWithoutQuotes; ++item) ShowDLGItem(dialog, item, true);
   CKSetCheck(dialog, kWithQuotes, 1, 0, false);  // how a new session writes
 }
 
+std::string _FieldName(const qz::StudentField& field) {
+  return IsSpanish() && field.spanishTitle != nullptr ? field.spanishTitle : field.Title(*m_ptClass);
+}
+
+// The row of a field is its number less one.
 void _FillFieldPopup(DLGRecord* dialog) {
-  static constexpr const char* kEnglish[] = {"First name", "Last name", "Student ID", "Student alias"};
-  static constexpr const char* kSpanish[] = {"Nombre", "Apellido", "Id. de estudiante",
-                                             "Alias del estudiante"};
-  for (const char* field : IsSpanish() ? kSpanish : kEnglish) {
-    CBInsertItem(dialog, kFieldPopup, field, kRowLast);
+  for (const qz::StudentField& field : qz::kStudentFields) {
+    if (field.CanIdentify()) CBInsertItem(dialog, kFieldPopup, _FieldName(field).c_str(), kRowLast);
   }
-  for (const std::string& label : m_ptClass->customLabels) {
-    CBInsertItem(dialog, kFieldPopup, label.c_str(), kRowLast);
-  }
-  CBSetSelect(dialog, kFieldPopup, DefaultUserIDRow(_FormatIndex()));
+  CBSetSelect(dialog, kFieldPopup, _Format().defaultUserIDField - 1);
 }
 
 void _FillAssignments(DLGRecord* dialog) {
@@ -117,8 +112,8 @@ void _FillAssignments(DLGRecord* dialog) {
 void _FillMainOptions(DLGRecord* dialog) {
   if (IsSpanish()) SetText(dialog, kAssignmentsLabel, QZLoadString(kAssignmentsLabelID).c_str(), true);
   SetExportTitle(dialog, *m_ptSession);  // from here on the language is English
-  _SetFormatTexts(dialog, _Texts());
-  _SetUpBlackboardItems(dialog, _Texts());
+  _SetFormatTexts(dialog, _Format());
+  _SetUpBlackboardItems(dialog, _Format());
   _FillFieldPopup(dialog);
   _FillAssignments(dialog);
 }
@@ -141,9 +136,9 @@ bool _CheckIdentifiers(DLGRecord* dialog, qz::UserIDField field) {
   const RosterCheck check = CheckUserIDs(*m_ptClass, field);
   const DLGWatch watch(dialog);
   if (check.SomeEmpty()) {
-    ErrorAlert(kText, Utf8Text{SomeEmptyMessage(_Texts(), check.empty.size(), check.studentCount)});
+    ErrorAlert(kText, Utf8Text{SomeEmptyMessage(_Format(), check.empty.size(), check.studentCount)});
   } else if (check.AllEmpty()) {
-    ErrorAlert(kText, Utf8Text{AllEmptyMessage(_Texts())});
+    ErrorAlert(kText, Utf8Text{AllEmptyMessage(_Format())});
     return false;
   }
   return watch.IsLive() && !check.HasDuplicates();  // duplicates stop without a word
@@ -185,7 +180,7 @@ void OnClearAll(DLGRecord* dialog) {
 
 // Of the three kinds of file the one that was chosen last is marked.
 void _ChooseFileKind(DLGRecord* dialog, int32_t chosen) {
-  m_ptSession->SetUseQuotes(chosen != kWithoutQuotes);
+  m_ptSession->m_bUseQuotes = chosen != kWithoutQuotes;
   for (int32_t item = kStandardFile; item <= kWithoutQuotes; ++item) {
     CKSetCheck(dialog, item, item == chosen ? 1 : 0, 0, false);
   }
@@ -196,7 +191,7 @@ intptr_t _DoOptions(DLGRecord* dialog, int32_t item) {
   switch (item) {
     case kSelectAll: OnSelectAll(dialog); break;
     case kClearAll: OnClearAll(dialog); break;
-    case kHelp: Help(dialog->window, kHelpTopic, _Texts().helpTopic); break;
+    case kHelp: Help(dialog->window, kHelpTopic, _Format().helpTopic); break;
     case kOK: OnOK(dialog); break;
     case kCancel: OnCancel(dialog); break;
     case kStandardFile:

@@ -29,7 +29,8 @@ class Session {
   QZEXPORTBEGIN GetExportInfo() const { return m_begin; }
   qz::ClassRecord* GetClass() { return &m_class; }
 
-  void SetUseQuotes(bool useQuotes) { m_bUseQuotes = useQuotes; }
+  // Whether texts stand in quotes. Read by the formats that have an unquoted variant.
+  bool m_bUseQuotes = true;
 
   // Writes the text with every double quote turned into an apostrophe, so that it can stand between double
   // quotes as it is. Writes no quotes around it.
@@ -37,7 +38,6 @@ class Session {
 
  protected:
   const qz::ClassRecord& Class() const { return m_class; }
-  bool UseQuotes() const { return m_bUseQuotes; }
 
  private:
   // Writes the format. Failures are read off the stream afterwards.
@@ -45,7 +45,6 @@ class Session {
 
   QZEXPORTBEGIN m_begin;
   qz::ClassRecord m_class;
-  bool m_bUseQuotes = true;  // read by the formats that have an unquoted variant
   int m_writeError = 0;
 };
 

@@ -30,7 +30,7 @@ class SessionBlackboard9 : public GradebookSession {
   void WriteRowEnd(std::FILE* file, double runningTotal) override;
 
   // The mark around every cell.
-  const char* Quote() const { return UseQuotes() ? "\"" : ""; }
+  const char* Quote() const { return m_bUseQuotes ? "\"" : ""; }
 };
 
 // Blackboard Learn 9.1: the same file under a name of its own.

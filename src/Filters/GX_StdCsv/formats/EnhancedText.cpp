@@ -4,10 +4,10 @@
 #include <array>
 
 #include "Common/KeyIndex.h"
+#include "Common/QZData/StudentFields.h"
 #include "Filters/GX_StdCsv/CommaSeparatedLine.h"
 #include "Filters/GX_StdCsv/CsvText.h"
 #include "Filters/GX_StdCsv/GradeColumns.h"
-#include "Filters/GX_StdCsv/ReportColumns.h"
 
 namespace {
 
@@ -82,8 +82,8 @@ class Report {
   }
 
   void WriteHeader() {
-    for (const ReportColumn& column : ReportColumns()) {
-      m_line.InsertMaskedItem(column.Title(m_class).c_str(), column.mask);
+    for (const qz::StudentField& field : qz::kStudentFields) {
+      m_line.InsertMaskedItem(field.Title(m_class).c_str(), field.reportBit);
     }
     if (Is(qz::kReportResponses) || Is(qz::kReportPointsEarned)) {
       int32_t position = 0;
@@ -98,7 +98,9 @@ class Report {
 
   // The line of correct answers and points possible.
   void WriteKey() {
-    for (const ReportColumn& column : ReportColumns()) m_line.InsertMaskedItem(nullptr, column.mask);
+    for (const qz::StudentField& field : qz::kStudentFields) {
+      m_line.InsertMaskedItem(nullptr, field.reportBit);
+    }
     for (const qz::QuestionRecord& question : m_assignment.questions) {
       if (Is(qz::kReportResponses)) {
         m_line.InsertComma();
@@ -114,8 +116,8 @@ class Report {
 
   void WriteStudent(const qz::StudentRecord& student,
                     const std::vector<const qz::ResponseRecord*>& responses) {
-    for (const ReportColumn& column : ReportColumns()) {
-      m_line.InsertMaskedItem(column.value(student).c_str(), column.mask);
+    for (const qz::StudentField& field : qz::kStudentFields) {
+      m_line.InsertMaskedItem(field.Value(student).c_str(), field.reportBit);
     }
     for (size_t i = 0; i < responses.size(); ++i) {
       WriteResponse(m_assignment.questions[i], responses[i]);

@@ -9,8 +9,6 @@
 #include <cstdio>
 #include <map>
 #include <memory>
-#include <numeric>
-#include <random>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -19,64 +17,21 @@
 #include "Filters/GX_StdCsv/FormatTable.h"
 #include "Filters/GX_StdCsv/RosterCheck.h"
 #include "Filters/GX_StdCsv/Session.h"
+#include "bench/ClassGenerator.h"
 
 namespace {
 
-constexpr int kAssignments = 4;
-constexpr int kQuestions = 5;
-
-void _WriteStudents(std::ostream& out, int64_t students) {
-  out << "<student-list>\n";
-  for (int64_t id = 1; id <= students; ++id) {
-    out << "<student id=\"" << id << "\">\n<first-name>First" << id << "</first-name>\n<last-name>Last" << id
-        << "</last-name>\n<student-id>" << 100000000 + id << "</student-id>\n<alias>user" << id
-        << "</alias>\n<custom-1>login" << id << "</custom-1>\n</student>\n";
-  }
-  out << "</student-list>\n";
-}
-
-void _WriteResults(std::ostream& out, const std::vector<int64_t>& ids) {
-  out << "<results-list>\n";
-  for (const int64_t id : ids) {
-    out << "<results id=\"" << id << "\">\n<response-list>\n";
-    for (int question = 1; question <= kQuestions; ++question) {
-      out << "<response question-id=\"" << question << "\" bank-id=\"1\"><text>B</text><points-earned>0.5"
-          << "</points-earned></response>\n";
-    }
-    out << "</response-list>\n</results>\n";
-  }
-  out << "</results-list>\n";
-}
-
-// A class file; results in shuffled order.
-std::string _MakeClassFile(int64_t students) {
-  std::ostringstream out;
-  out << "<class>\n";
-  _WriteStudents(out, students);
-  out << "<assignment-list>\n";
-  std::vector<int64_t> ids(static_cast<size_t>(students));
-  std::iota(ids.begin(), ids.end(), 1);
-  std::mt19937 random(1);
-  for (int assignment = 1; assignment <= kAssignments; ++assignment) {
-    out << "<assignment id=\"" << assignment << "\">\n<assignment-name>Quiz " << assignment
-        << "</assignment-name>\n<points-possible>5</points-possible>\n<question-list>\n";
-    for (int question = 1; question <= kQuestions; ++question) {
-      out << "<question number=\"" << question << "\" type=\"MC\" question-id=\"" << question
-          << "\" bank-id=\"1\"><answer>B</answer><points-possible>1</points-possible></question>\n";
-    }
-    out << "</question-list>\n";
-    std::shuffle(ids.begin(), ids.end(), random);
-    _WriteResults(out, ids);
-    out << "</assignment>\n";
-  }
-  out << "</assignment-list>\n</class>\n";
-  return out.str();
-}
+constexpr uint32_t kAssignments = 4;
+constexpr uint32_t kQuestions = 5;
 
 const std::string& _ClassFile(int64_t students) {
   static std::map<int64_t, std::string> files;
   const auto [entry, isNew] = files.try_emplace(students);
-  if (isNew) entry->second = _MakeClassFile(students);
+  if (isNew) {
+    std::ostringstream out;
+    WriteClassFile(out, {static_cast<uint32_t>(students), kAssignments, kQuestions, 1, {}, {}});
+    entry->second = out.str();
+  }
   return entry->second;
 }
 

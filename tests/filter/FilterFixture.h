@@ -24,6 +24,7 @@ enum OptionsItem : int {
   kAssignments = 7,
   kSelectAll = 8,
   kClearAll = 9,
+  kHelp = 10,
   kOK = 11,
   kCancel = 12,
   kAssignmentsLabel = 14,
@@ -44,6 +45,7 @@ enum ReportItem : int {
   kReportFields = 12,
   kReportSelectAll = 13,
   kReportClearAll = 14,
+  kReportHelp = 15,
   kReportOK = 16,
 };
 

@@ -2,8 +2,9 @@
 #include <QProcess>
 #include <ostream>
 
-#include "tests/filter/ClassXml.h"
+#include "bench/ClassGenerator.h"
 #include "tests/filter/FilterFixture.h"
+#include "tests/support/UrlTaker.h"
 
 namespace {
 
@@ -13,6 +14,7 @@ struct FormatCase {
   const char* title;
   int fieldRow;  // of the popup, selected at first
   const char* idName;
+  int helpTopic;
 };
 
 void PrintTo(const FormatCase& format, std::ostream* stream) {
@@ -20,18 +22,18 @@ void PrintTo(const FormatCase& format, std::ostream* stream) {
 }
 
 constexpr FormatCase kFormats[] = {
-    {0, "webct", "Export Assignment Results for WebCT Vista", 3, "WebCT User ID"},
-    {1, "blackboard6", "Export Assignment Results for Blackboard 6.0 - 7.0", 3, "Blackboard User Name"},
-    {2, "angel", "Export Assignment Results for ANGEL", 3, "ANGEL User ID"},
-    {3, "detailed", "Export Detailed Results as Text", -1, nullptr},
-    {4, "blackboard8", "Export Assignment Results for Blackboard 8.0 - 9.0", 3, "Blackboard User Name"},
+    {0, "webct", "Export Assignment Results for WebCT Vista", 3, "WebCT User ID", 224},
+    {1, "blackboard6", "Export Assignment Results for Blackboard 6.0 - 7.0", 3, "Blackboard User Name", 223},
+    {2, "angel", "Export Assignment Results for ANGEL", 3, "ANGEL User ID", 222},
+    {3, "detailed", "Export Detailed Results as Text", -1, nullptr, 225},
+    {4, "blackboard8", "Export Assignment Results for Blackboard 8.0 - 9.0", 3, "Blackboard User Name", 223},
     {5, "blackboard91", "Export Assignment Results for Blackboard Learn 9.1", 2,
-     "Blackboard Learn 9.1 Username"},
-    {6, "canvas", "Export Assignment Results for Canvas", 2, "Canvas User ID"},
-    {7, "d2l", "Export Assignment Results for Brightspace by D2L", 4, "Brightspace by D2L Username"},
-    {8, "moodle", "Export Assignment Results for Moodle 3.1.2", 4, "Moodle Student ID"},
-    {9, "schoology", "Export Assignment Results for Schoology", 2, "Schoology User ID"},
-    {10, "sakai", "Export Assignment Results for Sakai", 2, "Sakai Student ID"},
+     "Blackboard Learn 9.1 Username", 223},
+    {6, "canvas", "Export Assignment Results for Canvas", 2, "Canvas User ID", 226},
+    {7, "d2l", "Export Assignment Results for Brightspace by D2L", 4, "Brightspace by D2L Username", 227},
+    {8, "moodle", "Export Assignment Results for Moodle 3.1.2", 4, "Moodle Student ID", 228},
+    {9, "schoology", "Export Assignment Results for Schoology", 2, "Schoology User ID", 229},
+    {10, "sakai", "Export Assignment Results for Sakai", 2, "Sakai Student ID", 230},
 };
 
 constexpr int32_t kQuiz5 = 306;
@@ -43,11 +45,11 @@ class EndToEnd : public FilterTest {
     return Bytes(std::string(GOLDEN "/secondary-school.").append(name).append(".csv"));
   }
 
-  // What the command line writes for the sample class.
-  std::string CommandLine(const char* format, QStringList options) const {
+  std::string CommandLine(const char* format, QStringList options,
+                          const std::string& classFile = kSampleClass) const {
     const std::string path = PathOf("command-line.csv");
     options = QStringList{"export", "-f", format, "-o", QString::fromStdString(path)} + options;
-    options << QString::fromStdString(kSampleClass);
+    options << QString::fromStdString(classFile);
     QProcess process;
     process.start(GXEXPORT, options);
     process.waitForFinished();
@@ -122,6 +124,43 @@ TEST_F(EndToEnd, ProposesTheFormatsFieldWhateverWasChosenBefore) {
       EXPECT_EQ(SelectedRow(dialog, kFieldPopup), format.fieldRow) << format.key;
       ChooseRow(dialog, kFieldPopup, row, Input::keys);
       Finish(dialog, format.index);
+    }
+  }
+}
+
+TEST_F(EndToEnd, TheIdentifierCanBeAnyField) {
+  const std::string path = WriteClass(ClassXml({"1"}));
+  int row = 0;
+  for (const char* field :
+       {"first-name", "last-name", "student-id", "alias", "custom-1", "custom-2", "custom-3"}) {
+    const QPointer<QWidget> dialog = Open(kCanvas, path, 7);
+    ASSERT_FALSE(dialog.isNull());
+    ChooseRow(dialog, kFieldPopup, row++, Input::mouse);
+    EXPECT_EQ(Finish(dialog, kCanvas), CommandLine("canvas", {"-u", field}, path)) << field;
+  }
+}
+
+// The page of the book that the topic stands for is the one with this format's sample.
+TEST_F(EndToEnd, HelpOpensTheFormatsTopic) {
+  UrlTaker browser({QStringLiteral("file"), QStringLiteral("https")});
+  for (const FormatCase& format : kFormats) {
+    for (const char* language : {"en", "es"}) {
+      *Module().language = language == std::string("es") ? 6 : 0;
+      const QPointer<QWidget> dialog = Open(format.index, kSampleClass, kQuiz5);
+      ASSERT_FALSE(dialog.isNull());
+      const bool isReport = format.index == kDetailed;
+      Click(dialog, isReport ? static_cast<int>(kReportHelp) : static_cast<int>(kHelp));
+      const std::string group = "qzmanage/qzm_" + std::to_string(format.helpTopic) + ".htm";
+      const std::string folder = std::filesystem::path(BUNDLE).parent_path().string() + "/Quizonne Help/" +
+                                 language + "/Quizonne Gradix/";
+      const QByteArray start =
+          QUrl::fromLocalFile(QString::fromStdString(folder + "qzmanage.htm")).toEncoded();
+      const std::string url = isReport ? "https://help.gradix.example/" : start.toStdString() + "#" + group;
+      EXPECT_EQ(browser.Take(), std::vector<std::string>{url}) << format.key;
+      EXPECT_NE(Bytes(folder + group).find("data-sample=\"" + std::string(format.key) + "\""),
+                std::string::npos)
+          << format.key;
+      Key(dialog, Qt::Key_Escape);
     }
   }
 }

@@ -1,13 +1,12 @@
 // Windows, the event loop, alerts and the desktop.
-#include <QDesktopServices>
 #include <QDir>
 #include <QFile>
 #include <QTimer>
-#include <QUrl>
 
 #include "Platform/Core/CFString.h"
 #include "Platform/Ui/Alerts.h"
 #include "Platform/Ui/Launch.h"
+#include "tests/support/UrlTaker.h"
 #include "tests/ui/DialogFixture.h"
 
 namespace {
@@ -32,16 +31,6 @@ class WindowTest : public DialogTest {
     DialogTest::SetUp();
     DisposeDialog(m_dialog);
   }
-};
-
-// Stands for the desktop's browser.
-class UrlTaker : public QObject {
-  Q_OBJECT
- public slots:
-  void Take(const QUrl& url) { m_urls += QString::fromLatin1(url.toEncoded()); }
-
- public:
-  QStringList m_urls;
 };
 
 TEST_F(WindowTest, OrderIsFrontToBack) {
@@ -201,16 +190,12 @@ TEST_F(WindowTest, ATimerMayRemoveItself) {
 }
 
 TEST_F(WindowTest, UrlsGoToTheDesktop) {
-  UrlTaker taker;
-  for (const char* scheme : {"gxtest", "http"}) {
-    QDesktopServices::setUrlHandler(QLatin1String(scheme), &taker, "Take");
-  }
+  UrlTaker taker({QStringLiteral("gxtest"), QStringLiteral("http")});
   EXPECT_TRUE(ExecuteURL(nullptr, "gxtest://host/caf\xC3\xA9?a=b%20c"));
-  EXPECT_EQ(taker.m_urls, QStringList{QStringLiteral("gxtest://host/caf%C3%A9?a=b%20c")});
+  EXPECT_EQ(taker.Take(), std::vector<std::string>{"gxtest://host/caf%C3%A9?a=b%20c"});
   for (const char* url : {"", "no scheme", "http://["}) EXPECT_FALSE(ExecuteURL(nullptr, url)) << url;
   EXPECT_FALSE(ExecuteURL(nullptr, nullptr));
-  EXPECT_EQ(taker.m_urls.size(), 1);
-  for (const char* scheme : {"gxtest", "http"}) QDesktopServices::unsetUrlHandler(QLatin1String(scheme));
+  EXPECT_TRUE(taker.Take().empty());
 }
 
 class AlertTest : public WindowTest {
@@ -345,5 +330,3 @@ TEST_F(AlertTest, StopAlertsComeFromResources) {
 }
 
 }  // namespace
-
-#include "window_test.moc"

@@ -36,7 +36,7 @@ qz::ClassRecord SmallClass() {
   quiz.results.resize(1);
   quiz.results[0].studentID = 7;
   quiz.results[0].responses = {
-      {12, 2, "A", 0.0}, {12, 3, "other bank", 1.0}, {11, 2, "B", 2.0}, {11, 2, "late", 0.0}};
+      {12, 3, "other bank", 1.0}, {12, 2, "A", 0.0}, {11, 2, "B", 2.0}, {11, 2, "late", 0.0}};
   record.optionValue = 7;
   return record;
 }

@@ -2,7 +2,7 @@
 #include <memory>
 #include <string>
 
-#include "CommandLine/ClassFile.h"
+#include "CommandLine/ClassInput.h"
 #include "CommandLine/CommandError.h"
 #include "CommandLine/Commands.h"
 #include "CommandLine/IdentifierCheck.h"
@@ -96,7 +96,7 @@ std::unique_ptr<Session> _MakeSession(const FormatRow& format) {
 void RunExport(const ExportOptions& options) {
   _RefuseToOverwrite(options);
   const std::unique_ptr<Session> session = _MakeSession(*options.format);
-  ReadClassFile(options.classFile, session->GetClass());
+  *session->GetClass() = ReadClassInput(options.classFile).record;
   _SetUp(options, session.get());
   WriteOutput(options.outputFile, [&session](std::FILE* stream) {
     session->ExportTo(stream);

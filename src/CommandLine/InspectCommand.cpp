@@ -1,6 +1,6 @@
 #include <nlohmann/json.hpp>
 
-#include "CommandLine/ClassFile.h"
+#include "CommandLine/ClassInput.h"
 #include "CommandLine/Commands.h"
 #include "CommandLine/OutputFile.h"
 #include "CommandLine/TextOut.h"
@@ -129,7 +129,6 @@ std::string _AsJson(const qz::ClassRecord& record) {
 }  // namespace
 
 void RunInspect(const InspectOptions& options) {
-  qz::ClassRecord record;
-  ReadClassFile(options.classFile, &record);
+  const qz::ClassRecord record = ReadClassInput(options.classFile).record;
   WriteStandardOutput(options.json ? _AsJson(record) : _AsText(record));
 }

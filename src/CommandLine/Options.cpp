@@ -3,7 +3,7 @@
 #include <CLI/CLI.hpp>
 #include <sstream>
 
-#include "CommandLine/ClassFile.h"
+#include "CommandLine/ClassInput.h"
 #include "CommandLine/CommandError.h"
 #include "CommandLine/ExportArguments.h"
 #include "CommandLine/TextOut.h"

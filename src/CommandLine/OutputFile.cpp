@@ -10,7 +10,7 @@
 #include <optional>
 #include <system_error>
 
-#include "CommandLine/ClassFile.h"
+#include "CommandLine/ClassInput.h"
 #include "CommandLine/CommandError.h"
 #include "CommandLine/TemporaryFile.h"
 #include "CommandLine/TextOut.h"

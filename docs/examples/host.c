@@ -1,5 +1,5 @@
 /* A small host of the export filter. Lists its formats; given a class file, it also opens the options dialog
- * of a format for the assignment with that id.
+ * of a format for the assignment with that id, and tells what became of the export.
  *
  *   host MODULE [CLASSFILE FORMATINDEX ASSIGNMENTID OUTPUT]
  */
@@ -18,6 +18,7 @@ typedef struct Filter {
   uint32_t (*exportBegin)(void* host, const QZEXPORTBEGIN* begin, unsigned long* id);
   uint32_t (*exportFile)(void* hostWindow, unsigned long id, const QZEXPORTFILE* file, void* module);
   uint32_t (*exportEnd)(unsigned long id);
+  QZFilter_GetExportOutcomeProc getExportOutcome; /* null in an older filter */
   int16_t* language;
 } Filter;
 
@@ -39,7 +40,8 @@ static int load(Filter* filter, const char* path) {
       !find(filter, "QZFilter_ExportEnd", &filter->exportEnd) || !find(filter, "gLang", &filter->language)) {
     return 0;
   }
-  return filter->dllMain(filter->module, 1, NULL) == 1;
+  find(filter, "QZFilter_GetExportOutcome", &filter->getExportOutcome);
+  return filter->dllMain(filter->module, QZFILTER_ATTACH, NULL) == 1;
 }
 
 static void list_formats(const Filter* filter) {
@@ -61,19 +63,10 @@ static int32_t choose_file(void* dialog, int32_t reserved, char* path, int32_t s
   return 0;
 }
 
-static FSRef file_reference(const char* absolute_path) {
-  static const uint8_t tag[4] = {0x46, 0x53, 0x72, 0x66};
-  FSRef reference = {{0}};
-  memcpy(reference.hidden, tag, sizeof tag);
-  memcpy(reference.hidden + 8, &absolute_path, sizeof absolute_path);
-  return reference;
-}
-
-/* Returns 1 when the options dialog is open. */
-static int export_class(const Filter* filter, char** arguments) {
+/* Returns 1 when the options dialog is open. `id` is then the session's. */
+static int export_class(const Filter* filter, char** arguments, unsigned long* id) {
   QZEXPORTBEGIN begin = {0};
   QZEXPORTFILE file = {0};
-  unsigned long id = 0;
   char* class_path = realpath(arguments[0], NULL);
   uint32_t status;
 
@@ -81,20 +74,35 @@ static int export_class(const Filter* filter, char** arguments) {
   begin.formatIndex = (uint32_t)strtoul(arguments[1], NULL, 10);
   begin.chooseFileValue = (uintptr_t)arguments[3];
   begin.chooseFile = choose_file;
-  status = filter->exportBegin(NULL, &begin, &id);
+  status = filter->exportBegin(NULL, &begin, id);
   if (status == QZFILTER_SUCCESS) {
     file.assignmentID = (int32_t)strtol(arguments[2], NULL, 10);
-    file.classFile = file_reference(class_path);
-    *filter->language = 6; /* Spanish; anything else is English */
-    status = filter->exportFile(NULL, id, &file, filter->module);
-    filter->exportEnd(id);
+    file.classFile = QZFilter_MakeFSRef(class_path);
+    *filter->language = QZFILTER_SPANISH; /* anything else is English */
+    status = filter->exportFile(NULL, *id, &file, filter->module);
+    filter->exportEnd(*id);
   }
   free(class_path); /* the class has been read */
   return status == 1;
 }
 
+static void tell_outcome(const Filter* filter, unsigned long id) {
+  QZEXPORTOUTCOME outcome = {0};
+  outcome.size = sizeof outcome;
+  if (filter->getExportOutcome == NULL || filter->getExportOutcome(id, &outcome) != QZFILTER_SUCCESS) {
+    puts("This filter does not tell what became of the export.");
+  } else if (outcome.state == QZFILTER_WRITTEN) {
+    printf("Written: %s, %u replaced characters\n", outcome.path, (unsigned)outcome.replacedCharacters);
+  } else if (outcome.state == QZFILTER_NOT_WRITTEN) {
+    printf("Not written: %s: %s\n", outcome.path, strerror(outcome.error));
+  } else {
+    puts("Nothing was exported.");
+  }
+}
+
 int main(int argc, char** argv) {
   Filter filter = {0};
+  unsigned long id = 0;
   if (argc != 2 && argc != 6) {
     fprintf(stderr, "usage: host MODULE [CLASSFILE FORMATINDEX ASSIGNMENTID OUTPUT]\n");
     return 2;
@@ -105,13 +113,14 @@ int main(int argc, char** argv) {
   }
   list_formats(&filter);
   if (argc == 6) {
-    if (!export_class(&filter, argv + 2)) {
+    if (!export_class(&filter, argv + 2, &id)) {
       fprintf(stderr, "host: nothing to export\n");
       return 1;
     }
     puts("The options dialog is open.");
     /* A host with windows runs its event loop now. */
   }
-  filter.dllMain(filter.module, 0, NULL); /* closes what is still open */
+  filter.dllMain(filter.module, QZFILTER_DETACH, NULL); /* closes what is still open */
+  if (argc == 6) tell_outcome(&filter, id);
   return 0;
 }

@@ -24,21 +24,43 @@ extern "C" {
 #define QZFILTER_API
 #endif
 
-/* A file reference, 80 bytes at any alignment. Any host can make one:
- *   0..3   the tag, bytes 0x46 0x53 0x72 0x66
+/* Reasons of DllMain. */
+#define QZFILTER_ATTACH 1u
+#define QZFILTER_DETACH 0u
+
+#define QZFILTER_SPANISH 6     /* of gLang */
+#define QZFILTER_PATH_SIZE 256 /* bytes of the file chooser's buffer */
+
+/* A file reference, 80 bytes at any alignment. QZFilter_MakeFSRef makes one:
+ *   0..3   the tag
  *   4..7   zero
  *   8      pointer, in the process's width and byte order, to an absolute, NUL-terminated path in the file
- *          system's bytes; the path must stay valid as long as the reference or a copy of it is used
+ *          system's bytes
  *   then   zero */
 typedef struct FSRef {
   uint8_t hidden[80];
 } FSRef;
 
+#define QZFILTER_FSREF_TAG "FSrf" /* bytes 0x46 0x53 0x72 0x66 */
+#define QZFILTER_FSREF_TAG_SIZE 4
+#define QZFILTER_FSREF_PATH_OFFSET 8
+
+/* A reference to the file at an absolute, NUL-terminated path in the file system's bytes. The path must stay
+ * valid as long as the reference or a copy of it is used. */
+static inline FSRef QZFilter_MakeFSRef(const char* absolutePath) {
+  const uint8_t* const pointer = (const uint8_t*)&absolutePath;
+  FSRef reference = {{0}};
+  unsigned i;
+  for (i = 0; i < QZFILTER_FSREF_TAG_SIZE; ++i) reference.hidden[i] = (uint8_t)QZFILTER_FSREF_TAG[i];
+  for (i = 0; i < sizeof absolutePath; ++i) reference.hidden[QZFILTER_FSREF_PATH_OFFSET + i] = pointer[i];
+  return reference;
+}
+
 /* Windows pass as the window system's id of the window (winId() in Qt), cast to a pointer; null for none. */
 
 /* Asks the user for the output file: receives the dialog window, 0, a buffer of `size` bytes for the path,
- * its size (256) and the host's value from QZEXPORTBEGIN. Returns 0 when a file was chosen, with its path, in
- * the file system's bytes, in the buffer. */
+ * its size (QZFILTER_PATH_SIZE) and the host's value from QZEXPORTBEGIN. Returns 0 when a file was chosen,
+ * with its path, in the file system's bytes, in the buffer. */
 typedef int32_t (*QZFilter_ChooseFileProc)(void* dialog, int32_t reserved, char* path, int32_t size,
                                            uintptr_t value);
 
@@ -66,10 +88,34 @@ typedef struct QZEXPORTFILE {
   FSRef classFile;      /* the class file, XML */
 } QZEXPORTFILE;
 
+/* How an export has ended, or that it has not. */
+#define QZFILTER_PENDING 0u   /* nothing is decided: the dialog is open, or was never shown */
+#define QZFILTER_CANCELLED 1u /* ended with nothing written */
+#define QZFILTER_WRITTEN 2u   /* the file is there, complete */
+#define QZFILTER_NOT_WRITTEN 3u
+
+/* What became of an export. Counts that do not fit are the largest number. */
+typedef struct QZEXPORTOUTCOME {
+  uint32_t size;        /* set by the host: sizeof(QZEXPORTOUTCOME); later versions may have more members */
+  uint32_t state;       /* one of the four above */
+  int32_t error;        /* when not written, why: an errno value; 0: there was no assignment to write */
+  uint32_t formatIndex; /* 0-based */
+
+  /* The user's choices and what they meant, once the file was written or could not be; 0 before. In a format
+   * without identifier both its members stay 0. */
+  int32_t userIDField;  /* the student field taken as identifier: 1 first name, 2 last name, 3 student id,
+                         * 4 alias, 5 to 7 the class's custom fields */
+  uint32_t assignments; /* how many were chosen */
+  uint32_t
+      replacedCharacters; /* of the class file: what 8-bit text lacks and "?" stands for; once it is read */
+  uint32_t studentsWithoutIdentifier;
+  char path[QZFILTER_PATH_SIZE + 4]; /* as the file chooser gave it, always with its NUL */
+} QZEXPORTOUTCOME;
+
 /* Returns the number of export formats; their indices start at 0. */
 QZFILTER_API uint32_t QZFilter_GetNumExportFormatsA(void);
 
-/* The session's language: 6 is Spanish, anything else English. Zero at load; the host sets it.
+/* The session's language: QZFILTER_SPANISH, anything else is English. Zero at load; the host sets it.
  * QZFilter_GetExportFormatInfoA sets it back to 0, so set it right before QZFilter_ExportFileA. */
 QZFILTER_API extern int16_t gLang;
 
@@ -95,11 +141,18 @@ QZFILTER_API uint32_t QZFilter_ExportFileA(void* hostWindow, unsigned long id, c
  * when it closes. */
 QZFILTER_API uint32_t QZFilter_ExportEnd(unsigned long id);
 
+/* Tells what became of an export: of a session that lives, and of one that has ended until the next begins.
+ * Fills `record` as far as its size goes, with zeros where a later version knows more. Returns
+ * QZFILTER_SUCCESS, or QZFILTER_FAILED with the record untouched for an unknown session and for a size below
+ * 292, the record's first. A host finds it by name and does without where an older module has none. */
+QZFILTER_API uint32_t QZFilter_GetExportOutcome(unsigned long id, QZEXPORTOUTCOME* record);
+typedef uint32_t (*QZFilter_GetExportOutcomeProc)(unsigned long id, QZEXPORTOUTCOME* record);
+
 /* Returns 0; this filter has no messages of its own. */
 QZFILTER_API uint32_t QZFilter_GetCustomMessageA(void* host, unsigned long id, char* buffer, uint32_t size);
 
-/* Told of the module's being loaded (reason 1) and unloaded; returns 1. A host calls it with its handle of
- * the module right after loading. */
+/* Told of the module's being loaded (QZFILTER_ATTACH) and unloaded (QZFILTER_DETACH: closes the dialogs that
+ * are still open); returns 1. A host calls it with its handle of the module right after loading. */
 QZFILTER_API int32_t DllMain(void* module, uint32_t reason, void* reserved);
 
 #ifdef __cplusplus
@@ -108,10 +161,12 @@ QZFILTER_API int32_t DllMain(void* module, uint32_t reason, void* reserved);
 static_assert(sizeof(QZEXPORTBEGIN) == (sizeof(void*) == 4 ? 24 : 32), "QZEXPORTBEGIN layout");
 static_assert(sizeof(QZEXPORTFORMAT) == 80, "QZEXPORTFORMAT layout");
 static_assert(sizeof(QZEXPORTFILE) == 92, "QZEXPORTFILE layout");
+static_assert(sizeof(QZEXPORTOUTCOME) == 292, "QZEXPORTOUTCOME layout");
 #elif defined(__STDC_VERSION__) && __STDC_VERSION__ >= 201112L
 _Static_assert(sizeof(QZEXPORTBEGIN) == (sizeof(void*) == 4 ? 24 : 32), "QZEXPORTBEGIN layout");
 _Static_assert(sizeof(QZEXPORTFORMAT) == 80, "QZEXPORTFORMAT layout");
 _Static_assert(sizeof(QZEXPORTFILE) == 92, "QZEXPORTFILE layout");
+_Static_assert(sizeof(QZEXPORTOUTCOME) == 292, "QZEXPORTOUTCOME layout");
 #endif
 
 #endif /* GRADIX_QZFILTER_H */

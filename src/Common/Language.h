@@ -6,7 +6,7 @@
 
 #include "gradix/QZFilter.h"
 
-inline constexpr int16_t kLanguageSpanish = 6;
+inline constexpr int16_t kLanguageSpanish = QZFILTER_SPANISH;
 
 // Of gLang, which the host sets.
 inline bool IsSpanish() {

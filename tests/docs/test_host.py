@@ -41,8 +41,9 @@ class HostTest(unittest.TestCase):
                 for index in formats:
                     with self.subTest(name, index=index):
                         done = host(os.environ["FILTER"], class_file, index, 2, output)
-                        self.assertEqual((done.returncode, "dialog is open" in done.stdout),
-                                         (0, True) if opens else (1, False), done.stderr)
+                        self.assertEqual(
+                            (done.returncode, "dialog is open" in done.stdout, "Nothing was exported." in done.stdout),
+                            (0, True, True) if opens else (1, False, False), done.stderr)
             self.assertFalse(output.exists(), "nobody pressed OK")
 
     def test_refuses_what_is_no_filter(self):

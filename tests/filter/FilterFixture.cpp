@@ -9,6 +9,7 @@
 #include <QTest>
 #include <algorithm>
 #include <cstdlib>
+#include <cstring>
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
@@ -26,10 +27,10 @@ int32_t _ChooseFile(void* dialog, int32_t reserved, char* path, int32_t size, ui
 
 }  // namespace
 
-FilterModule& FilterTest::Module() {
-  static FilterModule s_module;
-  if (s_module.handle == nullptr) s_module.Load();
-  return s_module;
+LoadedFilter& FilterTest::Module() {
+  static LoadedFilter module;
+  if (module.handle == nullptr) module.Load();
+  return module;
 }
 
 void FilterTest::SetUp() {
@@ -64,7 +65,7 @@ uint32_t FilterTest::ExportFile(unsigned long session, const std::string& classF
                                 void* hostWindow) {
   QZEXPORTFILE file{};
   file.assignmentID = assignment;
-  file.classFile = MakeFileReference(classFile.c_str());
+  file.classFile = QZFilter_MakeFSRef(classFile.c_str());
   const uint32_t status = Module().exportFile(hostWindow, session, &file, Module().handle);
   RunEvents();
   return status;

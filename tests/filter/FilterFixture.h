@@ -14,7 +14,7 @@
 #include <vector>
 
 #include "tests/filter/AlertAnswerer.h"
-#include "tests/filter/FilterModule.h"
+#include "tests/filter/LoadedFilter.h"
 #include "tests/support/Gestures.h"
 
 // Items of the gradebook options.
@@ -80,7 +80,7 @@ class FilterTest : public testing::Test {
   void TearDown() override;
 
   // The process's only copy of the module.
-  static FilterModule& Module();
+  static LoadedFilter& Module();
 
   // A new session that uses the fixture's file chooser, if any.
   unsigned long Begin(uint32_t format, bool withChooser = true);

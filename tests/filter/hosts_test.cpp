@@ -2,7 +2,9 @@
 #include <malloc.h>
 
 #include <QWindow>
+#include <cerrno>
 #include <cstdlib>
+#include <cstring>
 #include <functional>
 
 #include "bench/ClassGenerator.h"
@@ -21,6 +23,13 @@ class HostsTest : public FilterTest {
     std::filesystem::create_directories(bundle + "/Resources");
     std::filesystem::copy_file(BUNDLE "/Resources/Gradix.rsrc", bundle + "/Resources/Gradix.rsrc");
     return bundle;
+  }
+
+  static QZEXPORTOUTCOME Outcome(unsigned long session) {
+    QZEXPORTOUTCOME outcome{};
+    outcome.size = sizeof outcome;
+    EXPECT_EQ(Module().outcome(session, &outcome), QZFILTER_SUCCESS);
+    return outcome;
   }
 };
 
@@ -51,12 +60,14 @@ TEST_F(HostsTest, RefusesWhatDoesNotExist) {
     EXPECT_EQ(Module().begin(nullptr, &begin, &session), QZFILTER_FAILED);
     EXPECT_EQ(session, 77U);
   }
-  EXPECT_EQ(Module().formatInfo(&format, 1UL << 32), 0U);
+  for (const unsigned long index : {1UL << 32, ~0UL}) EXPECT_EQ(Module().formatInfo(&format, index), 0U);
   EXPECT_EQ(std::memcmp(&format, &before, sizeof format), 0);
   EXPECT_EQ(Module().begin(nullptr, nullptr, nullptr), QZFILTER_FAILED);
   EXPECT_EQ(ExportFile(12345, kSampleClass), QZFILTER_FAILED);
   EXPECT_EQ(Module().end(12345), QZFILTER_SUCCESS);
-  EXPECT_EQ(Module().customMessage(nullptr, 12345, nullptr, 0), 0U);
+  char message[] = "before";
+  EXPECT_EQ(Module().customMessage(nullptr, 12345, message, sizeof message), 0U);
+  EXPECT_STREQ(message, "before");
   EXPECT_TRUE(Dialogs().empty());
 }
 
@@ -66,16 +77,17 @@ TEST_F(HostsTest, ShowsNoDialogForAClassFileThatCannotBeRead) {
   const QZEXPORTFILE zeros{};
   EXPECT_EQ(Module().exportFile(nullptr, session, &zeros, Module().handle), 0U);
   QZEXPORTFILE noPath{};
-  noPath.classFile = MakeFileReference(nullptr);
+  noPath.classFile = QZFilter_MakeFSRef(nullptr);
   EXPECT_EQ(Module().exportFile(nullptr, session, &noPath, Module().handle), 0U);
   EXPECT_EQ(ExportFile(session, PathOf("missing.xml")), 0U);
-  EXPECT_EQ(ExportFile(session, PathOf("")), 0U);
+  EXPECT_EQ(ExportFile(session, PathOf("")), 0U) << "a folder";
   EXPECT_EQ(ExportFile(session, PathOf("") + std::string(1024, 'x')), 0U);
   for (const char* xml : {"", "<class>", "<class></klass>", "<school/>", "no markup"}) {
     EXPECT_EQ(ExportFile(session, WriteClass(xml)), 0U) << xml;
   }
   EXPECT_TRUE(Dialogs().empty());
   EXPECT_EQ(alerts.TakeTexts(), std::vector<std::string>{});
+  EXPECT_EQ(Outcome(session).state, QZFILTER_PENDING);
   EXPECT_EQ(ExportFile(session, kSampleClass), 1U) << "the session is still there";
 }
 
@@ -141,11 +153,12 @@ TEST_F(HostsTest, EndsTheSessionHoweverTheDialogCloses) {
   const struct {
     const char* name;
     std::function<void(QWidget*)> close;
+    uint32_t outcome = QZFILTER_CANCELLED;
   } rows[] = {
       {"window manager", [](QWidget* dialog) { dialog->close(); }},
       {"Escape", [](QWidget* dialog) { Key(dialog, Qt::Key_Escape); }},
       {"Cancel", [](QWidget* dialog) { Click(dialog, kCancel); }},
-      {"OK", [](QWidget* dialog) { Click(dialog, kOK); }},
+      {"OK", [](QWidget* dialog) { Click(dialog, kOK); }, QZFILTER_WRITTEN},
       {"unloading", [](QWidget*) { Module().dllMain(Module().handle, 0, nullptr); }},
       {"quitting", [](QWidget*) { EXPECT_EQ(Module().quit(), 1); }},
   };
@@ -157,10 +170,52 @@ TEST_F(HostsTest, EndsTheSessionHoweverTheDialogCloses) {
     const QPointer<QWidget> dialog = Dialogs().front();
     EXPECT_EQ(ExportFile(session, kSampleClass, kQuiz1), QZFILTER_FAILED) << "its dialog is open";
     EXPECT_EQ(Dialogs().size(), 1U);
+    EXPECT_EQ(Outcome(session).state, QZFILTER_PENDING);
     row.close(dialog);
     RunEvents();
     EXPECT_TRUE(dialog.isNull());
+    EXPECT_EQ(Outcome(session).state, row.outcome);
     EXPECT_EQ(ExportFile(session, kSampleClass, kQuiz1), QZFILTER_FAILED) << "the session has ended";
+  }
+}
+
+// Whatever the dialog says.
+TEST_F(HostsTest, TellsWhatBecameOfAnExport) {
+  const std::string classFile = WriteClass(ClassXml({"1", "", "3"}, {{7, "\u6F22\u5B57"}, {8, "B"}}));
+  const std::string tooLong = PathOf(std::string(256 - PathOf("").size(), 'f'));  // leaves no room for a zero
+  const struct {
+    uint32_t format;
+    std::string path;
+    uint32_t state;
+    int32_t error;
+    int32_t field;
+    uint32_t assignments, withoutIdentifier;
+  } rows[] = {
+      {kCanvas, PathOf("a.csv"), QZFILTER_WRITTEN, 0, 3, 2, 1},
+      {kDetailed, tooLong.substr(0, 256), QZFILTER_WRITTEN, 0, 0, 1, 0},
+      {kCanvas, PathOf("no-such-folder/a.csv"), QZFILTER_NOT_WRITTEN, ENOENT, 3, 2, 1},
+      {kDetailed, PathOf("no-such-folder/a.csv"), QZFILTER_NOT_WRITTEN, ENOENT, 0, 1, 0},
+      {kCanvas, "/dev/full", QZFILTER_NOT_WRITTEN, ENOSPC, 3, 2, 1},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.path);
+    chooser.path = row.path;
+    const unsigned long session = Begin(row.format);
+    EXPECT_EQ(ExportFile(session, classFile, 7), 1U);
+    ASSERT_EQ(Dialogs().size(), 1U);
+    QWidget* const dialog = Dialogs().front();
+    if (row.format == kCanvas) Click(dialog, kSelectAll);
+    Click(dialog, OKItem(row.format));
+    EXPECT_EQ(alerts.TakeTexts().back(), SavedText(row.path));
+    const QZEXPORTOUTCOME outcome = Outcome(session);
+    EXPECT_EQ(outcome.state, row.state);
+    EXPECT_EQ(outcome.error, row.error);
+    EXPECT_EQ(outcome.formatIndex, row.format);
+    EXPECT_EQ(outcome.userIDField, row.field);
+    EXPECT_EQ(outcome.assignments, row.assignments);
+    EXPECT_EQ(outcome.replacedCharacters, 2U);
+    EXPECT_EQ(outcome.studentsWithoutIdentifier, row.withoutIdentifier);
+    EXPECT_EQ(outcome.path, row.path);
   }
 }
 

@@ -4,8 +4,8 @@ import subprocess
 import unittest
 
 NAMES = """DllMain DoCommand OpenApplication OpenDataFile PrintDataFile QZFilter_ExportBeginA QZFilter_ExportEnd
-QZFilter_ExportFileA QZFilter_GetCustomMessageA QZFilter_GetExportFormatInfoA QZFilter_GetNumExportFormatsA
-QuitApplication UpdateMenus gLang""".split()
+QZFilter_ExportFileA QZFilter_GetCustomMessageA QZFilter_GetExportFormatInfoA QZFilter_GetExportOutcome
+QZFilter_GetNumExportFormatsA QuitApplication UpdateMenus gLang""".split()
 
 
 class Symbols(unittest.TestCase):

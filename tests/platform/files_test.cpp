@@ -69,6 +69,8 @@ TEST(FSRef, IsMadeByAnyHost) {
   std::memcpy(record.data() + 1 + 8, &path, sizeof(path));
   EXPECT_EQ(FSRefMakePath(file, buffer, sizeof(buffer)), noErr);
   EXPECT_STREQ(buffer, path);
+  const FSRef made = QZFilter_MakeFSRef(path);
+  EXPECT_EQ(std::memcmp(file, &made, sizeof made), 0);
   EXPECT_EQ(FSPathMakeRef("/", file, nullptr), noErr);
   EXPECT_EQ(std::memcmp(record.data() + 1, "FSrf\0\0\0\0", 8), 0);
   EXPECT_EQ(FSRefMakePath(file, buffer, sizeof(buffer)), noErr);

@@ -19,3 +19,8 @@ _Static_assert(sizeof(QZEXPORTFORMAT) == 80, "format record");
 _Static_assert(offsetof(QZEXPORTFILE, assignmentID) == 8, "assignment id");
 _Static_assert(offsetof(QZEXPORTFILE, classFile) == 12, "class file");
 _Static_assert(sizeof(QZEXPORTFILE) == 92, "export-file record");
+
+_Static_assert(offsetof(QZEXPORTOUTCOME, error) == 8, "error");
+_Static_assert(offsetof(QZEXPORTOUTCOME, studentsWithoutIdentifier) == 28, "last count");
+_Static_assert(offsetof(QZEXPORTOUTCOME, path) == 32, "path");
+_Static_assert(sizeof(QZEXPORTOUTCOME) == 292, "outcome record");

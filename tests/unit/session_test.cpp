@@ -3,17 +3,19 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstddef>
+#include <cstring>
 #include <filesystem>
 #include <limits>
 #include <random>
 #include <string>
 
 #include "Filters/GX_StdCsv/CommaSeparatedLine.h"
+#include "Filters/GX_StdCsv/FilterState.h"
 #include "Filters/GX_StdCsv/GradeColumns.h"
 #include "Filters/GX_StdCsv/RosterCheck.h"
 #include "Filters/GX_StdCsv/SessionMgr.h"
 #include "Filters/GX_StdCsv/formats/Canvas.h"
-#include "Filters/GX_StdCsv/start.h"
 #include "tests/support/Exported.h"
 
 namespace {
@@ -99,6 +101,50 @@ TEST(EntryPoints, ListBeginAndEnd) {
     EXPECT_NE(g_sessionMgr.GetSession(id), nullptr) << "the options dialog ends the session, not the host";
     g_sessionMgr.EndSession(id);
   }
+}
+
+TEST(EntryPoints, KeepAnOutcomeUntilTheNextSession) {
+  const auto stateOf = [](unsigned long id) {
+    QZEXPORTOUTCOME outcome{};
+    outcome.size = sizeof outcome;
+    outcome.state = 99;
+    return QZFilter_GetExportOutcome(id, &outcome) == QZFILTER_SUCCESS ? outcome.state : 98;
+  };
+  QZEXPORTBEGIN begin{};
+  unsigned long first = 0;
+  unsigned long second = 0;
+  unsigned long third = 0;
+  ASSERT_EQ(QZFilter_ExportBeginA(nullptr, &begin, &first), QZFILTER_SUCCESS);
+  ASSERT_EQ(QZFilter_ExportBeginA(nullptr, &begin, &second), QZFILTER_SUCCESS);
+  EXPECT_EQ(stateOf(first), QZFILTER_PENDING) << "it lives";
+  g_sessionMgr.EndSession(first);
+  begin.formatIndex = 11;
+  EXPECT_EQ(QZFilter_ExportBeginA(nullptr, &begin, &third), QZFILTER_FAILED);
+  EXPECT_EQ(stateOf(first), QZFILTER_CANCELLED) << "no session has begun";
+  begin.formatIndex = 6;
+  ASSERT_EQ(QZFilter_ExportBeginA(nullptr, &begin, &third), QZFILTER_SUCCESS);
+  EXPECT_EQ(stateOf(first), 98U);
+  EXPECT_EQ(stateOf(second), QZFILTER_PENDING);
+
+  // A record of a later version, and one that is none.
+  struct {
+    QZEXPORTOUTCOME outcome;
+    uint32_t later, beyond;
+  } record;
+  std::memset(&record, 0x5A, sizeof record);
+  record.outcome.size = offsetof(decltype(record), beyond);
+  EXPECT_EQ(QZFilter_GetExportOutcome(third, &record.outcome), QZFILTER_SUCCESS);
+  EXPECT_EQ(record.outcome.size, offsetof(decltype(record), beyond));
+  EXPECT_EQ(record.outcome.formatIndex, 6U);
+  EXPECT_EQ(record.later, 0U);
+  EXPECT_EQ(record.beyond, 0x5A5A5A5AU);
+  record.outcome.size = 291;
+  record.outcome.state = 99;
+  EXPECT_EQ(QZFilter_GetExportOutcome(third, &record.outcome), QZFILTER_FAILED);
+  EXPECT_EQ(record.outcome.state, 99U);
+  EXPECT_EQ(QZFilter_GetExportOutcome(third, nullptr), QZFILTER_FAILED);
+  g_sessionMgr.EndSession(second);
+  g_sessionMgr.EndSession(third);
 }
 
 TEST(Session, TellsWhyItsFileIsNotThere) {

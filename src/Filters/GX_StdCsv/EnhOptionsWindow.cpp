@@ -3,7 +3,7 @@
 #include "Common/Language.h"
 #include "Common/QZData/StudentFields.h"
 #include "Common/help.h"
-#include "Filters/GX_StdCsv/OptionsDialog.h"
+#include "Filters/GX_StdCsv/DialogSession.h"
 #include "Filters/GX_StdCsv/QZLoadString.h"
 #include "Toolkit/Buttons.h"
 #include "Toolkit/CBCombo.h"

@@ -1,10 +1,17 @@
 // The entry points that show nothing: they work in any process.
+#include <algorithm>
+#include <cstring>
+
+#include "Filters/GX_StdCsv/FilterState.h"
 #include "Filters/GX_StdCsv/FormatTable.h"
 #include "Filters/GX_StdCsv/Session.h"
-#include "Filters/GX_StdCsv/start.h"
 #include "gradix/QZFilter.h"
 
-SessionMgr g_sessionMgr;
+namespace {
+
+constexpr size_t kFirstOutcomeSize = 292;  // of the record's first version, which every host has
+
+}  // namespace
 
 uint32_t QZFilter_GetNumExportFormatsA() {
   return static_cast<uint32_t>(FormatTable().size());
@@ -27,4 +34,16 @@ uint32_t QZFilter_ExportEnd(unsigned long /*id*/) {
 uint32_t QZFilter_GetCustomMessageA(void* /*host*/, unsigned long /*id*/, char* /*buffer*/,
                                     uint32_t /*size*/) {
   return 0;
+}
+
+uint32_t QZFilter_GetExportOutcome(unsigned long id, QZEXPORTOUTCOME* record) {
+  const QZEXPORTOUTCOME* outcome = g_sessionMgr.FindOutcome(id);
+  if (outcome == nullptr || record == nullptr || record->size < kFirstOutcomeSize) return QZFILTER_FAILED;
+  const size_t size = record->size;
+  const size_t known = std::min(size, sizeof *outcome);
+  auto* const bytes = reinterpret_cast<char*>(record);
+  std::memcpy(bytes, outcome, known);
+  std::memset(bytes + known, 0, size - known);
+  record->size = static_cast<uint32_t>(size);
+  return QZFILTER_SUCCESS;
 }

@@ -22,11 +22,16 @@ class SessionMgr {
   // The session, owned by this manager until EndSession; null for an unknown id.
   Session* GetSession(unsigned long id) const;
 
-  // Destroys the session. An unknown id is ignored.
+  // Destroys the session; cancelled unless its outcome says otherwise. An unknown id is ignored.
   void EndSession(unsigned long id);
+
+  // What became of a session's export: of one that lives, and of one that has ended until the next is
+  // created. Null for an unknown id.
+  QZEXPORTOUTCOME* FindOutcome(unsigned long id);
 
  private:
   std::map<unsigned long, std::unique_ptr<Session>> m_sessions;
+  std::map<unsigned long, QZEXPORTOUTCOME> m_outcomes;
   uint32_t m_created = 0;
 };
 

@@ -1,13 +1,14 @@
-#include "Filters/GX_StdCsv/start.h"
-
+#include <algorithm>
 #include <cstring>
 #include <fstream>
+#include <limits>
 
 #include "Common/Language.h"
 #include "Common/QZXMLParse/QZClassParse.h"
+#include "Filters/GX_StdCsv/DialogSession.h"
 #include "Filters/GX_StdCsv/EnhOptionsWindow.h"
+#include "Filters/GX_StdCsv/FilterState.h"
 #include "Filters/GX_StdCsv/FormatTable.h"
-#include "Filters/GX_StdCsv/OptionsDialog.h"
 #include "Filters/GX_StdCsv/OptionsWindow.h"
 #include "Filters/GX_StdCsv/QZLoadString.h"
 #include "Filters/GX_StdCsv/Session.h"
@@ -20,22 +21,9 @@
 
 namespace {
 
-constexpr uint32_t kAttach = 1;  // reasons of DllMain
-constexpr uint32_t kDetach = 0;
 constexpr int16_t kMissingResourcesAlert = 10001;  // of the host
 constexpr uint32_t kFormatFlags = 14;
 constexpr size_t kMaxPath = 1024;
-
-}  // namespace
-
-unsigned long ncontextID = 0;
-void* ghDllInstance = nullptr;
-
-int32_t DllMain(void* module, uint32_t reason, void* /*reserved*/) {
-  if (reason == kAttach) ghDllInstance = module;
-  if (reason == kDetach) DLGDisposeAll();
-  return 1;
-}
 
 void _FillFormatInfo(QZEXPORTFORMAT* info, const char* name) {
   std::memset(info->name, 0, sizeof info->name);
@@ -45,40 +33,22 @@ void _FillFormatInfo(QZEXPORTFORMAT* info, const char* name) {
   info->flags = kFormatFlags;
 }
 
-namespace {
-
 // The Spanish name where there is one and the language asks for it.
 std::string _FormatName(const FormatRow& format) {
   return IsSpanish() && format.spanishNameID != 0 ? QZLoadString(format.spanishNameID) : format.name;
 }
 
-}  // namespace
-
-uint32_t QZFilter_GetExportFormatInfoA(QZEXPORTFORMAT* info, unsigned long index) {
-  try {
-    gLang = 0;  // hosts rely on English names here; everything that follows in this session is English, too
-    if (!_LoadExtraResourceFile(_ExtraResourceFileName())) {
-      StopAlert(kMissingResourcesAlert);
-      return 0;
-    }
-    const FormatRow* format =
-        index < FormatTable().size() ? FindFormat(static_cast<uint32_t>(index)) : nullptr;
-    if (format == nullptr || info == nullptr) return 0;
-    _FillFormatInfo(info, _FormatName(*format).c_str());
-    return 1;
-  } catch (...) {
-    return 0;
-  }
-}
-
-namespace {
-
-// Reads the class file into the record. False when it cannot be opened or is malformed.
+// Reads the class file into the session under way. False when it cannot be opened or is malformed.
 bool _ReadClassFile(const FSRef* file, qz::ClassRecord* record) {
   char path[kMaxPath] = "";
   FSRefMakePath(file, path, sizeof path);
   std::ifstream stream(path, std::ios::binary);
-  return QZClassParse(record, stream);
+  QZClassParseReport report;
+  const bool parsed = QZClassParse(record, stream, &report);
+  constexpr uint64_t kMost = std::numeric_limits<uint32_t>::max();
+  g_sessionMgr.FindOutcome(ncontextID)->replacedCharacters =
+      static_cast<uint32_t>(std::min(report.replacedCharacters, kMost));
+  return parsed;
 }
 
 void _SelectAssignment(qz::ClassRecord* record, int32_t id) {
@@ -103,6 +73,34 @@ uint32_t _ExportFile(void* hostWindow, const QZEXPORTFILE* file) {
 }
 
 }  // namespace
+
+int32_t DllMain(void* module, uint32_t reason, void* /*reserved*/) {
+  if (reason == QZFILTER_ATTACH) ghDllInstance = module;
+  if (reason != QZFILTER_DETACH) return 1;
+  try {
+    DLGDisposeAll();
+  } catch (...) {  // what could not be closed stays
+    return 1;
+  }
+  return 1;
+}
+
+uint32_t QZFilter_GetExportFormatInfoA(QZEXPORTFORMAT* info, unsigned long index) {
+  try {
+    gLang = 0;  // hosts rely on English names here; everything that follows in this session is English, too
+    if (!_LoadExtraResourceFile(_ExtraResourceFileName())) {
+      StopAlert(kMissingResourcesAlert);
+      return 0;
+    }
+    const FormatRow* format =
+        index < FormatTable().size() ? FindFormat(static_cast<uint32_t>(index)) : nullptr;
+    if (format == nullptr || info == nullptr) return 0;
+    _FillFormatInfo(info, _FormatName(*format).c_str());
+    return 1;
+  } catch (...) {
+    return 0;
+  }
+}
 
 uint32_t QZFilter_ExportFileA(void* hostWindow, unsigned long id, const QZEXPORTFILE* file, void* module) {
   ncontextID = id;

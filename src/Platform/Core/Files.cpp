@@ -15,8 +15,6 @@
 
 namespace {
 
-constexpr char kTag[4] = {'F', 'S', 'r', 'f'};
-constexpr size_t kPathOffset = 8;  // of the pointer in a reference
 constexpr size_t kComponentLimit = 255;
 
 constexpr int16_t kVolume = -100;
@@ -51,9 +49,10 @@ OSErr _ErrorOf(int error) {
 }  // namespace
 
 const char* FSRefPath(const FSRef* file) {
-  if (file == nullptr || std::memcmp(file->hidden, kTag, sizeof(kTag)) != 0) return nullptr;
+  if (file == nullptr) return nullptr;
+  if (std::memcmp(file->hidden, QZFILTER_FSREF_TAG, QZFILTER_FSREF_TAG_SIZE) != 0) return nullptr;
   const char* path = nullptr;
-  std::memcpy(&path, file->hidden + kPathOffset, sizeof(path));
+  std::memcpy(&path, file->hidden + QZFILTER_FSREF_PATH_OFFSET, sizeof(path));
   return path;
 }
 
@@ -63,10 +62,7 @@ OSStatus FSPathMakeRef(const char* path, FSRef* file, bool* isDirectory) {
   struct stat status;
   if (absolute.empty()) return fnfErr;
   if (stat(absolute.c_str(), &status) != 0) return _ErrorOf(errno);
-  const char* const interned = _InternPath(absolute);
-  std::memset(file->hidden, 0, sizeof(file->hidden));
-  std::memcpy(file->hidden, kTag, sizeof(kTag));
-  std::memcpy(file->hidden + kPathOffset, &interned, sizeof(interned));
+  *file = QZFilter_MakeFSRef(_InternPath(absolute));
   if (isDirectory != nullptr) *isDirectory = S_ISDIR(status.st_mode);
   return noErr;
 }

@@ -1,21 +1,20 @@
 // The loaded filter, as a host has it: the entry points, found by name.
-#ifndef GRADIX_TESTS_FILTERMODULE_H
-#define GRADIX_TESTS_FILTERMODULE_H
+#ifndef GRADIX_TESTS_LOADEDFILTER_H
+#define GRADIX_TESTS_LOADEDFILTER_H
 
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
-#include <cstring>
-
 #include "gradix/QZFilter.h"
 
-struct FilterModule {
+struct LoadedFilter {
   void* handle = nullptr;
   decltype(&QZFilter_GetNumExportFormatsA) formatCount = nullptr;
   decltype(&QZFilter_GetExportFormatInfoA) formatInfo = nullptr;
   decltype(&QZFilter_ExportBeginA) begin = nullptr;
   decltype(&QZFilter_ExportFileA) exportFile = nullptr;
   decltype(&QZFilter_ExportEnd) end = nullptr;
+  QZFilter_GetExportOutcomeProc outcome = nullptr;
   decltype(&QZFilter_GetCustomMessageA) customMessage = nullptr;
   decltype(&DllMain) dllMain = nullptr;
   int32_t (*quit)() = nullptr;
@@ -30,11 +29,12 @@ struct FilterModule {
     Find("QZFilter_ExportBeginA", &begin);
     Find("QZFilter_ExportFileA", &exportFile);
     Find("QZFilter_ExportEnd", &end);
+    Find("QZFilter_GetExportOutcome", &outcome);
     Find("QZFilter_GetCustomMessageA", &customMessage);
     Find("DllMain", &dllMain);
     Find("QuitApplication", &quit);
     Find("gLang", &language);
-    ASSERT_EQ(dllMain(handle, 1, nullptr), 1);
+    ASSERT_EQ(dllMain(handle, QZFILTER_ATTACH, nullptr), 1);
   }
 
  private:
@@ -45,13 +45,4 @@ struct FilterModule {
   }
 };
 
-// A file reference, made the way a host makes one. The path has to stay where it is.
-inline FSRef MakeFileReference(const char* path) {
-  constexpr uint8_t kTag[] = {0x46, 0x53, 0x72, 0x66};
-  FSRef file{};
-  std::memcpy(file.hidden, kTag, sizeof kTag);
-  std::memcpy(file.hidden + 8, &path, sizeof path);
-  return file;
-}
-
-#endif  // GRADIX_TESTS_FILTERMODULE_H
+#endif  // GRADIX_TESTS_LOADEDFILTER_H

@@ -1,10 +1,14 @@
-#include "Filters/GX_StdCsv/OptionsDialog.h"
+#include "Filters/GX_StdCsv/DialogSession.h"
 
+#include <algorithm>
+#include <cerrno>
 #include <cstring>
+#include <limits>
 
 #include "Common/Language.h"
 #include "Filters/GX_StdCsv/DialogMessages.h"
-#include "Filters/GX_StdCsv/start.h"
+#include "Filters/GX_StdCsv/FilterState.h"
+#include "Filters/GX_StdCsv/FormatTable.h"
 #include "Toolkit/Alert.h"
 #include "Toolkit/DLGManager.h"
 #include "Toolkit/LBList.h"
@@ -13,27 +17,56 @@
 namespace {
 
 constexpr int16_t kSavedInformation = 3;
-constexpr int32_t kPathSize = 256;
+
+unsigned long _SessionID(const DLGRecord* dialog) {
+  return static_cast<uint32_t>(dialog->userValue);
+}
 
 // The close procedure: the session goes with its dialog.
 bool _CleanDialog(DLGRecord* dialog) {
-  g_sessionMgr.EndSession(static_cast<uint32_t>(dialog->userValue));
+  g_sessionMgr.EndSession(_SessionID(dialog));
   return true;
+}
+
+template <typename Rows, typename Matches>
+uint32_t _Count(const Rows& rows, Matches matches) {
+  const auto count = std::count_if(rows.begin(), rows.end(), matches);
+  constexpr auto kMost = std::numeric_limits<uint32_t>::max();
+  return static_cast<uint32_t>(std::min<uint64_t>(static_cast<uint64_t>(count), kMost));
+}
+
+void _DescribeChoices(const qz::ClassRecord& record, QZEXPORTOUTCOME* outcome) {
+  outcome->assignments =
+      _Count(record.assignments, [](const qz::AssignmentRecord& assignment) { return assignment.selected; });
+  std::memset(outcome->path, 0, sizeof outcome->path);
+  record.exportPath.copy(outcome->path, sizeof outcome->path - 1);
+  if (FindFormat(outcome->formatIndex)->IsReport()) return;
+  outcome->userIDField = record.userIDField;
+  outcome->studentsWithoutIdentifier = _Count(record.students, [&record](const qz::StudentRecord& student) {
+    return student.GetUserID(record.userIDField).empty();
+  });
+}
+
+// Writes the file and keeps for the host what became of it.
+void _Export(Session* session, QZEXPORTOUTCOME* outcome) {
+  _DescribeChoices(*session->GetClass(), outcome);
+  outcome->state = QZFILTER_NOT_WRITTEN;
+  outcome->error = ENOMEM;  // should writing throw
+  const uint32_t status = session->Export(session->GetClass()->exportPath.c_str());
+  outcome->error = session->WriteError();
+  if (status == QZFILTER_SUCCESS && outcome->error == 0) outcome->state = QZFILTER_WRITTEN;
 }
 
 }  // namespace
 
 Session* SessionOfDialog(const DLGRecord* dialog) {
-  return g_sessionMgr.GetSession(static_cast<uint32_t>(dialog->userValue));
+  return g_sessionMgr.GetSession(_SessionID(dialog));
 }
 
 bool HasOptionsDialog(unsigned long sessionID) {
   for (WindowRef window = GetWindowList(); window != nullptr; window = GetNextWindow(window)) {
     const DLGRecord* dialog = DLGFromHwnd(window);
-    if (dialog != nullptr && dialog->close == _CleanDialog &&
-        static_cast<uint32_t>(dialog->userValue) == sessionID) {
-      return true;
-    }
+    if (dialog != nullptr && dialog->close == _CleanDialog && _SessionID(dialog) == sessionID) return true;
   }
   return false;
 }
@@ -68,10 +101,10 @@ bool ChooseOutputFile(DLGRecord* dialog, std::string* path) {
   if (session == nullptr) return false;
   const QZEXPORTBEGIN begin = session->GetExportInfo();
   if (begin.chooseFile == nullptr) return false;
-  char buffer[kPathSize] = "";
+  char buffer[QZFILTER_PATH_SIZE] = "";
   const DLGWatch watch(dialog);
   void* window = GetWindowID(dialog->window);
-  if (begin.chooseFile(window, 0, buffer, kPathSize, begin.chooseFileValue) != 0) return false;
+  if (begin.chooseFile(window, 0, buffer, QZFILTER_PATH_SIZE, begin.chooseFileValue) != 0) return false;
   path->assign(buffer, strnlen(buffer, sizeof buffer));
   return watch.IsLive() && SessionOfDialog(dialog) != nullptr;
 }
@@ -79,7 +112,7 @@ bool ChooseOutputFile(DLGRecord* dialog, std::string* path) {
 void ExportAndClose(DLGRecord* dialog, int savedMessageID) {
   Session* session = SessionOfDialog(dialog);
   const std::string path = session->GetClass()->exportPath;
-  session->Export(path.c_str());  // the message below is for every outcome
+  _Export(session, g_sessionMgr.FindOutcome(_SessionID(dialog)));  // the message below is for every outcome
   const DLGWatch watch(dialog);
   InfoAlert(kSavedInformation, Utf8Text{SavedMessage(savedMessageID, path)});
   if (watch.IsLive()) MyCloseDialog(dialog);

@@ -1,6 +1,6 @@
-// What the two options dialogs share: the session each works for, the host's file chooser, and the end.
-#ifndef GRADIX_OPTIONSDIALOG_H
-#define GRADIX_OPTIONSDIALOG_H
+// What the two options dialogs share: the session that each works for, the host's file chooser, and the end.
+#ifndef GRADIX_DIALOGSESSION_H
+#define GRADIX_DIALOGSESSION_H
 
 #include <functional>
 #include <string>
@@ -32,4 +32,4 @@ void ExportAndClose(DLGRecord* dialog, int savedMessageID);
 // Checks or clears every row of a check list.
 void CheckAllRows(DLGRecord* dialog, int32_t item, bool on);
 
-#endif  // GRADIX_OPTIONSDIALOG_H
+#endif  // GRADIX_DIALOGSESSION_H

@@ -20,6 +20,7 @@ target_compile_options(gtest32 PRIVATE -m32)
 add_executable(unit_tests_32 ${unit_tests})
 target_include_directories(unit_tests_32 PRIVATE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/src
                                                  ${PROJECT_SOURCE_DIR}/include)
+target_compile_definitions(unit_tests_32 PRIVATE GOLDEN="${CMAKE_CURRENT_SOURCE_DIR}/golden")
 target_compile_options(unit_tests_32 PRIVATE -m32 -msse2 -mfpmath=sse)
 target_link_options(unit_tests_32 PRIVATE -m32)
 target_link_libraries(unit_tests_32 PRIVATE gradix::options gxportable gxentry gtest32)

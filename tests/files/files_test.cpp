@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "Platform/Core/Files.h"
+#include "tests/platform/temp_folder.h"
 
 namespace fs = std::filesystem;
 
@@ -24,24 +25,12 @@ using Names = std::vector<std::string>;
 
 class Files : public testing::Test {
  protected:
-  void SetUp() override {
-    const char* before = std::getenv("TMPDIR");
-    if (before != nullptr) m_before = before;
-    std::string pattern = (fs::temp_directory_path() / "gradix-files-XXXXXX").string();
-    ASSERT_NE(mkdtemp(pattern.data()), nullptr);
-    m_root = pattern;
-    UseTemporaryFolder("temp");
-  }
-
-  void TearDown() override {
-    m_before.empty() ? unsetenv("TMPDIR") : setenv("TMPDIR", m_before.c_str(), 1);
-    if (!m_root.empty()) fs::remove_all(m_root);
-  }
+  Files() { UseTemporaryFolder("temp"); }
 
   fs::path UseTemporaryFolder(const std::string& name) {
     const fs::path folder = m_root / name;
     fs::create_directory(folder);
-    setenv("TMPDIR", folder.c_str(), 1);
+    m_temporary.Set(folder.string());
     return folder;
   }
 
@@ -72,8 +61,9 @@ class Files : public testing::Test {
     return names;
   }
 
-  fs::path m_root;
-  std::string m_before;  // TMPDIR
+  TempFolder m_folder;
+  fs::path m_root = m_folder.Path();
+  ScopedEnvironment m_temporary{"TMPDIR", ""};
 };
 
 TEST_F(Files, FindsByPatternInOrder) {
@@ -192,7 +182,7 @@ TEST_F(Files, TemporaryFolder) {
   EXPECT_EQ(qz::GetTempFileName(), other.string() + "/~qf00000");
   EXPECT_EQ(qz::GetTempFileName(), other.string() + "/~qf00000");
   Touch(m_root, {"file"});
-  setenv("TMPDIR", (m_root / "file/below").c_str(), 1);
+  m_temporary.Set((m_root / "file/below").string());
   EXPECT_STREQ(qz::GetTempFileName(), "");
   const qz::TempFolder none;
   EXPECT_EQ(none.path, "");

@@ -3,9 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
 #include <string>
 #include <vector>
 
@@ -13,8 +10,7 @@
 #include "Platform/Core/CFString.h"
 #include "Platform/Ui/Alerts.h"
 #include "Platform/Ui/Launch.h"
-
-namespace fs = std::filesystem;
+#include "tests/platform/temp_folder.h"
 
 namespace {
 
@@ -53,30 +49,20 @@ constexpr int32_t kContents = 900;
 
 class HelpTest : public testing::Test {
  protected:
-  void SetUp() override {
-    std::string pattern = (fs::temp_directory_path() / "gradix-help-XXXXXX").string();
-    ASSERT_NE(mkdtemp(pattern.data()), nullptr);
-    m_root = fs::canonical(pattern);
-    UseHost(m_root);
+  HelpTest() {
+    UseHost("");
     gSheets.clear();
     gURLs.clear();
     gOpens = true;
-    gLang = 0;
   }
-
-  void TearDown() override {
-    unsetenv("GRADIX_BUNDLE");
-    gLang = 0;
-    if (!m_root.empty()) fs::remove_all(m_root);
-  }
+  ~HelpTest() override { gLang = 0; }
 
   // Makes a host in that folder, with both start pages in "My Book".
-  static void UseHost(const fs::path& folder) {
-    fs::create_directories(folder / "Gradix.bundle/Resources");
-    fs::create_directories(folder / "My Book");
-    std::ofstream(folder / "My Book/start.htm") << "x";
-    std::ofstream(folder / "My Book/other.htm") << "x";
-    setenv("GRADIX_BUNDLE", (folder / "Gradix.bundle").c_str(), 1);
+  void UseHost(const std::string& folder) {
+    for (const char* file : {"Gradix.bundle/Resources/x", "My Book/start.htm", "My Book/other.htm"}) {
+      m_folder.Write(folder + file, "x");
+    }
+    m_bundle.Set(m_folder.Path(folder + "Gradix.bundle"));
   }
 
   static void Register(const char* group = "qzmanage", const char* page = "My Book:start.htm") {
@@ -90,11 +76,12 @@ class HelpTest : public testing::Test {
   }
 
   WindowRef const m_window = reinterpret_cast<WindowRef>(&gOpens);  // never looked into
-  fs::path m_root;
+  TempFolder m_folder;
+  ScopedEnvironment m_bundle{"GRADIX_BUNDLE", ""};
 };
 
 TEST_F(HelpTest, OpensTheTopicsPage) {
-  const std::string book = "file://" + m_root.string() + "/My%20Book/";
+  const std::string book = "file://" + m_folder.Path() + "/My%20Book/";
   const struct {
     const char *name, *group;
     int32_t command, topic;
@@ -143,7 +130,7 @@ TEST_F(HelpTest, WhatCannotBeShownBecomesASheet) {
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.name);
-    setenv("GRADIX_BUNDLE", (m_root / (row.host ? "Gradix.bundle" : "None.bundle")).c_str(), 1);
+    m_bundle.Set(m_folder.Path(row.host ? "Gradix.bundle" : "None.bundle"));
     Register("qzmanage", row.page);
     gOpens = row.opens;
     gURLs.clear();
@@ -168,9 +155,9 @@ TEST_F(HelpTest, SpanishSheet) {
 // The start page's URL has 256 bytes, then one more.
 TEST_F(HelpTest, LengthOfTheURL) {
   const std::string rest = "/My%20Book/start.htm";
-  const size_t fixed = ("file://" + m_root.string() + "/").size() + rest.size();
+  const size_t fixed = ("file://" + m_folder.Path() + "/").size() + rest.size();
   for (const size_t length : {size_t{256}, size_t{257}}) {
-    UseHost(m_root / std::string(length - fixed, 'f'));
+    UseHost(std::string(length - fixed, 'f') + "/");
     Register();
     gURLs.clear();
     EXPECT_EQ(Help(m_window, 1, 223), length == 256);

@@ -2,36 +2,28 @@
 
 #include <gtest/gtest.h>
 
+#include "Platform/Core/CFOwned.h"
 #include "Platform/Core/StringsTable.h"
 #include "tests/platform/temp_folder.h"
 
 namespace {
 
-// A string that lives to the end of the expression; null for a null text.
-class Text {
- public:
-  explicit Text(const char* text) : m_string(CFStringCreateWithCString(text, kCFStringEncodingUTF8)) {}
-  Text(const Text&) = delete;
-  Text& operator=(const Text&) = delete;
-  ~Text() { CFRelease(m_string); }
-  operator CFStringRef() const { return m_string; }
+using Text = CFOwned<CFString>;
 
- private:
-  CFStringRef m_string;
-};
+// Null for a null text.
+Text Make(const char* text) {
+  return Text(CFStringCreateWithCString(text, kCFStringEncodingUTF8));
+}
 
 std::string Localized(CFBundleRef bundle, const char* key, const char* value, const char* table) {
-  const CFStringRef text = CFBundleCopyLocalizedString(bundle, Text(key), Text(value), Text(table));
-  std::string result = text == nullptr ? "(null)" : CFStringGetUTF8(text);
-  CFRelease(text);
-  return result;
+  const Text text(CFBundleCopyLocalizedString(bundle, Make(key).get(), Make(value).get(), Make(table).get()));
+  return text == nullptr ? "(null)" : CFStringGetUTF8(text.get());
 }
 
 std::string ResourcePath(CFBundleRef bundle, const char* name, const char* type, const char* subfolder) {
-  const CFURLRef url = CFBundleCopyResourceURL(bundle, Text(name), Text(type), Text(subfolder));
-  std::string path = url == nullptr ? "(none)" : url->path;
-  CFRelease(url);
-  return path;
+  const CFOwned<CFURL> url(
+      CFBundleCopyResourceURL(bundle, Make(name).get(), Make(type).get(), Make(subfolder).get()));
+  return url == nullptr ? "(none)" : url->path;
 }
 
 TEST(CFBundle, FollowsTheEnvironment) {

@@ -5,40 +5,33 @@
 #include <limits>
 #include <set>
 
+#include "Platform/Core/CFOwned.h"
+
 namespace {
 
-// A string and its release.
-class Text {
- public:
-  explicit Text(CFStringRef string) : m_string(string) {}
-  explicit Text(std::u16string_view text)
-      : Text(CFStringCreateWithCharacters(text.data(), static_cast<CFIndex>(text.size()))) {}
-  Text(const Text&) = delete;
-  Text& operator=(const Text&) = delete;
-  ~Text() { CFRelease(m_string); }
-  operator CFStringRef() const { return m_string; }
+using Text = CFOwned<CFString>;
 
- private:
-  CFStringRef m_string;
-};
+Text Unicode(std::u16string_view text) {
+  return Text(CFStringCreateWithCharacters(text.data(), static_cast<CFIndex>(text.size())));
+}
 
 TEST(CFString, EveryRomanByteRoundTrips) {
   std::string bytes;
   for (int byte = 0; byte < 256; ++byte) bytes += static_cast<char>(byte);
   const Text string(CFStringCreateWithBytes(bytes.data(), 256, kCFStringEncodingMacRoman));
-  ASSERT_EQ(CFStringGetLength(string), 256);
-  const std::u16string_view text = CFStringGetText(string);
+  ASSERT_EQ(CFStringGetLength(string.get()), 256);
+  const std::u16string_view text = CFStringGetText(string.get());
   EXPECT_EQ(std::set<char16_t>(text.begin(), text.end()).size(), 256U);
   EXPECT_EQ(text.find(u'\uFFFD'), std::u16string_view::npos);
   EXPECT_EQ(text[0x8E], u'\u00E9');
   EXPECT_EQ(text[0xF0], u'\uF8FF');
 
   char buffer[257];
-  ASSERT_TRUE(CFStringGetCString(string, buffer, sizeof(buffer), kCFStringEncodingMacRoman));
+  ASSERT_TRUE(CFStringGetCString(string.get(), buffer, sizeof(buffer), kCFStringEncodingMacRoman));
   EXPECT_EQ(std::string(buffer, 256), bytes);
   EXPECT_EQ(buffer[256], '\0');
   EXPECT_EQ(UTF8ToMacRoman(MacRomanToUTF8(bytes)), bytes);
-  EXPECT_EQ(UTF8ToMacRoman(CFStringGetUTF8(string)), bytes);
+  EXPECT_EQ(UTF8ToMacRoman(CFStringGetUTF8(string.get())), bytes);
 }
 
 TEST(CFString, DecodesOnlyWellFormedUTF8) {
@@ -64,10 +57,10 @@ TEST(CFString, DecodesOnlyWellFormedUTF8) {
   for (const auto& row : rows) {
     SCOPED_TRACE(row.name);
     const Text string(CFStringCreateWithCString(row.bytes, kCFStringEncodingUTF8));
-    EXPECT_EQ(static_cast<CFStringRef>(string) == nullptr, row.expected.empty());
-    EXPECT_EQ(CFStringGetText(string), row.expected);
+    EXPECT_EQ(string == nullptr, row.expected.empty());
+    EXPECT_EQ(CFStringGetText(string.get()), row.expected);
     if (!row.expected.empty()) {
-      EXPECT_EQ(CFStringGetUTF8(string), row.bytes);
+      EXPECT_EQ(CFStringGetUTF8(string.get()), row.bytes);
     }
     EXPECT_EQ(UTF8ToMacRoman(row.bytes), row.roman);
   }
@@ -97,17 +90,19 @@ TEST(CFString, EncodesOrFailsWithAnEmptyText) {
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.name);
-    const Text string(row.text);
+    const Text string = Unicode(row.text);
     std::string buffer(static_cast<size_t>(row.size), '#');
-    EXPECT_EQ(CFStringGetCString(string, buffer.data(), row.size, row.encoding), row.expected != nullptr);
+    EXPECT_EQ(CFStringGetCString(string.get(), buffer.data(), row.size, row.encoding),
+              row.expected != nullptr);
     EXPECT_STREQ(buffer.c_str(), row.expected == nullptr ? "" : row.expected);
     if (row.expected != nullptr) {
-      EXPECT_GE(CFStringGetMaximumSizeForEncoding(CFStringGetLength(string), row.encoding) + 1, row.size);
+      EXPECT_GE(CFStringGetMaximumSizeForEncoding(CFStringGetLength(string.get()), row.encoding) + 1,
+                row.size);
     }
   }
-  EXPECT_EQ(CFStringGetUTF8(Text(u"a\xD83Dz")), "a\xEF\xBF\xBDz");
+  EXPECT_EQ(CFStringGetUTF8(Unicode(u"a\xD83Dz").get()), "a\xEF\xBF\xBDz");
   char untouched = '#';
-  EXPECT_FALSE(CFStringGetCString(Text(u"a"), &untouched, 0, kUTF8));
+  EXPECT_FALSE(CFStringGetCString(Unicode(u"a").get(), &untouched, 0, kUTF8));
   EXPECT_EQ(untouched, '#');
   EXPECT_EQ(CFStringGetMaximumSizeForEncoding(std::numeric_limits<CFIndex>::max() / 2, kUTF8), -1);
 }
@@ -122,7 +117,7 @@ TEST(CFString, NullAndCounting) {
   const CFStringRef string = CFStringCreateWithCString("text", kCFStringEncodingUTF8);
   const Text copy(CFStringCreateCopy(string));
   CFRelease(string);
-  EXPECT_EQ(CFStringGetUTF8(copy), "text");  // freed memory, had the copy not counted
+  EXPECT_EQ(CFStringGetUTF8(copy.get()), "text");  // freed memory, had the copy not counted
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -24,6 +25,14 @@ inline std::string ReadFile(const std::filesystem::path& path) {
   std::ifstream file(path, std::ios::binary);
   EXPECT_TRUE(file.is_open()) << path;
   return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+// Compares with a golden file. After a change that is meant to alter it, run the test with
+// GRADIX_UPDATE_GOLDEN=1 and review the difference.
+inline void ExpectGolden(const std::string& name, const std::string& bytes) {
+  const std::string path = GOLDEN "/" + name + ".csv";
+  if (std::getenv("GRADIX_UPDATE_GOLDEN") != nullptr) std::ofstream(path, std::ios::binary) << bytes;
+  EXPECT_EQ(ReadFile(path), bytes) << name;
 }
 
 // A path in the test's own folder that no other running test uses.

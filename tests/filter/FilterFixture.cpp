@@ -77,8 +77,7 @@ QPointer<QWidget> FilterTest::Open(uint32_t format, const std::string& classFile
   for (QWidget* dialog : Dialogs()) {
     if (std::find(before.begin(), before.end(), dialog) == before.end()) return dialog;
   }
-  ADD_FAILURE() << "no dialog appeared";
-  return nullptr;
+  throw std::runtime_error("no dialog appeared");
 }
 
 std::vector<QWidget*> FilterTest::Dialogs() {

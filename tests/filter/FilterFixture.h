@@ -87,7 +87,7 @@ class FilterTest : public testing::Test {
   // Has the session read the class file, which shows the dialog.
   uint32_t ExportFile(unsigned long session, const std::string& classFile, int32_t assignment = 0,
                       void* hostWindow = nullptr);
-  // Both; the dialog that appeared, or null.
+  // Both; the dialog that appeared.
   QPointer<QWidget> Open(uint32_t format, const std::string& classFile, int32_t assignment = 0);
 
   static std::vector<QWidget*> Dialogs();  // all that are shown

@@ -280,17 +280,4 @@ TEST_F(Creation, FloatingDialogsLieAboveOthers) {
   EXPECT_EQ(FrontNonFloatingWindow(), fields->window);
 }
 
-TEST_F(Creation, AThousandDialogs) {
-  for (int i = 0; i < 1000; ++i) {
-    DLGRecord* dialog =
-        GetDialogResource(nullptr, kDLGModal, nullptr, kDemoDialog, 0, nullptr, nullptr, nullptr);
-    ASSERT_NE(dialog, nullptr);
-    if (i % 10 == 0) ShowDLG(dialog);
-    ASSERT_TRUE(MyCloseDialog(dialog));
-    RunEventPass(0);
-  }
-  EXPECT_EQ(_CountWindows(), 0U);
-  EXPECT_LT(QApplication::allWidgets().size(), 100);
-}
-
 }  // namespace

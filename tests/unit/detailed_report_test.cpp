@@ -41,68 +41,25 @@ qz::ClassRecord SmallClass() {
   return record;
 }
 
-struct Row {
-  const char* what;
-  int32_t fields;
-  Options options;  // answer key, responses, points earned, points possible, asterisks
-  const char* file;
-};
-
-const Row kRows[] = {
-    {"everything",
-     7,
-     {true, true, true, true, true},
-     "\"First name\",\"Last name\",\"Student ID\",1,,2,\n"
-     ",,,\"B\",2,\"C\",1\n"
-     "\"Ann\",\"Smith\",\"1001\",\"*B\",2,\"A\",0\n"
-     "\"Bo 'B'\",,,,,,\n"},
-    {"responses only",
-     7,
-     {false, true, false, false, false},
-     "\"First name\",\"Last name\",\"Student ID\",1,2\n"
-     "\"Ann\",\"Smith\",\"1001\",\"B\",\"A\"\n"
-     "\"Bo 'B'\",,,,\n"},
-    {"no key line for points possible alone",
-     4,
-     {false, true, false, true, true},
-     "\"Student ID\",1,2\n"
-     "\"1001\",\"*B\",\"A\"\n"
-     ",,\n"},
-    {"points only",
-     2,
-     {false, false, true, true, true},
-     "\"First name\",1,2\n"
-     ",2,1\n"
-     "\"Ann\",2,0\n"
-     "\"Bo 'B'\",,\n"},
-    {"key line for the points leaves the answers empty",
-     1,
-     {false, true, true, true, false},
-     "\"Last name\",1,,2,\n"
-     ",,2,,1\n"
-     "\"Smith\",\"B\",2,\"A\",0\n"
-     ",,,,\n"},
-    {"no student columns",
-     0,
-     {true, true, false, false, true},
-     "1,2\n"
-     "\"B\",\"C\"\n"
-     "\"*B\",\"A\"\n"
-     ",\n"},
-    {"no question columns",
-     4,
-     {true, false, false, true, true},
-     "\"Student ID\"\n"
-     "\"1001\"\n"
-     "\n"},
-};
-
-TEST(DetailedReport, WritesWhatTheSwitchesAskFor) {
-  for (const Row& row : kRows) {
+TEST(DetailedReport, GoldenFiles) {
+  const struct {
+    const char* name;
+    int32_t fields;
+    Options options;  // answer key, responses, points earned, points possible, asterisks
+  } rows[] = {
+      {"everything", 7, {true, true, true, true, true}},
+      {"responses", 7, {false, true, false, false, false}},
+      {"no-key-line", 4, {false, true, false, true, true}},  // for points possible alone
+      {"points", 2, {false, false, true, true, true}},
+      {"key-line-for-points", 1, {false, true, true, true, false}},  // leaves the answers empty
+      {"no-students", 0, {true, true, false, false, true}},
+      {"no-questions", 4, {true, false, false, true, true}},
+  };
+  for (const auto& row : rows) {
     qz::ClassRecord record = SmallClass();
     record.optionValue = row.fields;
     record.options = row.options;
-    EXPECT_EQ(Exported("detailed", record), row.file) << row.what;
+    ExpectGolden(std::string("small-class.detailed-") + row.name, Exported("detailed", record));
   }
 }
 
@@ -143,8 +100,7 @@ TEST(DetailedReport, WritesStudentColumnsInItsOwnOrder) {
 
 TEST(DetailedReport, MarksResponsesOfFullPoints) {
   struct {
-    double earned;
-    double possible;
+    double earned, possible;
     const char* cell;
   } const rows[] = {
       {1.0, 1.0, "\"*x\""}, {0.9995, 1.0, "\"*x\""}, {0.999, 1.0, "\"x\""},

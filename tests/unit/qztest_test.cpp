@@ -14,14 +14,6 @@ namespace {
 
 constexpr int32_t kMax = std::numeric_limits<int32_t>::max();
 
-qz::Test MakeTest(const std::vector<int32_t>& types, int32_t start, uint32_t numbering) {
-  qz::Test test;
-  for (const int32_t type : types) test.questions.push_back({type, ""});
-  test.startNumber = start;
-  test.numbering = numbering;
-  return test;
-}
-
 TEST(QuestionTypes, AbbreviationsAndKeywords) {
   std::string all;
   for (int32_t type = -1; type <= 14; ++type) {
@@ -42,26 +34,28 @@ TEST(QuestionNumbers, RunsOfTypes) {
     uint32_t numbering;
     std::vector<int32_t> numbers;  // of each question, then of the index behind the last
     int32_t newTF;
+    bool hasMC;
   } rows[] = {
-      {"opening run goes on from the start", {0, 0, 2, 2}, 5, 0, {5, 6, 1, 2, 1}, 7},
-      {"continuous", {0, 0, 2}, 5, 1, {5, 6, 7, 8}, 8},
-      {"a type that comes back", {2, 0, 2, 0}, 5, 0, {5, 1, 6, 2, 1}, 3},
-      {"empty", {}, 5, 0, {5}, 5},
-      {"wraps", {0, 0}, kMax, 0, {kMax, -kMax - 1, 1}, -kMax},
-      {"wraps, continuous", {0, 0}, kMax, 1, {kMax, -kMax - 1, -kMax}, -kMax},
+      {"opening run goes on from the start", {0, 0, 2, 2}, 5, 0, {5, 6, 1, 2, 1}, 7, true},
+      {"continuous", {0, 0, 2}, 5, 1, {5, 6, 7, 8}, 8, true},
+      {"a type that comes back", {2, 0, 2, 0}, 5, 0, {5, 1, 6, 2, 1}, 3, true},
+      {"empty", {}, 5, 0, {5}, 5, false},
+      {"wraps", {0, 0}, kMax, 0, {kMax, -kMax - 1, 1}, -kMax, false},
+      {"wraps, continuous", {0, 0}, kMax, 1, {kMax, -kMax - 1, -kMax}, -kMax, false},
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.name);
-    const qz::Test test = MakeTest(row.types, row.start, row.numbering);
+    qz::Test test;
+    for (const int32_t type : row.types) test.questions.push_back({type, ""});
+    test.startNumber = row.start;
+    test.numbering = row.numbering;
     std::vector<int32_t> numbers;
     for (int32_t i = 0; i <= test.GetQuestionCount(); ++i) numbers.push_back(test.GetQuestionNumber(i));
     EXPECT_EQ(numbers, row.numbers);
     EXPECT_EQ(test.GetNewQuestionNumber(qz::kQuestionTF), row.newTF);
     EXPECT_EQ(test.GetQuestionNumber(-1), row.start);
+    EXPECT_EQ(test.HasQuestionType(2), row.hasMC);
   }
-  const qz::Test test = MakeTest({0, 2}, 1, 0);
-  EXPECT_TRUE(test.HasQuestionType(2));
-  EXPECT_FALSE(test.HasQuestionType(1));
 }
 
 TEST(TestLookups, FirstOfTheNameWithoutCase) {

@@ -33,8 +33,7 @@ std::string Written(Write write) {
 
 TEST(SafeCsv, TurnsQuotesIntoApostrophes) {
   const struct {
-    const char* text;
-    const char* written;
+    const char *text, *written;
   } rows[] = {{"", ""}, {"Say \"hi\"", "Say 'hi'"}, {"\"\"", "''"}, {"a,b\r\n\x8E%s'", "a,b\r\n\x8E%s'"}};
   for (const auto& row : rows) {
     EXPECT_EQ(Written([&row](std::FILE* file) { Session::WriteSafeCSVString(file, row.text); }), row.written);
@@ -172,8 +171,7 @@ TEST(RosterCheck, FindsEmptyAndRepeatedIdentifiers) {
   const struct {
     const char* what;
     std::vector<std::string> identifiers;
-    bool someEmpty;
-    bool allEmpty;
+    bool someEmpty, allEmpty;
     Groups duplicates;
   } rows[] = {
       {"no students", {}, false, true, {}},

@@ -83,12 +83,8 @@ TEST(XmlTree, JoinsTheNodesOwnTexts) {
 }
 
 struct Conversion {
-  const char* what;
-  const char* utf8;
-  const char* roman;
-  const char* symbol;
-  bool romanComplete;
-  bool symbolComplete;
+  const char *what, *utf8, *roman, *symbol;
+  bool romanComplete, symbolComplete;
 };
 
 const Conversion kConversions[] = {

@@ -7,8 +7,8 @@
 #include <memory>
 #include <string_view>
 
+#include "Host/App/HostTexts.h"
 #include "Host/App/LanguageSetting.h"
-#include "Host/App/Texts.h"
 #include "Host/Window/MainWindow.h"
 
 namespace {

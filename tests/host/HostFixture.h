@@ -12,7 +12,7 @@
 #include <functional>
 #include <string>
 
-#include "Host/App/Texts.h"
+#include "Host/App/HostTexts.h"
 #include "Host/Export/FilterModule.h"
 #include "tests/host/fake_filter.h"
 #include "tests/support/Gestures.h"
@@ -43,10 +43,11 @@ inline void ClickButton(QWidget* window, host::TextID text) {
 // Every test begins with empty settings, in English, and with a filter that has been asked for nothing.
 class HostTest : public testing::Test {
  protected:
-  HostTest() : m_filter(host::FilterModule::Load(kFakeFilter, nullptr)) {
+  explicit HostTest(const char* module = FILTERS "/fake_filter.so")
+      : m_filter(host::FilterModule::Load(QString::fromUtf8(module), nullptr)) {
     QSettings().clear();
-    host::SetCurrentLanguage(host::Language::kEnglish);
-    void* const handle = ::dlopen(FILTERS "/fake_filter.so", RTLD_NOW | RTLD_NOLOAD);
+    host::SetCurrentLanguage(host::HostLanguage::kEnglish);
+    void* const handle = ::dlopen(module, RTLD_NOW | RTLD_NOLOAD);
     m_fake = handle != nullptr ? static_cast<FakeFilter*>(::dlsym(handle, "gFake")) : nullptr;
     if (m_fake != nullptr) *m_fake = {};
   }

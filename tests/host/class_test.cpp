@@ -18,7 +18,7 @@ class ClassTest : public HostTest {
  protected:
   ReadResult ReadText(const QByteArray& text) {
     WriteFile(PathOf("class.xml"), text);
-    return ReadClassFile(PathOf("class.xml"));
+    return ReadClass(PathOf("class.xml"));
   }
 
   // The row of the student, by full name; -1 when there is none.
@@ -31,7 +31,7 @@ class ClassTest : public HostTest {
 };
 
 TEST_F(ClassTest, TableOfTheSampleClass) {
-  const ReadResult result = ReadClassFile(kSecondary);
+  const ReadResult result = ReadClass(kSecondary);
   ASSERT_NE(result.openClass, nullptr);
   EXPECT_EQ(result.openClass->name, QStringLiteral("Biology 9"));
   ClassTableModel model(nullptr);
@@ -61,7 +61,7 @@ TEST_F(ClassTest, TableOfTheSampleClass) {
             QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text));
 
   const QSignalSpy headers(&model, &QAbstractItemModel::headerDataChanged);
-  SetCurrentLanguage(Language::kSpanish);
+  SetCurrentLanguage(HostLanguage::kSpanish);
   model.Retranslate();
   EXPECT_EQ(headers.count(), 1);
   EXPECT_EQ(missing.data(Qt::ToolTipRole).toString(), QStringLiteral("Sin resultado"));
@@ -71,7 +71,7 @@ TEST_F(ClassTest, PanelFollowsTheSelection) {
   std::vector<int> selected;
   AssignmentPanel panel(nullptr, [&selected](int assignment) { selected.push_back(assignment); });
   EXPECT_EQ(panel.Selected(), -1);
-  panel.SetClass(ReadClassFile(kSecondary).openClass);
+  panel.SetClass(ReadClass(kSecondary).openClass);
   EXPECT_EQ(panel.Selected(), 0);
   panel.Select(11);
   panel.Select(12);
@@ -114,7 +114,7 @@ TEST_F(ClassTest, NameOfTheClass) {
   const Case cases[] = {
       {"<class><class-name> A &amp;\n B </class-name></class>", "A & B"},
       {"<class><preferences><class-name>x</class-name></preferences></class>", "class"},
-      {"<class><student-list/><class-name>late</class-name></class>", "class"},
+      {"<class><student-list/><class-name>late</class-name></class>", "late"},
       {"<?xml version='1.0' encoding='ISO-8859-1'?><class><class-name>\xE9</class-name></class>", "é"},
   };
   for (const Case& test : cases) {
@@ -125,21 +125,39 @@ TEST_F(ClassTest, NameOfTheClass) {
 }
 
 TEST_F(ClassTest, FaultsAreToldInWords) {
-  const ReadResult malformed = ReadText("<class>\n  <student-list>\n</class>");
-  EXPECT_EQ(malformed.fault, ReadFault::kMalformed);
-  EXPECT_EQ(malformed.openClass, nullptr);
-  EXPECT_EQ(
-      TextOfFault(malformed).what,
-      QStringLiteral("The class file “class.xml” is damaged: line 3, column %1.").arg(malformed.column));
-  EXPECT_GT(malformed.column, 0U);
-  EXPECT_TRUE(TextOfFault(malformed).advice.contains(QStringLiteral("Save the class again")));
-  SetCurrentLanguage(Language::kSpanish);
-  EXPECT_TRUE(TextOfFault(malformed).what.contains(QStringLiteral("línea 3")));
+  const struct {
+    const char* text;  // null: no file
+    TextID what;
+    const char* advice;  // a part of it
+  } rows[] = {
+      {"<school/>", TextID::kNotAClass, "class manager saved"},
+      {"\xFF\xFE<\0c\0l\0a\0s\0s\0/\0>\0", TextID::kUnsupportedEncoding, "UTF-16"},
+      {"<?xml version='1.0' encoding='windows-1252'?><class/>", TextID::kUnsupportedEncoding, "windows-1252"},
+      {nullptr, TextID::kCannotOpen, "No such file"},
+  };
+  for (const auto& row : rows) {
+    QFile::remove(PathOf("class.xml"));
+    const bool isWide = row.text != nullptr && row.text[0] == '\xFF';
+    const QByteArray bytes = isWide ? QByteArray(row.text, 18) : QByteArray(row.text);
+    const ReadResult result = row.text != nullptr ? ReadText(bytes) : ReadClass(PathOf("class.xml"));
+    EXPECT_EQ(result.openClass, nullptr);
+    const FaultText told = TextOfFault(result);
+    EXPECT_EQ(told.what, Text(row.what).arg(QStringLiteral("class.xml")));
+    EXPECT_TRUE(told.advice.contains(QLatin1String(row.advice))) << told.advice.toStdString();
+  }
+  EXPECT_EQ(TextOfFault(ReadClass(m_folder.path())).what,
+            Text(TextID::kCannotOpen).arg(QFileInfo(m_folder.path()).fileName()));
 
-  EXPECT_EQ(ReadText("<school/>").fault, ReadFault::kNotAClass);
-  EXPECT_EQ(ReadText("").fault, ReadFault::kMalformed);
-  EXPECT_EQ(ReadClassFile(PathOf("none.xml")).fault, ReadFault::kCannotOpen);
-  EXPECT_EQ(ReadClassFile(m_folder.path()).fault, ReadFault::kCannotOpen);
+  const ReadResult malformed = ReadText("<class>\n  <student-list>\n</class>");
+  EXPECT_EQ(malformed.openClass, nullptr);
+  EXPECT_EQ(TextOfFault(malformed).what,
+            QStringLiteral("The class file “class.xml” is damaged: line 3, column %1.")
+                .arg(malformed.fault.column));
+  EXPECT_GT(malformed.fault.column, 0U);
+  EXPECT_TRUE(TextOfFault(malformed).advice.contains(QStringLiteral("Save the class again")));
+  SetCurrentLanguage(HostLanguage::kSpanish);
+  EXPECT_TRUE(TextOfFault(malformed).what.contains(QStringLiteral("línea 3")));
+  EXPECT_TRUE(TextOfFault(ReadText("")).what.contains(QStringLiteral("dañado")));
 }
 
 TEST_F(ClassTest, LoaderReadsOneFileAtATime) {

@@ -1,7 +1,9 @@
 #include <QDialog>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <cstring>
+#include <filesystem>
 
 #include "Host/Export/ExportRun.h"
 #include "Host/Export/FileNames.h"
@@ -67,17 +69,17 @@ TEST_F(FilterModuleTest, ListsFormats) {
 
 class ExportRunTest : public HostTest {
  protected:
-  ExportRunTest()
-      : m_run(
+  explicit ExportRunTest(const char* module = FILTERS "/fake_filter.so")
+      : HostTest(module),
+        m_run(
             nullptr,
             [this](QWidget* dialog) {
               m_askedBy = dialog;
               return m_choice;
             },
-            [this](RunOutcome outcome, const QString& path) {
+            [this](const RunResult& result) {
               ++m_finished;
-              m_outcome = outcome;
-              m_path = path;
+              m_result = result;
             }) {
     m_fake->showDialog = ShowDialog;
     m_request.formatIndex = 1;
@@ -105,8 +107,7 @@ class ExportRunTest : public HostTest {
   std::optional<QString> m_choice;
   QWidget* m_askedBy = nullptr;
   int m_finished = 0;
-  RunOutcome m_outcome = RunOutcome::kCanceled;
-  QString m_path;
+  RunResult m_result;
   ExportRun m_run;
 };
 
@@ -146,7 +147,7 @@ TEST_F(ExportRunTest, OneAtATime) {
   delete gDialog;
   ASSERT_TRUE(WaitForEnd());
   EXPECT_FALSE(m_run.IsRunning());
-  EXPECT_EQ(m_outcome, RunOutcome::kCanceled);
+  EXPECT_EQ(m_result.outcome, RunOutcome::kCanceled);
   EXPECT_EQ(Start(), StartResult::kStarted);
 }
 
@@ -182,29 +183,55 @@ TEST_F(ExportRunTest, WithoutADialogTheRunEnds) {
   EXPECT_FALSE(m_run.IsRunning());
 }
 
-TEST_F(ExportRunTest, OutcomeDependsOnTheFile) {
-  struct Case {
-    const char* name;
-    bool existed, written;
+// Whatever is at the path.
+TEST_F(ExportRunTest, OutcomeIsTheFilters) {
+  const struct {
+    uint32_t state;
     RunOutcome outcome;
-  };
-  const Case cases[] = {{"new.csv", false, true, RunOutcome::kWritten},
-                        {"none.csv", false, false, RunOutcome::kNotWritten},
-                        {"replaced.csv", true, true, RunOutcome::kWritten},
-                        {"old.csv", true, false, RunOutcome::kNotWritten}};
-  for (const Case& test : cases) {
-    m_choice = PathOf(test.name);
-    if (test.existed) WriteFile(*m_choice, "same");
-    QTest::qWait(20);  // so that a file written again has another time
+  } rows[] = {{QZFILTER_PENDING, RunOutcome::kUnknown},
+              {QZFILTER_CANCELLED, RunOutcome::kCanceled},
+              {QZFILTER_WRITTEN, RunOutcome::kWritten},
+              {QZFILTER_NOT_WRITTEN, RunOutcome::kNotWritten},
+              {4, RunOutcome::kUnknown}};
+  for (const auto& row : rows) {
+    for (const bool exists : {false, true}) {
+      m_choice = PathOf(exists ? "old.csv" : "none.csv");
+      if (exists) WriteFile(*m_choice, "old");
+      m_fake->outcome.state = row.state;
+      m_fake->outcome.error = 28;
+      m_fake->outcome.replacedCharacters = 3;
+      m_fake->outcome.studentsWithoutIdentifier = 4;
+      m_finished = 0;
+      ASSERT_EQ(Start(), StartResult::kStarted);
+      EXPECT_EQ(AskForFile(), m_choice->toStdString());
+      EXPECT_EQ(m_askedBy, gDialog);
+      gDialog->close();
+      ASSERT_TRUE(WaitForEnd());
+      EXPECT_EQ(m_fake->askedID, 0xFAA00007UL);
+      EXPECT_EQ(m_result.outcome, row.outcome) << row.state;
+      EXPECT_EQ(m_result.path, *m_choice);
+      EXPECT_EQ(m_result.error, 28);
+      EXPECT_EQ(m_result.replacedCharacters, 3U);
+      EXPECT_EQ(m_result.studentsWithoutIdentifier, 4U);
+      delete gDialog;
+    }
+  }
+}
+
+class OlderFilterTest : public ExportRunTest {
+ protected:
+  OlderFilterTest() : ExportRunTest(FILTERS "/older_filter.so") {}
+};
+
+TEST_F(OlderFilterTest, LeavesTheOutcomeUnknown) {
+  for (const bool chosen : {false, true}) {
+    if (chosen) m_choice = PathOf("out.csv");
     m_finished = 0;
     ASSERT_EQ(Start(), StartResult::kStarted);
-    EXPECT_EQ(AskForFile(), m_choice->toStdString());
-    EXPECT_EQ(m_askedBy, gDialog);
-    if (test.written) WriteFile(*m_choice, "same");
+    AskForFile();
     gDialog->close();
     ASSERT_TRUE(WaitForEnd());
-    EXPECT_EQ(m_outcome, test.outcome) << test.name;
-    EXPECT_EQ(m_path, *m_choice);
+    EXPECT_EQ(m_result.outcome, chosen ? RunOutcome::kUnknown : RunOutcome::kCanceled);
     delete gDialog;
   }
 }
@@ -227,8 +254,8 @@ class SaveChooserTest : public HostTest {
     });
   }
 
-  static std::optional<QString> Choose() {
-    return ChooseSaveFile(nullptr, QStringLiteral("Quiz 1 - Canvas.csv"), QStringLiteral("csv"));
+  static std::optional<QString> Choose(const QString& classPath = {}) {
+    return ChooseSaveFile(nullptr, QStringLiteral("Quiz 1 - Canvas.csv"), QStringLiteral("csv"), classPath);
   }
 };
 
@@ -267,6 +294,24 @@ TEST_F(SaveChooserTest, RefusesALongPath) {
     ClickButton(message, TextID::kOk);
   });
   EXPECT_EQ(Choose(), std::nullopt);
+}
+
+TEST_F(SaveChooserTest, RefusesTheClassUnderEveryName) {
+  WriteFile(PathOf("class.xml"), "<class/>");
+  ASSERT_TRUE(QFile::link(PathOf("class.xml"), PathOf("symbolic.csv")));
+  std::filesystem::create_hard_link(PathOf("class.xml").toStdString(), PathOf("hard.csv").toStdString());
+  for (const char* name : {"class.xml", "symbolic.csv", "hard.csv"}) {
+    SCOPED_TRACE(name);
+    bool told = false;
+    Save(PathOf(name));
+    WhenVisible("message", [&](QWidget* message) {
+      told = static_cast<QMessageBox*>(message)->text().contains(QLatin1String(name));
+      WhenVisible("saveChooser", [](QWidget* window) { ClickButton(window, TextID::kCancel); });
+      ClickButton(message, TextID::kOk);
+    });
+    EXPECT_EQ(Choose(PathOf("class.xml")), std::nullopt);
+    EXPECT_TRUE(told);
+  }
 }
 
 }  // namespace

@@ -46,6 +46,15 @@ uint32_t QZFilter_ExportEnd(unsigned long id) {
   return QZFILTER_SUCCESS;
 }
 
+#ifndef WITHOUT_OUTCOME
+uint32_t QZFilter_GetExportOutcome(unsigned long id, QZEXPORTOUTCOME* record) {
+  gFake.askedID = id;
+  if (id != kSession || record->size != sizeof *record) return QZFILTER_FAILED;
+  *record = gFake.outcome;
+  return QZFILTER_SUCCESS;
+}
+#endif
+
 int32_t DllMain(void* module, uint32_t reason, void* /*reserved*/) {
   if (reason == 1 && module != nullptr) ++gFake.attached;
   return 1;

@@ -10,6 +10,7 @@ struct FakeFilter {
   uint32_t failingFormat = 99;
   uint32_t beginStatus = QZFILTER_SUCCESS;
   uint32_t fileStatus = 1;
+  QZEXPORTOUTCOME outcome{};
   void (*showDialog)() = nullptr;  // called by ExportFile unless null
 
   // records
@@ -18,6 +19,7 @@ struct FakeFilter {
   int files = 0;
   int ends = 0;
   unsigned long endedID = 0;
+  unsigned long askedID = 0;
   QZEXPORTBEGIN begin{};
   QZEXPORTFILE file{};
   int16_t languageOfFile = -1;

@@ -1,5 +1,7 @@
 #include "Host/Window/MainWindow.h"
 
+#include <sys/resource.h>
+
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -8,8 +10,14 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPlainTextEdit>
+#include <QPushButton>
+#include <QStatusBar>
 #include <QTableView>
 #include <QToolButton>
+#include <cerrno>
+#include <csignal>
+#include <cstring>
+#include <optional>
 
 #include "Host/App/RecentFiles.h"
 #include "tests/host/HostFixture.h"
@@ -28,9 +36,11 @@ void ShowOptions() {
 
 class MainWindowTest : public HostTest {
  protected:
+  explicit MainWindowTest(const char* module = FILTERS "/fake_filter.so") : m_module(module) {}
+
   void SetUp() override {
     HostTest::SetUp();
-    qputenv("GRADIX_FILTER", kFakeFilter.toLocal8Bit());
+    qputenv("GRADIX_FILTER", m_module);
     m_fake->showDialog = ShowOptions;
     m_window.show();
     m_window.LoadFilter();
@@ -54,6 +64,24 @@ class MainWindowTest : public HostTest {
     return static_cast<QMessageBox*>(FindWindow("message"));
   }
 
+  // Types the name into the file chooser when it shows, and presses Save.
+  void SaveAs(const char* name) {
+    WhenVisible("saveChooser", [path = PathOf(name)](QWidget* window) {
+      window->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(path);
+      ClickButton(window, TextID::kSave);
+    });
+  }
+
+  // As the filter's dialog does it. Gives the chosen path.
+  std::string AskForFile() {
+    char path[QZFILTER_PATH_SIZE] = "";
+    EXPECT_EQ(m_fake->begin.chooseFile(reinterpret_cast<void*>(gOptions->winId()), 0, path, sizeof path,
+                                       m_fake->begin.chooseFileValue),
+              0);
+    return path;
+  }
+
+  const char* m_module;
   MainWindow m_window;
   QMenu* m_menu = nullptr;
 };
@@ -82,30 +110,57 @@ TEST_F(MainWindowTest, ExportsTheSelectedAssignmentOnceAtATime) {
   table->setCurrentIndex(table->model()->index(3, 4));
   Format(1)->trigger();
   EXPECT_EQ(m_fake->begin.formatIndex, 1U);
-  const ReadResult read = ReadClassFile(QStringLiteral(SAMPLES "/village-school.xml"));
+  const ReadResult read = ReadClass(QStringLiteral(SAMPLES "/village-school.xml"));
   EXPECT_EQ(m_fake->file.assignmentID, read.openClass->record.assignments[2].id);
   EXPECT_FALSE(Format(0)->isEnabled());
   EXPECT_FALSE(m_window.findChild<QToolButton*>(QStringLiteral("exportButton"))->isEnabled());
 
-  WhenVisible("saveChooser", [this](QWidget* window) {
-    EXPECT_EQ(window->parentWidget(), gOptions);
-    window->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(PathOf("out.csv"));
-    ClickButton(window, TextID::kSave);
-  });
-  char path[256] = "";
-  EXPECT_EQ(m_fake->begin.chooseFile(reinterpret_cast<void*>(gOptions->winId()), 0, path, sizeof path,
-                                     m_fake->begin.chooseFileValue),
-            0);
-  WriteFile(QFile::decodeName(path), "Name,Points\nJos\x8E,5\n");
+  SaveAs("out.csv");
+  WhenVisible("saveChooser", [](QWidget* window) { EXPECT_EQ(window->parentWidget(), gOptions); });
+  WriteFile(QFile::decodeName(AskForFile().c_str()), "Name,Points\nJos\x8E,5\n");
+  m_fake->outcome.state = QZFILTER_WRITTEN;
+  m_fake->outcome.replacedCharacters = 3;
   gOptions->close();
   ASSERT_TRUE(QTest::qWaitFor([] { return FindWindow("resultWindow") != nullptr; }));
   QWidget* const result = FindWindow("resultWindow");
   EXPECT_EQ(result->findChild<QTableView*>()->model()->index(0, 0).data().toString(), QStringLiteral("José"));
   EXPECT_EQ(result->findChild<QPlainTextEdit*>()->toPlainText(), QStringLiteral("Name,Points\nJosé,5\n"));
+  QStringList labels;
+  for (const QLabel* label : result->findChildren<QLabel*>()) labels.append(label->text());
+  EXPECT_TRUE(labels.contains(Text(TextID::kReplacedCharacters).arg(3))) << labels.join(u'|').toStdString();
   EXPECT_TRUE(Format(0)->isEnabled());
 }
 
-TEST_F(MainWindowTest, TellsThatAnExportFailed) {
+TEST_F(MainWindowTest, SaysWhatBecameOfAnExport) {
+  const struct {
+    uint32_t state;
+    int32_t error;
+    TextID status, what, advice;
+  } rows[] = {
+      {QZFILTER_NOT_WRITTEN, ENOSPC, TextID::kExportFailed, TextID::kNotWritten, TextID::kDiskFullAdvice},
+      {QZFILTER_NOT_WRITTEN, EACCES, TextID::kExportFailed, TextID::kNotWritten, TextID::kNotWrittenAdvice},
+      {QZFILTER_PENDING, 0, TextID::kExportEnded, TextID::kOutcomeUnknown, TextID::kOutcomeUnknownAdvice},
+  };
+  ASSERT_TRUE(OpenSample());
+  for (const auto& row : rows) {
+    Format(0)->trigger();
+    SaveAs("out.csv");
+    const QString path = QFile::decodeName(AskForFile().c_str());
+    m_fake->outcome.state = row.state;
+    m_fake->outcome.error = row.error;
+    gOptions->close();
+    QMessageBox* const message = WaitForMessage();
+    ASSERT_NE(message, nullptr);
+    EXPECT_EQ(message->text(), Text(row.what).arg(path));
+    QString advice = Text(row.advice);
+    if (row.error != 0) advice = advice.arg(QString::fromLocal8Bit(std::strerror(row.error)));
+    EXPECT_EQ(message->informativeText(), advice);
+    EXPECT_EQ(m_window.statusBar()->currentMessage(), Text(row.status));
+    delete message;
+  }
+}
+
+TEST_F(MainWindowTest, TellsThatAnExportCouldNotBegin) {
   ASSERT_TRUE(OpenSample());
   m_fake->showDialog = nullptr;
   m_fake->fileStatus = 0;
@@ -137,7 +192,7 @@ TEST_F(MainWindowTest, SpeaksSpanish) {
   EXPECT_EQ(m_fake->languageOfFile, 6);
   // Nothing of the host is left in English.
   for (int i = 0; i < static_cast<int>(TextID::kCount); ++i) {
-    const QString english = TextIn(Language::kEnglish, static_cast<TextID>(i));
+    const QString english = TextIn(HostLanguage::kEnglish, static_cast<TextID>(i));
     if (english == Text(static_cast<TextID>(i))) continue;
     for (const QLabel* label : m_window.findChildren<QLabel*>()) EXPECT_NE(label->text(), english);
     for (const QAction* action : m_window.findChildren<QAction*>()) EXPECT_NE(action->text(), english);
@@ -157,6 +212,68 @@ TEST_F(MainWindowTest, TakesADroppedFile) {
   QApplication::sendEvent(&m_window, &drop);
   EXPECT_TRUE(QTest::qWaitFor([this] { return m_window.windowTitle() == QStringLiteral("Class 2 – Gradix"); },
                               30000));
+}
+
+// No file grows beyond a few bytes while the object lives: a disk that is full.
+class FullDisk {
+ public:
+  FullDisk() : m_handler(std::signal(SIGXFSZ, SIG_IGN)) {
+    getrlimit(RLIMIT_FSIZE, &m_limit);
+    rlimit full = m_limit;
+    full.rlim_cur = 100;
+    setrlimit(RLIMIT_FSIZE, &full);
+  }
+  ~FullDisk() {
+    setrlimit(RLIMIT_FSIZE, &m_limit);
+    std::signal(SIGXFSZ, m_handler);
+  }
+  FullDisk(const FullDisk&) = delete;
+  FullDisk& operator=(const FullDisk&) = delete;
+
+ private:
+  void (*m_handler)(int);
+  rlimit m_limit{};
+};
+
+class RealFilterTest : public MainWindowTest {
+ protected:
+  RealFilterTest() : MainWindowTest(FILTER_MODULE) { qputenv("GRADIX_BUNDLE", BUNDLE); }
+};
+
+// From the menu to what the user reads in the end.
+TEST_F(RealFilterTest, TheUserReadsOfAFullDisk) {
+  ASSERT_TRUE(OpenSample());
+  WriteFile(PathOf("out.csv"), "old");
+  QWidget* dialog = nullptr;
+  Format(6)->trigger();
+  ASSERT_TRUE(QTest::qWaitFor([&dialog] {
+    dialog = gestures::WindowTitled("Export Assignment Results for Canvas");
+    return dialog != nullptr;
+  }));
+  SaveAs("out.csv");
+  std::optional<FullDisk> disk;
+  QString alert;
+  WhenVisible("replaceQuestion", [&](QWidget* question) {
+    disk.emplace();
+    ClickButton(question, TextID::kReplace);
+  });
+  QTimer answer;
+  QObject::connect(&answer, &QTimer::timeout, [&] {
+    QMessageBox* const box = gestures::MessageBox();
+    if (!disk || box == nullptr || box->objectName() == QStringLiteral("replaceQuestion")) return;
+    disk.reset();
+    answer.stop();
+    alert = box->text();
+    box->defaultButton()->click();
+  });
+  answer.start(10);
+  constexpr int kOK = 11;
+  gestures::Click(gestures::Item(dialog, kOK));
+  QMessageBox* const message = WaitForMessage();
+  ASSERT_NE(message, nullptr);
+  EXPECT_EQ(alert, QStringLiteral("Assignment results have been saved in %1.").arg(PathOf("out.csv")));
+  EXPECT_EQ(message->text(), Text(TextID::kNotWritten).arg(PathOf("out.csv")));
+  EXPECT_TRUE(message->informativeText().contains(QString::fromLocal8Bit(std::strerror(EFBIG))));
 }
 
 }  // namespace

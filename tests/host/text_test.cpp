@@ -99,14 +99,14 @@ TEST(Texts, BothLanguagesHaveTheSamePlaceholders) {
   const QRegularExpression placeholder(QStringLiteral("%[0-9]"));
   for (int i = 0; i < static_cast<int>(TextID::kCount); ++i) {
     QStringList found[2];
-    for (const Language language : {Language::kEnglish, Language::kSpanish}) {
+    for (const HostLanguage language : {HostLanguage::kEnglish, HostLanguage::kSpanish}) {
       const QString text = TextIn(language, static_cast<TextID>(i));
       EXPECT_FALSE(text.isEmpty()) << i;
       QStringList& list = found[static_cast<int>(language)];
       for (const auto& match : placeholder.globalMatch(text)) list.append(match.captured());
       list.sort();
     }
-    EXPECT_EQ(found[0], found[1]) << TextIn(Language::kEnglish, static_cast<TextID>(i)).toStdString();
+    EXPECT_EQ(found[0], found[1]) << TextIn(HostLanguage::kEnglish, static_cast<TextID>(i)).toStdString();
   }
 }
 

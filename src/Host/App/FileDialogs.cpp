@@ -1,6 +1,6 @@
 #include "Host/App/FileDialogs.h"
 
-#include "Host/App/Texts.h"
+#include "Host/App/HostTexts.h"
 
 namespace host {
 

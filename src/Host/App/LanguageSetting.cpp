@@ -13,16 +13,16 @@ namespace {
 constexpr const char* kLanguageKey = "language";
 
 // Qt's own texts, such as the columns of a file dialog, where their translation is installed.
-void _TranslateQt(Language language) {
+void _TranslateQt(HostLanguage language) {
   static QTranslator translator;
   QCoreApplication::removeTranslator(&translator);
-  if (language == Language::kSpanish &&
+  if (language == HostLanguage::kSpanish &&
       translator.load(QStringLiteral("qtbase_es"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
     QCoreApplication::installTranslator(&translator);
   }
 }
 
-void _Apply(Language language) {
+void _Apply(HostLanguage language) {
   SetCurrentLanguage(language);
   _TranslateQt(language);
 }
@@ -33,12 +33,12 @@ void RestoreLanguage() {
   const QString system =
       QLocale::system().language() == QLocale::Spanish ? QStringLiteral("es") : QStringLiteral("en");
   const QString name = QSettings().value(QLatin1String(kLanguageKey), system).toString();
-  _Apply(name == QLatin1String("es") ? Language::kSpanish : Language::kEnglish);
+  _Apply(name == QLatin1String("es") ? HostLanguage::kSpanish : HostLanguage::kEnglish);
 }
 
-void ChangeLanguage(Language language) {
+void ChangeLanguage(HostLanguage language) {
   _Apply(language);
-  const bool spanish = language == Language::kSpanish;
+  const bool spanish = language == HostLanguage::kSpanish;
   QSettings().setValue(QLatin1String(kLanguageKey), spanish ? QStringLiteral("es") : QStringLiteral("en"));
 }
 

@@ -2,7 +2,7 @@
 #ifndef GRADIX_LANGUAGESETTING_H
 #define GRADIX_LANGUAGESETTING_H
 
-#include "Host/App/Texts.h"
+#include "Host/App/HostTexts.h"
 
 namespace host {
 
@@ -10,7 +10,7 @@ namespace host {
 void RestoreLanguage();
 
 // Makes the language the current one and remembers it.
-void ChangeLanguage(Language language);
+void ChangeLanguage(HostLanguage language);
 
 }  // namespace host
 

@@ -3,7 +3,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 
-#include "Host/App/Texts.h"
+#include "Host/App/HostTexts.h"
 
 namespace host {
 

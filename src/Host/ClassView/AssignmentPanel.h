@@ -7,7 +7,7 @@
 #include <memory>
 #include <vector>
 
-#include "Host/App/Texts.h"
+#include "Host/App/HostTexts.h"
 #include "Host/ClassView/ClassReader.h"
 
 class QComboBox;

@@ -16,7 +16,7 @@ bool ClassLoader::Load(const QString& path, Done done) {
   m_loading = true;
   m_done = std::move(done);
   m_thread = std::thread([this, path] {
-    const ReadResult result = ReadClassFile(path);
+    const ReadResult result = ReadClass(path);
     // Posted, so a destroyed loader drops it.
     QMetaObject::invokeMethod(
         this, [this, result] { Finish(result); }, Qt::QueuedConnection);

@@ -4,7 +4,7 @@
 #include <QPalette>
 #include <utility>
 
-#include "Host/App/Texts.h"
+#include "Host/App/HostTexts.h"
 #include "Host/ClassView/RomanText.h"
 
 namespace host {

@@ -2,32 +2,37 @@
 
 #include <QFileInfo>
 
-#include "Host/App/Texts.h"
+#include "Host/App/HostTexts.h"
 
 namespace host {
 
 namespace {
 
-FaultText _MalformedText(const ReadResult& result, const QString& name) {
+FaultText _DamagedText(const ClassFault& fault, const QString& name, const QString& reason) {
   QString advice = Text(TextID::kMalformedAdvice);
-  if (!result.reason.isEmpty()) advice.prepend(Text(TextID::kMalformedReason).arg(result.reason));
-  return {Text(TextID::kMalformed).arg(name).arg(result.line).arg(result.column), advice};
+  if (!reason.isEmpty()) advice.prepend(Text(TextID::kMalformedReason).arg(reason));
+  return {Text(TextID::kMalformed).arg(name).arg(fault.line).arg(fault.column), advice};
 }
 
 }  // namespace
 
 FaultText TextOfFault(const ReadResult& result) {
   const QString name = QFileInfo(result.path).fileName();
-  switch (result.fault) {
-    case ReadFault::kCannotOpen:
-      return {Text(TextID::kCannotOpen).arg(name), Text(TextID::kCannotOpenAdvice).arg(result.reason)};
-    case ReadFault::kCannotRead:
-      return {Text(TextID::kCannotRead).arg(name), Text(TextID::kCannotOpenAdvice).arg(result.reason)};
-    case ReadFault::kMalformed: return _MalformedText(result, name);
-    case ReadFault::kNotAClass: return {Text(TextID::kNotAClass).arg(name), Text(TextID::kNotAClassAdvice)};
-    case ReadFault::kOutOfMemory:
+  const QString reason = QString::fromLocal8Bit(result.fault.reason);
+  switch (result.fault.code) {
+    case ClassFaultCode::kCannotOpen:
+      return {Text(TextID::kCannotOpen).arg(name), Text(TextID::kCannotOpenAdvice).arg(reason)};
+    case ClassFaultCode::kCannotRead:
+      return {Text(TextID::kCannotRead).arg(name), Text(TextID::kCannotOpenAdvice).arg(reason)};
+    case ClassFaultCode::kDamaged: return _DamagedText(result.fault, name, reason);
+    case ClassFaultCode::kUnsupportedEncoding:
+      return {Text(TextID::kUnsupportedEncoding).arg(name),
+              Text(TextID::kUnsupportedEncodingAdvice).arg(reason)};
+    case ClassFaultCode::kNotAClass:
+      return {Text(TextID::kNotAClass).arg(name), Text(TextID::kNotAClassAdvice)};
+    case ClassFaultCode::kOutOfMemory:
       return {Text(TextID::kOutOfMemory).arg(name), Text(TextID::kOutOfMemoryAdvice)};
-    case ReadFault::kNone: break;
+    case ClassFaultCode::kNone: break;
   }
   return {};
 }

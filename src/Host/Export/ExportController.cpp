@@ -3,10 +3,12 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QWidget>
+#include <cerrno>
+#include <cstring>
 #include <utility>
 
+#include "Host/App/HostTexts.h"
 #include "Host/App/Messages.h"
-#include "Host/App/Texts.h"
 #include "Host/ClassView/RomanText.h"
 #include "Host/Export/FileNames.h"
 #include "Host/Export/SaveChooser.h"
@@ -19,7 +21,7 @@ ExportController::ExportController(QWidget* window, std::function<void(const QSt
       m_stateChanged(std::move(stateChanged)),
       m_run(
           this, [this](QWidget* dialog) { return ChooseFile(dialog); },
-          [this](RunOutcome outcome, const QString& path) { RunFinished(outcome, path); }) {}
+          [this](const RunResult& result) { RunFinished(result); }) {}
 
 void ExportController::LoadFilter() {
   const QString path = FilterModule::DefaultPath();
@@ -49,13 +51,14 @@ void ExportController::ShowLoadError(const QString& path, const FilterLoadError&
 void ExportController::Export(const ExportFormat& format, const OpenClass& openClass, size_t assignment) {
   if (m_filter == nullptr || IsRunning()) return;
   const qz::AssignmentRecord& row = openClass.record.assignments[assignment];
+  m_classPath = openClass.path;
   m_extension = format.extension;
   m_proposedName = ProposedFileName(LineFromRoman(row.name), format.name, format.extension);
   ExportRequest request;
   request.formatIndex = format.index;
   request.assignmentID = row.id;
   request.classPath = openClass.path;
-  request.spanish = CurrentLanguage() == Language::kSpanish;
+  request.spanish = CurrentLanguage() == HostLanguage::kSpanish;
   const StartResult result = m_run.Start(*m_filter, request, m_window);
   if (result == StartResult::kStarted) {
     m_stateChanged(Text(TextID::kExportUnderWay));
@@ -83,25 +86,35 @@ void ExportController::ShowStartError(StartResult result, const ExportFormat& fo
 }
 
 std::optional<QString> ExportController::ChooseFile(QWidget* dialog) {
-  return ChooseSaveFile(dialog != nullptr ? dialog : m_window, m_proposedName, m_extension);
+  return ChooseSaveFile(dialog != nullptr ? dialog : m_window, m_proposedName, m_extension, m_classPath);
 }
 
-void ExportController::RunFinished(RunOutcome outcome, const QString& path) {
-  switch (outcome) {
+void ExportController::RunFinished(const RunResult& result) {
+  const QString path = QDir::toNativeSeparators(result.path);
+  switch (result.outcome) {
     case RunOutcome::kCanceled: m_stateChanged(Text(TextID::kExportCanceled)); break;
-    case RunOutcome::kNotWritten:
-      m_stateChanged(Text(TextID::kExportCanceled));
-      ShowMessage(m_window, Text(TextID::kNotWritten).arg(QDir::toNativeSeparators(path)),
-                  Text(TextID::kNotWrittenAdvice));
+    case RunOutcome::kNotWritten: ShowNotWritten(result); break;
+    case RunOutcome::kUnknown:
+      m_stateChanged(Text(TextID::kExportEnded));
+      ShowMessage(m_window, Text(TextID::kOutcomeUnknown).arg(path), Text(TextID::kOutcomeUnknownAdvice));
       break;
     case RunOutcome::kWritten: {
-      m_stateChanged(Text(TextID::kExported).arg(QDir::toNativeSeparators(path)));
-      auto* const result = new ResultWindow(m_window, path);
-      m_results.append(result);
-      result->show();
+      m_stateChanged(Text(TextID::kExported).arg(path));
+      auto* const window = new ResultWindow(
+          m_window, {result.path, result.replacedCharacters, result.studentsWithoutIdentifier});
+      m_results.append(window);
+      window->show();
       break;
     }
   }
+}
+
+void ExportController::ShowNotWritten(const RunResult& result) {
+  m_stateChanged(Text(TextID::kExportFailed));
+  const bool isFull = result.error == ENOSPC || result.error == EDQUOT;
+  const QString reason = result.error == 0 ? QString() : QString::fromLocal8Bit(std::strerror(result.error));
+  ShowMessage(m_window, Text(TextID::kNotWritten).arg(QDir::toNativeSeparators(result.path)),
+              Text(isFull ? TextID::kDiskFullAdvice : TextID::kNotWrittenAdvice).arg(reason).trimmed());
 }
 
 void ExportController::CloseDialog() {

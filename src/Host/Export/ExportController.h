@@ -38,7 +38,8 @@ class ExportController : public QObject {
 
  private:
   std::optional<QString> ChooseFile(QWidget* dialog);
-  void RunFinished(RunOutcome outcome, const QString& path);
+  void RunFinished(const RunResult& result);
+  void ShowNotWritten(const RunResult& result);
   void ShowLoadError(const QString& path, const FilterLoadError& error);
   void ShowStartError(StartResult result, const ExportFormat& format, const QString& classPath);
 
@@ -46,6 +47,7 @@ class ExportController : public QObject {
   std::function<void(const QString&)> m_stateChanged;
   std::unique_ptr<FilterModule> m_filter;
   std::vector<ExportFormat> m_formats;
+  QString m_classPath;  // of the class that is exported
   QString m_proposedName;
   QString m_extension;
   QList<QPointer<ResultWindow>> m_results;

@@ -3,8 +3,6 @@
 #include <QApplication>
 #include <QEvent>
 #include <QFile>
-#include <QFileInfo>
-#include <algorithm>
 #include <cstring>
 #include <utility>
 
@@ -15,19 +13,18 @@ namespace {
 constexpr int kDialogTries = 20;
 constexpr int kDialogWait = 50;  // milliseconds
 
-FSRef _FileReference(const QByteArray& path) {
-  constexpr uint8_t kTag[] = {0x46, 0x53, 0x72, 0x66};
-  constexpr size_t kPointerOffset = 8;
-  FSRef reference{};
-  std::memcpy(reference.hidden, kTag, sizeof(kTag));
-  const char* const bytes = path.constData();
-  std::memcpy(reference.hidden + kPointerOffset, &bytes, sizeof(bytes));
-  return reference;
-}
-
 bool _IsDialogLike(const QWidget& window) {
   const Qt::WindowType type = window.windowType();
   return window.isVisible() && (type == Qt::Window || type == Qt::Dialog || type == Qt::Tool);
+}
+
+RunOutcome _OutcomeOf(uint32_t state) {
+  switch (state) {
+    case QZFILTER_CANCELLED: return RunOutcome::kCanceled;
+    case QZFILTER_WRITTEN: return RunOutcome::kWritten;
+    case QZFILTER_NOT_WRITTEN: return RunOutcome::kNotWritten;
+    default: return RunOutcome::kUnknown;
+  }
 }
 
 }  // namespace
@@ -40,7 +37,7 @@ ExportRun::ExportRun(QObject* parent, Choose choose, Finished finished)
   connect(&m_hidden, &QTimer::timeout, this, [this] { FinishUnlessVisible(); });
   connect(&m_end, &QTimer::timeout, this, [this] {
     m_running = false;
-    m_finished(m_outcome, m_chosenPath);
+    m_finished(Result());
   });
 }
 
@@ -68,15 +65,15 @@ StartResult ExportRun::Run(const FilterModule& filter, const ExportRequest& requ
   begin.formatIndex = request.formatIndex;
   begin.chooseFileValue = reinterpret_cast<uintptr_t>(this);
   begin.chooseFile = ChooseFile;
-  unsigned long id = 0;
-  if (filter.ExportBegin(&begin, &id) != QZFILTER_SUCCESS) return StartResult::kBeginFailed;
+  m_filter = &filter;
+  if (filter.ExportBegin(&begin, &m_session) != QZFILTER_SUCCESS) return StartResult::kBeginFailed;
 
   QZEXPORTFILE file{};
   file.assignmentID = request.assignmentID;
-  file.classFile = _FileReference(m_classPath);
+  file.classFile = QZFilter_MakeFSRef(m_classPath.constData());
   filter.SetSpanish(request.spanish);
-  const uint32_t status = filter.ExportFile(reinterpret_cast<void*>(hostWindow->winId()), id, &file);
-  filter.ExportEnd(id);
+  const uint32_t status = filter.ExportFile(reinterpret_cast<void*>(hostWindow->winId()), m_session, &file);
+  filter.ExportEnd(m_session);
   if (status == 1) return StartResult::kStarted;
   return status == 0 ? StartResult::kFileFailed : StartResult::kSessionUnknown;
 }
@@ -114,13 +111,22 @@ void ExportRun::Finish() {
     disconnect(m_dialog, &QObject::destroyed, this, nullptr);
   }
   m_dialog = nullptr;
-  m_outcome = RunOutcome::kCanceled;
-  if (!m_chosenPath.isEmpty()) {
-    const FileState state = StateOf(m_chosenPath);
-    m_outcome = state.exists && state != m_chosenState ? RunOutcome::kWritten : RunOutcome::kNotWritten;
-  }
   // The dialog may still be in the middle of its closing.
   m_end.start();
+}
+
+// Without a chosen file nothing can have been written.
+RunResult ExportRun::Result() const {
+  RunResult result;
+  result.path = m_chosenPath;
+  if (m_chosenPath.isEmpty()) return result;
+  const std::optional<QZEXPORTOUTCOME> told = m_filter->Outcome(m_session);
+  result.outcome = told ? _OutcomeOf(told->state) : RunOutcome::kUnknown;
+  if (!told) return result;
+  result.error = told->error;
+  result.replacedCharacters = told->replacedCharacters;
+  result.studentsWithoutIdentifier = told->studentsWithoutIdentifier;
+  return result;
 }
 
 int32_t ExportRun::ChooseFile(void* dialog, int32_t /*reserved*/, char* path, int32_t size, uintptr_t value) {
@@ -136,14 +142,7 @@ bool ExportRun::StorePath(QWidget* dialog, char* path, int32_t size) {
   if (bytes.isEmpty() || bytes.size() >= size) return false;
   std::memcpy(path, bytes.constData(), static_cast<size_t>(bytes.size()) + 1);
   m_chosenPath = *chosen;
-  m_chosenState = StateOf(*chosen);
   return true;
-}
-
-ExportRun::FileState ExportRun::StateOf(const QString& path) {
-  const QFileInfo file(path);
-  if (!file.exists()) return {};
-  return {true, file.size(), file.lastModified()};
 }
 
 }  // namespace host

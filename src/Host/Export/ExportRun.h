@@ -3,7 +3,6 @@
 #define GRADIX_EXPORTRUN_H
 
 #include <QByteArray>
-#include <QDateTime>
 #include <QList>
 #include <QObject>
 #include <QPointer>
@@ -32,16 +31,29 @@ enum class StartResult {
   kSessionUnknown,  // the filter lost the session
 };
 
-// What a run came to once its dialog has closed.
-enum class RunOutcome { kCanceled, kWritten, kNotWritten };
+// What a run came to once its dialog has closed, as the filter tells it.
+enum class RunOutcome {
+  kCanceled,
+  kWritten,
+  kNotWritten,
+  kUnknown,  // a file was chosen, and the filter does not tell
+};
+
+struct RunResult {
+  RunOutcome outcome = RunOutcome::kCanceled;
+  QString path;   // of the file that was chosen last; empty: none
+  int error = 0;  // why it was not written, an errno value; 0: unknown
+  uint32_t replacedCharacters = 0;
+  uint32_t studentsWithoutIdentifier = 0;
+};
 
 // Main thread only. Must outlive a run's dialog, which asks it for the file.
 class ExportRun : public QObject {
  public:
   // Asks for the output file in front of the dialog (null when the filter named none).
   using Choose = std::function<std::optional<QString>(QWidget* dialog)>;
-  // Called after the dialog has closed; `path` is empty when no file was chosen.
-  using Finished = std::function<void(RunOutcome outcome, const QString& path)>;
+  // Called after the dialog has closed.
+  using Finished = std::function<void(const RunResult& result)>;
 
   ExportRun(QObject* parent, Choose choose, Finished finished);
 
@@ -58,22 +70,14 @@ class ExportRun : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  // What a file was like when it was chosen.
-  struct FileState {
-    bool exists = false;
-    qint64 size = 0;
-    QDateTime modified;
-    bool operator==(const FileState&) const = default;
-  };
-
   static int32_t ChooseFile(void* dialog, int32_t reserved, char* path, int32_t size, uintptr_t value);
-  static FileState StateOf(const QString& path);
 
   StartResult Run(const FilterModule& filter, const ExportRequest& request, QWidget* hostWindow);
   bool StorePath(QWidget* dialog, char* path, int32_t size);
   void FindDialog();
   void FinishUnlessVisible();
   void Finish();
+  RunResult Result() const;
 
   Choose m_choose;
   Finished m_finished;
@@ -84,10 +88,10 @@ class ExportRun : public QObject {
   int m_triesLeft = 0;
   QTimer m_hidden;  // the dialog was hidden
   QTimer m_end;     // the run has ended
-  RunOutcome m_outcome = RunOutcome::kCanceled;
+  const FilterModule* m_filter = nullptr;
+  unsigned long m_session = 0;
   QByteArray m_classPath;  // the filter keeps a pointer to it
   QString m_chosenPath;
-  FileState m_chosenState;
 };
 
 }  // namespace host

@@ -4,10 +4,12 @@
 
 #include <QString>
 
+#include "gradix/QZFilter.h"
+
 namespace host {
 
 // The path's bytes that an export can take, without the terminator.
-inline constexpr qsizetype kMaxPathBytes = 255;
+inline constexpr qsizetype kMaxPathBytes = QZFILTER_PATH_SIZE - 1;
 
 // What an export of the assignment in the format is proposed to be called: "Quiz 1 - Canvas.csv". Characters
 // that some file system refuses become "_"; long names are cut.

@@ -15,8 +15,6 @@ namespace host {
 namespace {
 
 constexpr int16_t kEnglish = 0;
-constexpr int16_t kSpanish = 6;
-constexpr uint32_t kReasonLoaded = 1;
 
 // A text field of a record, which the filter may have filled to its end.
 template <size_t size>
@@ -29,9 +27,14 @@ void _SetError(FilterLoadError* error, FilterFault fault, const QString& detail)
 }
 
 template <typename Pointer>
-bool _Find(void* handle, const char* name, Pointer* pointer, FilterLoadError* error) {
+bool _Find(void* handle, const char* name, Pointer* pointer) {
   *pointer = reinterpret_cast<Pointer>(::dlsym(handle, name));
-  if (*pointer != nullptr) return true;
+  return *pointer != nullptr;
+}
+
+template <typename Pointer>
+bool _Find(void* handle, const char* name, Pointer* pointer, FilterLoadError* error) {
+  if (_Find(handle, name, pointer)) return true;
   _SetError(error, FilterFault::kMissingSymbol, QString::fromLatin1(name));
   return false;
 }
@@ -62,12 +65,13 @@ std::unique_ptr<FilterModule> FilterModule::Load(const QString& path, FilterLoad
     ::dlclose(handle);
     return nullptr;
   }
-  filter->m_entries.dllMain(handle, kReasonLoaded, nullptr);
+  filter->m_entries.dllMain(handle, QZFILTER_ATTACH, nullptr);
   return filter;
 }
 
 bool FilterModule::FindEntryPoints(FilterLoadError* error) {
   EntryPoints& entries = m_entries;
+  _Find(m_handle, "QZFilter_GetExportOutcome", &entries.getExportOutcome);
   return _Find(m_handle, "QZFilter_GetNumExportFormatsA", &entries.getNumExportFormats, error) &&
          _Find(m_handle, "QZFilter_GetExportFormatInfoA", &entries.getExportFormatInfo, error) &&
          _Find(m_handle, "QZFilter_ExportBeginA", &entries.exportBegin, error) &&
@@ -91,7 +95,7 @@ std::vector<ExportFormat> FilterModule::Formats() const {
 }
 
 void FilterModule::SetSpanish(bool spanish) const {
-  *m_entries.language = spanish ? kSpanish : kEnglish;
+  *m_entries.language = spanish ? QZFILTER_SPANISH : kEnglish;
 }
 
 uint32_t FilterModule::ExportBegin(const QZEXPORTBEGIN* begin, unsigned long* id) const {
@@ -104,6 +108,14 @@ uint32_t FilterModule::ExportFile(void* hostWindow, unsigned long id, const QZEX
 
 uint32_t FilterModule::ExportEnd(unsigned long id) const {
   return m_entries.exportEnd(id);
+}
+
+std::optional<QZEXPORTOUTCOME> FilterModule::Outcome(unsigned long id) const {
+  QZEXPORTOUTCOME outcome{};
+  outcome.size = sizeof outcome;
+  if (m_entries.getExportOutcome == nullptr) return std::nullopt;
+  if (m_entries.getExportOutcome(id, &outcome) != QZFILTER_SUCCESS) return std::nullopt;
+  return outcome;
 }
 
 }  // namespace host

@@ -5,6 +5,7 @@
 #include <QString>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "gradix/QZFilter.h"
@@ -43,6 +44,10 @@ class FilterModule {
   uint32_t ExportFile(void* hostWindow, unsigned long id, const QZEXPORTFILE* file) const;
   uint32_t ExportEnd(unsigned long id) const;
 
+  // What became of an export; nothing when the filter is too old to tell and for a session that it does not
+  // know.
+  std::optional<QZEXPORTOUTCOME> Outcome(unsigned long id) const;
+
  private:
   struct EntryPoints {
     decltype(&QZFilter_GetNumExportFormatsA) getNumExportFormats;
@@ -51,6 +56,7 @@ class FilterModule {
     decltype(&QZFilter_ExportFileA) exportFile;
     decltype(&QZFilter_ExportEnd) exportEnd;
     decltype(&DllMain) dllMain;
+    QZFilter_GetExportOutcomeProc getExportOutcome;  // null in an older filter
     int16_t* language;
   };
 

@@ -6,10 +6,12 @@
 #include <QPushButton>
 #include <QSettings>
 #include <QStandardPaths>
+#include <filesystem>
+#include <system_error>
 
 #include "Host/App/FileDialogs.h"
+#include "Host/App/HostTexts.h"
 #include "Host/App/Messages.h"
-#include "Host/App/Texts.h"
 #include "Host/Export/FileNames.h"
 
 namespace host {
@@ -45,9 +47,21 @@ bool _MayReplace(QWidget* parent, const QString& path) {
   return question.clickedButton() == replace;
 }
 
-bool _MayWrite(QWidget* parent, const QString& path) {
+// Also through a link, whichever kind.
+bool _IsSameFile(const QString& path, const QString& other) {
+  std::error_code error;
+  return std::filesystem::equivalent(QFileInfo(path).filesystemAbsoluteFilePath(),
+                                     QFileInfo(other).filesystemAbsoluteFilePath(), error);
+}
+
+bool _MayWrite(QWidget* parent, const QString& path, const QString& classPath) {
   if (!FitsIntoPath(path)) {
     AskToConfirm(parent, Text(TextID::kPathTooLong), Text(TextID::kPathTooLongAdvice).arg(kMaxPathBytes));
+    return false;
+  }
+  if (_IsSameFile(path, classPath)) {
+    AskToConfirm(parent, Text(TextID::kIsTheClass).arg(QFileInfo(path).fileName()),
+                 Text(TextID::kIsTheClassAdvice));
     return false;
   }
   return _MayReplace(parent, path);
@@ -55,14 +69,14 @@ bool _MayWrite(QWidget* parent, const QString& path) {
 
 }  // namespace
 
-std::optional<QString> ChooseSaveFile(QWidget* parent, const QString& proposedName,
-                                      const QString& extension) {
+std::optional<QString> ChooseSaveFile(QWidget* parent, const QString& proposedName, const QString& extension,
+                                      const QString& classPath) {
   QFileDialog dialog(parent, Text(TextID::kSaveTitle), _LastFolder());
   _SetUp(&dialog, extension);
   dialog.selectFile(proposedName);
   while (dialog.exec() == QDialog::Accepted) {
     const QString path = QFileInfo(dialog.selectedFiles().value(0)).absoluteFilePath();
-    if (!_MayWrite(parent, path)) continue;
+    if (!_MayWrite(parent, path, classPath)) continue;
     QSettings().setValue(QLatin1String(kFolderKey), QFileInfo(path).absolutePath());
     return path;
   }

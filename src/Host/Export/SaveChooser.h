@@ -10,9 +10,10 @@ class QWidget;
 namespace host {
 
 // Asks for a file, at first with the proposed name in the folder used last, and before replacing one. Gives a
-// path that an export can take, or nothing when the user cancels. The desktop's own dialog is shown only
-// where the environment variable GXHOST_NATIVE_DIALOGS is set.
-std::optional<QString> ChooseSaveFile(QWidget* parent, const QString& proposedName, const QString& extension);
+// path that an export can take, or nothing when the user cancels. The class file is refused under whatever
+// name. The desktop's own dialog is shown only where the environment variable GXHOST_NATIVE_DIALOGS is set.
+std::optional<QString> ChooseSaveFile(QWidget* parent, const QString& proposedName, const QString& extension,
+                                      const QString& classPath);
 
 }  // namespace host
 

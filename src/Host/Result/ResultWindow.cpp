@@ -12,12 +12,13 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QShortcut>
+#include <QStringList>
 #include <QTabWidget>
 #include <QTableView>
 #include <QUrl>
 #include <QVBoxLayout>
 
-#include "Host/App/Texts.h"
+#include "Host/App/HostTexts.h"
 #include "Host/ClassView/RomanText.h"
 #include "Host/Result/CsvTableModel.h"
 
@@ -38,12 +39,13 @@ std::string_view _View(const QByteArray& bytes) {
 
 }  // namespace
 
-ResultWindow::ResultWindow(QWidget* parent, const QString& path)
+ResultWindow::ResultWindow(QWidget* parent, const ExportedFile& file)
     : QWidget(parent, Qt::Window),
-      m_fileName(QFileInfo(path).fileName()),
-      m_size(QFileInfo(path).size()),
+      m_file(file),
+      m_size(QFileInfo(file.path).size()),
       m_tabs(new QTabWidget(this)),
       m_cut(new QLabel(this)),
+      m_notes(new QLabel(this)),
       m_details(new QFormLayout),
       m_sizeText(new QLabel(this)),
       m_openFolder(new QPushButton(this)),
@@ -53,10 +55,11 @@ ResultWindow::ResultWindow(QWidget* parent, const QString& path)
   auto* const layout = new QVBoxLayout(this);
   layout->addWidget(m_tabs, 1);
   layout->addWidget(m_cut);
+  layout->addWidget(m_notes);
   layout->addLayout(m_details);
-  AddTabs(_Beginning(path));
-  AddDetails(path);
-  AddButtons(path);
+  AddTabs(_Beginning(file.path));
+  AddDetails(file.path);
+  AddButtons(file.path);
   Retranslate();
   resize(fontMetrics().height() * 48, fontMetrics().height() * 28);
 }
@@ -107,8 +110,17 @@ void ResultWindow::AddButtons(const QString& path) {
   }
 }
 
+QString ResultWindow::Notes() const {
+  QStringList notes;
+  if (m_file.replacedCharacters > 0)
+    notes.append(Text(TextID::kReplacedCharacters).arg(m_file.replacedCharacters));
+  if (m_file.studentsWithoutIdentifier > 0)
+    notes.append(Text(TextID::kWithoutIdentifier).arg(m_file.studentsWithoutIdentifier));
+  return notes.join(u'\n');
+}
+
 void ResultWindow::Retranslate() {
-  setWindowTitle(Text(TextID::kResultTitle).arg(m_fileName));
+  setWindowTitle(Text(TextID::kResultTitle).arg(QFileInfo(m_file.path).fileName()));
   setAccessibleName(windowTitle());
   constexpr TextID kTabs[] = {TextID::kResultTable, TextID::kResultText};
   int tab = 0;
@@ -118,8 +130,10 @@ void ResultWindow::Retranslate() {
   }
   m_tabs->setAccessibleName(windowTitle());
   m_cut->setText(Text(TextID::kResultTooLarge));
+  m_notes->setText(Notes());
+  m_notes->setVisible(!m_notes->text().isEmpty());
   constexpr TextID kDetails[] = {TextID::kResultPath, TextID::kResultSize};
-  const QLocale locale(CurrentLanguage() == Language::kSpanish ? QLocale::Spanish : QLocale::English);
+  const QLocale locale(CurrentLanguage() == HostLanguage::kSpanish ? QLocale::Spanish : QLocale::English);
   m_sizeText->setText(locale.formattedDataSize(m_size));
   int row = 0;
   for (const TextID title : kDetails) {

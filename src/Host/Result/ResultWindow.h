@@ -4,6 +4,7 @@
 
 #include <QString>
 #include <QWidget>
+#include <cstdint>
 
 class QFormLayout;
 class QLabel;
@@ -12,11 +13,17 @@ class QTabWidget;
 
 namespace host {
 
+struct ExportedFile {
+  QString path;
+  uint32_t replacedCharacters = 0;
+  uint32_t studentsWithoutIdentifier = 0;
+};
+
 // A window of its own that goes with its parent and destroys itself when it is closed.
 class ResultWindow : public QWidget {
  public:
-  // Reads the file, a very large one in part.
-  ResultWindow(QWidget* parent, const QString& path);
+  // Reads the file, a very large one in part. Says how many characters and identifiers are missing.
+  ResultWindow(QWidget* parent, const ExportedFile& file);
 
   // Told of a change of the language.
   void Retranslate();
@@ -26,10 +33,13 @@ class ResultWindow : public QWidget {
   void AddDetails(const QString& path);
   void AddButtons(const QString& path);
 
-  QString m_fileName;
+  QString Notes() const;
+
+  ExportedFile m_file;
   qint64 m_size = 0;
   QTabWidget* m_tabs;
   QLabel* m_cut;
+  QLabel* m_notes;
   QFormLayout* m_details;
   QLabel* m_sizeText;
   QPushButton* m_openFolder;

@@ -80,15 +80,15 @@ void MainActions::SetFormats(const std::vector<ExportFormat>& formats) {
 void MainActions::AddLanguageMenu() {
   m_languageMenu = m_window->menuBar()->addMenu(QString());
   auto* const group = new QActionGroup(m_window);
-  const auto add = [this, group](Language language) {
+  const auto add = [this, group](HostLanguage language) {
     QAction* const action = m_languageMenu->addAction(QString(), m_window,
                                                       [this, language] { m_handlers.setLanguage(language); });
     action->setCheckable(true);
     group->addAction(action);
     return action;
   };
-  m_english = add(Language::kEnglish);
-  m_spanish = add(Language::kSpanish);
+  m_english = add(HostLanguage::kEnglish);
+  m_spanish = add(HostLanguage::kSpanish);
 }
 
 void MainActions::AddHelpMenu() {
@@ -145,7 +145,7 @@ void MainActions::Retranslate() {
   m_toolBar->setWindowTitle(Text(TextID::kToolBar));
   m_toolBar->setAccessibleName(Text(TextID::kToolBar));
   m_toolBar->widgetForAction(m_open)->setAccessibleName(Text(TextID::kOpen).remove(u'&'));
-  (CurrentLanguage() == Language::kSpanish ? m_spanish : m_english)->setChecked(true);
+  (CurrentLanguage() == HostLanguage::kSpanish ? m_spanish : m_english)->setChecked(true);
 }
 
 }  // namespace host

@@ -7,7 +7,7 @@
 #include <functional>
 #include <vector>
 
-#include "Host/App/Texts.h"
+#include "Host/App/HostTexts.h"
 #include "Host/Export/FilterModule.h"
 
 class QAction;
@@ -24,7 +24,7 @@ struct ActionHandlers {
   std::function<void(const QString& path)> openRecent;
   std::function<void()> quit;
   std::function<void()> about;
-  std::function<void(Language language)> setLanguage;
+  std::function<void(HostLanguage language)> setLanguage;
   std::function<void(const ExportFormat& format)> exportAs;
 };
 

@@ -43,7 +43,7 @@ MainWindow::MainWindow()
       m_export(this, [this](const QString& status) { ExportStateChanged(status); }),
       m_actions(this, {[this] { AskForClassFile(); }, [this](const QString& path) { OpenRecentFile(path); },
                        [this] { close(); }, [this] { ShowAbout(); },
-                       [this](Language language) { SetLanguage(language); },
+                       [this](HostLanguage language) { SetLanguage(language); },
                        [this](const ExportFormat& format) { ExportAs(format); }}),
       m_pages(new QStackedWidget(this)),
       m_summary(new QLabel(this)),
@@ -193,7 +193,7 @@ void MainWindow::ExportStateChanged(const QString& status) {
   if (m_quitPatience.isActive() && !m_export.IsRunning()) close();
 }
 
-void MainWindow::SetLanguage(Language language) {
+void MainWindow::SetLanguage(HostLanguage language) {
   ChangeLanguage(language);
   Retranslate();
   m_actions.Retranslate();

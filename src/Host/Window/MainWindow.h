@@ -50,7 +50,7 @@ class MainWindow : public QMainWindow {
   void SelectColumn(int column);
   void ExportAs(const ExportFormat& format);
   void ExportStateChanged(const QString& status);
-  void SetLanguage(Language language);
+  void SetLanguage(HostLanguage language);
   void ShowAbout();
   void UpdateActions();
   void Retranslate();

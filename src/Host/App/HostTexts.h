@@ -1,13 +1,13 @@
 // The host's own texts, in English and Spanish.
-#ifndef GRADIX_HOST_TEXTS_H
-#define GRADIX_HOST_TEXTS_H
+#ifndef GRADIX_HOSTTEXTS_H
+#define GRADIX_HOSTTEXTS_H
 
 #include <QString>
 #include <cstdint>
 
 namespace host {
 
-enum class Language : uint8_t { kEnglish, kSpanish };
+enum class HostLanguage : uint8_t { kEnglish, kSpanish };
 
 enum class TextID : uint8_t {
   kProgram,
@@ -74,6 +74,8 @@ enum class TextID : uint8_t {
   kMalformedAdvice,
   kNotAClass,
   kNotAClassAdvice,
+  kUnsupportedEncoding,
+  kUnsupportedEncodingAdvice,
   kOutOfMemory,
   kOutOfMemoryAdvice,
   kRecentGone,
@@ -94,6 +96,8 @@ enum class TextID : uint8_t {
   kExportUnderWay,
   kExportCanceled,
   kExported,
+  kExportFailed,
+  kExportEnded,
   kCloseDialogFirst,
   // choosing the file
   kSaveTitle,
@@ -108,8 +112,13 @@ enum class TextID : uint8_t {
   kReplace,
   kPathTooLong,
   kPathTooLongAdvice,
+  kIsTheClass,
+  kIsTheClassAdvice,
   kNotWritten,
+  kDiskFullAdvice,
   kNotWrittenAdvice,
+  kOutcomeUnknown,
+  kOutcomeUnknownAdvice,
   // the exported file
   kResultTitle,
   kResultTable,
@@ -117,6 +126,8 @@ enum class TextID : uint8_t {
   kResultPath,
   kResultSize,
   kResultTooLarge,
+  kReplacedCharacters,
+  kWithoutIdentifier,
   kOpenFolder,
   kClose,
   kOk,
@@ -127,11 +138,11 @@ enum class TextID : uint8_t {
 QString Text(TextID id);
 
 // The same in a given language; for the test that none is missing.
-QString TextIn(Language language, TextID id);
+QString TextIn(HostLanguage language, TextID id);
 
-Language CurrentLanguage();
-void SetCurrentLanguage(Language language);
+HostLanguage CurrentLanguage();
+void SetCurrentLanguage(HostLanguage language);
 
 }  // namespace host
 
-#endif  // GRADIX_HOST_TEXTS_H
+#endif  // GRADIX_HOSTTEXTS_H

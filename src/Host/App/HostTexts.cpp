@@ -1,4 +1,4 @@
-#include "Host/App/Texts.h"
+#include "Host/App/HostTexts.h"
 
 #include <iterator>
 
@@ -90,6 +90,10 @@ constexpr TextRow kTexts[] = {
     {TextID::kNotAClass, "“%1” is not a class file.", "«%1» no es un archivo de clase."},
     {TextID::kNotAClassAdvice, "Choose a file that the class manager saved. Its name usually ends in .xml.",
      "Elija un archivo guardado por el gestor de clases. Su nombre suele terminar en .xml."},
+    {TextID::kUnsupportedEncoding, "The class file “%1” is written in an encoding that cannot be read.",
+     "El archivo de clase «%1» está escrito en una codificación que no se puede leer."},
+    {TextID::kUnsupportedEncodingAdvice, "The reader says: %1.\n\nSave it as UTF-8 with a text editor.",
+     "El lector indica: %1.\n\nGuárdelo como UTF-8 con un editor de texto."},
     {TextID::kOutOfMemory, "There is not enough memory to open “%1”.", "No hay memoria suficiente para abrir «%1»."},
     {TextID::kOutOfMemoryAdvice, "Close other programs and try again.", "Cierre otros programas e inténtelo de nuevo."},
     {TextID::kRecentGone, "The class file “%1” is no longer there.", "El archivo de clase «%1» ya no está."},
@@ -122,6 +126,8 @@ constexpr TextRow kTexts[] = {
     {TextID::kExportUnderWay, "An export is under way", "Hay una exportación en curso"},
     {TextID::kExportCanceled, "Nothing was exported", "No se exportó nada"},
     {TextID::kExported, "Exported to %1", "Exportado a %1"},
+    {TextID::kExportFailed, "The export failed", "La exportación falló"},
+    {TextID::kExportEnded, "The export has ended", "La exportación terminó"},
     {TextID::kCloseDialogFirst, "Close the export dialog first", "Cierre primero el diálogo de exportación"},
 
     {TextID::kSaveTitle, "Export To", "Exportar a"},
@@ -139,12 +145,23 @@ constexpr TextRow kTexts[] = {
      "El nombre del archivo con todas sus carpetas es demasiado largo."},
     {TextID::kPathTooLongAdvice, "It may have at most %1 bytes. Choose a shorter name or another folder.",
      "Puede tener como máximo %1 bytes. Elija un nombre más corto u otra carpeta."},
+    {TextID::kIsTheClass, "“%1” is the open class. Exporting to it would destroy the class.",
+     "«%1» es la clase abierta. Exportar a ese archivo destruiría la clase."},
+    {TextID::kIsTheClassAdvice, "Choose another name or another folder.", "Elija otro nombre u otra carpeta."},
     {TextID::kNotWritten, "The file “%1” could not be written.", "No se pudo escribir el archivo «%1»."},
+    {TextID::kDiskFullAdvice,
+     "The disk is full (%1).\n\nMake room on it, or choose a folder on another disk, and export again.",
+     "El disco está lleno (%1).\n\nLibere espacio o elija una carpeta en otro disco y exporte de nuevo."},
     {TextID::kNotWrittenAdvice,
-     "Check that the folder exists, that you may write to it and that the disk is not full. Then export again, "
+     "%1\n\nCheck that the folder exists, that you may write to it and that the disk is not full. Then export again, "
      "perhaps to another folder.",
-     "Compruebe que la carpeta exista, que tenga permiso de escritura y que el disco no esté lleno. Después "
+     "%1\n\nCompruebe que la carpeta exista, que tenga permiso de escritura y que el disco no esté lleno. Después "
      "exporte de nuevo, quizás a otra carpeta."},
+    {TextID::kOutcomeUnknown, "The export filter does not tell whether “%1” was written.",
+     "El filtro de exportación no indica si se escribió «%1»."},
+    {TextID::kOutcomeUnknownAdvice,
+     "It is older than this program. Open the file and check that it is complete before you use it.",
+     "Es más antiguo que este programa. Abra el archivo y compruebe que esté completo antes de usarlo."},
 
     {TextID::kResultTitle, "Exported file: %1", "Archivo exportado: %1"},
     {TextID::kResultTable, "Table", "Tabla"},
@@ -153,6 +170,9 @@ constexpr TextRow kTexts[] = {
     {TextID::kResultSize, "Size:", "Tamaño:"},
     {TextID::kResultTooLarge, "The file is too large to be shown here completely; this is its beginning.",
      "El archivo es demasiado grande para mostrarse completo; este es su comienzo."},
+    {TextID::kReplacedCharacters, "Characters of the class that became “?” because the file cannot hold them: %1",
+     "Caracteres de la clase que se convirtieron en «?» porque el archivo no los admite: %1"},
+    {TextID::kWithoutIdentifier, "Students without an identifier: %1", "Estudiantes sin identificador: %1"},
     {TextID::kOpenFolder, "Open &folder", "Abrir &carpeta"},
     {TextID::kClose, "&Close", "&Cerrar"},
     {TextID::kOk, "OK", "Aceptar"},
@@ -167,24 +187,24 @@ constexpr bool _IsInOrder() {
 }
 static_assert(_IsInOrder());
 
-Language gLanguage = Language::kEnglish;
+HostLanguage gLanguage = HostLanguage::kEnglish;
 
 }  // namespace
 
-QString TextIn(Language language, TextID id) {
+QString TextIn(HostLanguage language, TextID id) {
   const TextRow& row = kTexts[static_cast<size_t>(id)];
-  return QString::fromUtf8(language == Language::kSpanish ? row.spanish : row.english);
+  return QString::fromUtf8(language == HostLanguage::kSpanish ? row.spanish : row.english);
 }
 
 QString Text(TextID id) {
   return TextIn(gLanguage, id);
 }
 
-Language CurrentLanguage() {
+HostLanguage CurrentLanguage() {
   return gLanguage;
 }
 
-void SetCurrentLanguage(Language language) {
+void SetCurrentLanguage(HostLanguage language) {
   gLanguage = language;
 }
 

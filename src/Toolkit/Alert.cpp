@@ -104,8 +104,7 @@ void ShowNumberedAlert(AlertStrings strings, int16_t number, std::span<const Ale
     SysBeep(kBeepDuration);
     return;
   }
-  const CFStringRef message =
-      CFStringCreateWithBytes(text.data(), static_cast<CFIndex>(text.size()), kCFStringEncodingUTF8);
+  const CFStringRef message = CFStringCreateWithReplacedUTF8(text);  // file names are bytes of any kind
   StandardAlert(type, message, nullptr, {});
   CFRelease(message);
 }

@@ -83,7 +83,10 @@ QPointer<QWidget> FilterTest::Open(uint32_t format, const std::string& classFile
 std::vector<QWidget*> FilterTest::Dialogs() {
   std::vector<QWidget*> dialogs;
   for (QWidget* window : QApplication::topLevelWidgets()) {
-    if (window->isVisible() && window->windowTitle().startsWith("Export")) dialogs.push_back(window);
+    if (window->isVisible() && !gestures::IsMessageBox(*window) &&
+        window->windowTitle().startsWith("Export")) {
+      dialogs.push_back(window);
+    }
   }
   return dialogs;
 }
@@ -162,7 +165,8 @@ bool FilterTest::IsChecked(QWidget* dialog, int box) {
 
 std::string FilterTest::TextOf(QWidget* dialog, int item) {
   QWidget* const widget = Item(dialog, item);
-  if (const auto* const button = qobject_cast<QAbstractButton*>(widget)) return button->text().toStdString();
+  if (const auto* const button = qobject_cast<QAbstractButton*>(widget))
+    return button->accessibleName().toStdString();
   return qobject_cast<QLabel*>(widget)->text().toStdString();
 }
 

@@ -120,6 +120,10 @@ TEST_F(ChecksTest, ShowsEveryPathAsItIs) {
       std::filesystem::remove(path);
     }
   }
+  chooser.path = PathOf("caf\xE9.csv");
+  Click(Open(kCanvas, kSampleClass, 301), kOK);
+  EXPECT_EQ(alerts.TakeTexts(), std::vector<std::string>{SavedText(PathOf("caf\uFFFD.csv"))});
+  EXPECT_TRUE(std::filesystem::exists(chooser.path));
 }
 
 TEST_F(ChecksTest, CutsLongAssignmentNames) {

@@ -29,15 +29,19 @@ QWidget* FindWindow(const Matches& matches) {
   return nullptr;
 }
 
-inline QWidget* WindowTitled(const std::string& title) {
-  return FindWindow([&](const QWidget& window) { return window.windowTitle().toStdString() == title; });
+inline bool IsMessageBox(const QWidget& window) {
+  return qobject_cast<const QMessageBox*>(&window) != nullptr;
 }
 
 inline QMessageBox* MessageBox() {
-  const auto isBox = [](const QWidget& window) {
-    return qobject_cast<const QMessageBox*>(&window) != nullptr;
-  };
-  return static_cast<QMessageBox*>(FindWindow(isBox));
+  return static_cast<QMessageBox*>(FindWindow(IsMessageBox));
+}
+
+// No alert: those have the title of their window.
+inline QWidget* WindowTitled(const std::string& title) {
+  return FindWindow([&](const QWidget& window) {
+    return window.windowTitle().toStdString() == title && !IsMessageBox(window);
+  });
 }
 
 // The widget of the dialog's item with that number, or null.

@@ -268,6 +268,8 @@ TEST_F(AlertTest, KeepsEventsFromItsWindow) {
   m_window = GetDialogWindow(m_dialog);
   Show();
   Later([this](QMessageBox* box) {
+    EXPECT_EQ(box->windowTitle(), "Café");
+    EXPECT_EQ(box->windowHandle()->transientParent(), Handle());
     QTest::mouseClick(ItemWidget(kButton), Qt::LeftButton);
     QTest::keyClick(WidgetOf(m_window), 'x');
     WidgetOf(m_window)->close();

@@ -73,18 +73,24 @@ void _AppendUTF8(std::string* text, char32_t character) {
   text->append(bytes, static_cast<size_t>(XmlUtf8EncodeChar(bytes, static_cast<int32_t>(character))));
 }
 
-std::optional<std::u16string> _UTF8ToUTF16(std::string_view text) {
+void _AppendUTF16(std::u16string* text, char32_t character) {
+  if (character > 0xFFFF) {
+    *text += static_cast<char16_t>(0xD800 + ((character - 0x10000) >> 10));
+    *text += static_cast<char16_t>(0xDC00 + (character & 0x3FF));
+  } else {
+    *text += static_cast<char16_t>(character);
+  }
+}
+
+// Each malformed byte becomes U+FFFD and is counted.
+std::u16string _UTF8ToUTF16(std::string_view text, size_t* malformed) {
   std::u16string result;
   result.reserve(text.size());
+  *malformed = 0;
   while (!text.empty()) {
     const char32_t character = _TakeUTF8(&text);
-    if (character == kMalformed) return std::nullopt;
-    if (character > 0xFFFF) {
-      result += static_cast<char16_t>(0xD800 + ((character - 0x10000) >> 10));
-      result += static_cast<char16_t>(0xDC00 + (character & 0x3FF));
-    } else {
-      result += static_cast<char16_t>(character);
-    }
+    if (character == kMalformed) ++*malformed;
+    _AppendUTF16(&result, character == kMalformed ? kReplacement : character);
   }
   return result;
 }
@@ -119,8 +125,9 @@ CFStringRef CFStringCreateWithBytes(const char* bytes, CFIndex length, CFStringE
   const std::string_view text(bytes, static_cast<size_t>(length));
   if (encoding == kCFStringEncodingMacRoman) return new CFString(MacRomanToUTF16(text));
   if (encoding != kCFStringEncodingUTF8) return nullptr;
-  const std::optional<std::u16string> characters = _UTF8ToUTF16(text);
-  return characters ? new CFString(*characters) : nullptr;
+  size_t malformed = 0;
+  const std::u16string characters = _UTF8ToUTF16(text, &malformed);
+  return malformed == 0 ? new CFString(characters) : nullptr;
 }
 
 CFStringRef CFStringCreateWithCharacters(const char16_t* characters, CFIndex length) {
@@ -153,6 +160,11 @@ bool CFStringGetCString(CFStringRef string, char* buffer, CFIndex size, CFString
 CFStringRef CFStringCreateCopy(CFStringRef string) {
   CFRetain(string);
   return string;
+}
+
+CFStringRef CFStringCreateWithReplacedUTF8(std::string_view text) {
+  size_t malformed = 0;
+  return new CFString(_UTF8ToUTF16(text, &malformed));
 }
 
 std::u16string_view CFStringGetText(CFStringRef string) {

@@ -40,8 +40,9 @@ bool CFStringGetCString(CFStringRef string, char* buffer, CFIndex size, CFString
 CFStringRef CFStringCreateCopy(CFStringRef string);
 
 // Not part of Core Foundation: the text for the layers above it.
-std::u16string_view CFStringGetText(CFStringRef string);  // lives as long as the string
-std::string CFStringGetUTF8(CFStringRef string);          // lone surrogates become U+FFFD
+CFStringRef CFStringCreateWithReplacedUTF8(std::string_view text);  // each malformed byte becomes U+FFFD
+std::u16string_view CFStringGetText(CFStringRef string);            // lives as long as the string
+std::string CFStringGetUTF8(CFStringRef string);                    // lone surrogates become U+FFFD
 
 // Mac OS Roman to UTF-16 and to UTF-8; every byte has a character, 0xF0 the private U+F8FF.
 std::u16string MacRomanToUTF16(std::string_view text);

@@ -98,6 +98,7 @@ QPushButton* _AddButton(QMessageBox* box, const QString& title, QMessageBox::But
 QMessageBox* _MakeBox(AlertType type, const AlertText& text, QWidget* parent) {
   auto* const box = new QMessageBox(parent);
   box->setAttribute(Qt::WA_QuitOnClose, false);
+  if (parent != nullptr) box->setWindowTitle(parent->windowTitle());
   box->setIcon(_IconOf(type));
   box->setTextFormat(Qt::PlainText);
   box->setText(text.message);

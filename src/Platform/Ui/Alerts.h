@@ -16,6 +16,8 @@ struct AlertParameters {
 
 enum { kAlertStdAlertOKButton = 1, kAlertStdAlertCancelButton = 2, kAlertStdAlertHelpButton = 4 };
 
+// Alerts have the title of their window.
+
 // Shows the alert on the front window, if any, and waits for the answer: the button's number. Closing it
 // answers Cancel, or OK when there is no Cancel.
 int16_t StandardAlert(AlertType type, CFStringRef message, CFStringRef explanation,

@@ -1,12 +1,15 @@
 #include "Toolkit/Buttons.h"
 
+#include "Common/asciicase.h"
 #include "Platform/Ui/Events.h"
+#include "Toolkit/DLGItems.h"
 #include "Toolkit/DLGManager.h"
 #include "Toolkit/ItemControls.h"
 #include "Toolkit/LBInternal.h"
 
 namespace {
 
+// The high byte is the shortcut, a letter or digit that presses the button together with Alt; 0: none.
 enum ButtonBits : uint16_t { kButtonDefault = 0x01, kButtonCancel = 0x02 };
 
 void _MarkDefault(DLGRecord* dialog, int32_t item) {
@@ -23,7 +26,14 @@ intptr_t _CreateButton(DLGRecord* dialog, int32_t item, intptr_t data) {
   if (!ReadItemWord(dialog, data, &bits)) return -1;
   if ((bits & kButtonDefault) != 0) _MarkDefault(dialog, item);
   if ((bits & kButtonCancel) != 0) dialog->cancelItem = item;
+  SetControlShortcut(DLGGetChildControl(dialog, item), static_cast<char>(bits >> 8));
   return sizeof bits;
+}
+
+// Alt and the letter, whatever Shift and Caps Lock make of it.
+bool _IsShortcut(char letter, DLGKeyPress key) {
+  if (letter == '\0' || (key.modifiers & ~shiftKey) != optionKey) return false;
+  return key.character <= 0x7F && AsciiLower(static_cast<char>(key.character)) == letter;
 }
 
 // Return belongs to a focused list that has a use for it, Enter never does.
@@ -36,7 +46,7 @@ bool _ClaimsKey(DLGRecord* dialog, int32_t item, DLGKeyPress key) {
     if (key.character == kEscapeChar && key.modifiers == 0) return true;
     if (key.character == '.' && key.modifiers == cmdKey) return true;
   }
-  return false;
+  return _IsShortcut(GetControlShortcut(DLGGetChildControl(dialog, item)), key);
 }
 
 }  // namespace

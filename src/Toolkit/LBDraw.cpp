@@ -22,19 +22,34 @@ DrawState _StateOf(ListRef list, bool selected, bool hasFocus) {
   return {selected, hasFocus, IsControlActive(GetListControl(list))};
 }
 
+// A tab stop in the dialog's scale; 0 for none.
+int32_t _TabStop(const LBView& view, int32_t number) {
+  return number < kLBMaxTabs ? GetDialogWidth(view->dialog->dialog, view->tabs[number]) : 0;
+}
+
+// What the widest text of the last column leaves of a row. The first column gets it.
+int32_t _FreeRoom(const LBView& view, int32_t width) {
+  int32_t stops = 0;
+  while (_TabStop(view, stops) > 0) ++stops;
+  const int32_t widest = stops > 0 ? LGetColumnWidth(view.list(), stops) : 0;
+  if (widest == 0) return 0;
+  return std::max(width - kRowInset - widest - _TabStop(view, stops - 1), 0);
+}
+
 // The left edges of a row's columns, from its second one on.
 class TabStops {
  public:
-  explicit TabStops(const LBView& view) : m_view(view) {}
+  TabStops(const LBView& view, int32_t width) : m_view(view), m_freeRoom(_FreeRoom(view, width)) {}
 
   int32_t Next() {
-    const int32_t stop = m_used < kLBMaxTabs ? m_view->tabs[m_used++] : 0;
-    m_position = stop > 0 ? stop : m_position + kDefaultColumn;
+    const int32_t stop = _TabStop(m_view, m_used++);
+    m_position = stop > 0 ? stop + m_freeRoom : m_position + kDefaultColumn;
     return m_position;
   }
 
  private:
   LBView m_view;
+  int32_t m_freeRoom;
   int32_t m_used = 0;
   int32_t m_position = 0;
 };
@@ -59,14 +74,14 @@ void LBDrawColumns(DrawContext* context, DLGRecord* dialog, int32_t item, int32_
   const DrawState state = _StateOf(view.list(), selected, hasFocus);
   const std::string text = LGetCell(view.list(), row);
   std::string_view rest = text;
-  TabStops stops(view);
+  TabStops stops(view, RectWidth(bounds));
   int32_t left = LBTextLeft(bounds, view.HasChecks());
   while (left < bounds.right) {
     const size_t end = std::min(rest.find('\t'), rest.size());
     const bool isLast = end == rest.size();
     const int32_t next = isLast ? bounds.right : bounds.left + std::min<int32_t>(stops.Next(), bounds.right);
     const int32_t right = std::min<int32_t>(isLast ? next : next - kColumnGap, bounds.right);
-    if (end > 0 && left < right) {
+    if (end > 0) {
       const Rect column = {bounds.top, _ToCoordinate(left), bounds.bottom, _ToCoordinate(right)};
       DrawThemeText(context, rest.substr(0, end), column, state);
     }

@@ -12,10 +12,7 @@ namespace {
 // Names the labelled item, whose number is the text's data, after the text.
 void _NameLabelledItem(DLGRecord* dialog, const DLGItem& text) {
   const DLGItem* const labelled = DLGFindItem(dialog, static_cast<int32_t>(text.data));
-  if (labelled == nullptr) return;
-  std::string name = GetControlText(text.control);
-  if (name.ends_with(':')) name.pop_back();
-  SetControlLabel(labelled->control, name);
+  if (labelled != nullptr) SetControlLabel(labelled->control, text.control);
 }
 
 }  // namespace

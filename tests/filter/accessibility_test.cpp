@@ -1,5 +1,6 @@
 // The options dialogs as assistive technology finds them.
 #include <QAccessible>
+#include <QComboBox>
 #include <QFrame>
 #include <QGroupBox>
 
@@ -33,6 +34,51 @@ TEST_F(AccessibilityTest, EveryControlHasAName) {
     }
     EXPECT_EQ(named, 16);
     Key(dialog, Qt::Key_Escape);
+  }
+}
+
+TEST_F(AccessibilityTest, PopupsAndListsHaveTheirTextAsLabel) {
+  const struct {
+    uint32_t format;
+    int item;
+    int label;
+  } rows[] = {{kCanvas, kFieldPopup, kPopupLabel},
+              {kCanvas, kAssignments, kAssignmentsLabel},
+              {kDetailed, kReportAssignment, 3},
+              {kDetailed, kReportColumns, 4},
+              {kDetailed, kReportFields, 11}};
+  for (const auto& row : rows) {
+    const QPointer<QWidget> dialog = Open(row.format, kSampleClass, 301);
+    ASSERT_FALSE(dialog.isNull());
+    QWidget* const item = Item(dialog, row.item);
+    if (qobject_cast<QComboBox*>(item) != nullptr) {  // its name is its value
+      const auto relations = QAccessible::queryAccessibleInterface(item)->relations(QAccessible::Label);
+      ASSERT_EQ(relations.size(), 1) << row.item;
+      EXPECT_EQ(relations.front().first->object(), Item(dialog, row.label)) << row.item;
+    } else {
+      EXPECT_EQ(NameOf(item) + ":", TextOf(dialog, row.label));
+    }
+    Key(dialog, Qt::Key_Escape);
+  }
+}
+
+TEST_F(AccessibilityTest, AltAndTheUnderlinedLetterPressButtons) {
+  for (const bool spanish : {false, true}) {
+    for (const uint32_t format : {kCanvas, kDetailed}) {
+      SCOPED_TRACE(format + (spanish ? 100 : 0));
+      const unsigned long session = Begin(format);
+      *Module().language = spanish ? 6 : 0;
+      EXPECT_EQ(ExportFile(session, kSampleClass), 1U);
+      const QPointer<QWidget> dialog = Dialogs().front();
+      const int list = format == kDetailed ? static_cast<int>(kReportFields) : static_cast<int>(kAssignments);
+      Key(dialog, spanish ? Qt::Key_M : Qt::Key_S, Qt::AltModifier);
+      EXPECT_EQ(CheckedRows(dialog, list).size(), 12U);
+      Key(dialog, spanish ? Qt::Key_D : Qt::Key_L, Qt::AltModifier | Qt::ShiftModifier);
+      EXPECT_EQ(CheckedRows(dialog, list).size(), 0U);
+      EXPECT_FALSE(IsGone(dialog));
+      Key(dialog, Qt::Key_C, Qt::AltModifier);
+      EXPECT_TRUE(IsGone(dialog));
+    }
   }
 }
 

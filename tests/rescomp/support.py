@@ -56,6 +56,21 @@ def items_of(resource):
     return items
 
 
+BUTTON = 1
+DATA_SIZES = {BUTTON: 2, 2: 2, 3: 2, 7: 4}  # of the types whose items have data
+
+
+def descriptions_of(resource):
+    """(type, flags, data) of each item of an item extension."""
+    at, rows = 4, []
+    for _ in range(struct.unpack_from(">H", resource, 2)[0]):
+        kind, flags = struct.unpack_from(">II", resource, at)
+        at += 8 + DATA_SIZES.get(kind, 0)
+        rows.append((kind, flags, resource[at - DATA_SIZES.get(kind, 0):at]))
+    assert at == len(resource)
+    return rows
+
+
 class FolderTest(unittest.TestCase):
     """Works in an empty folder."""
 

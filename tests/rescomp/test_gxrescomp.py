@@ -38,13 +38,13 @@ class Bytes(FolderTest):
 
     def test_tiny_dialog(self):
         source = dialog(
-            item(1, "button", (192, 160, 88, 30), title="Sí", flags=["notify"], default=True, cancel=True),
+            item(1, "button", (192, 160, 88, 30), title="Sí", flags=["notify"], default=True, cancel=True, shortcut="S"),
             item(2, "text", (10, 10, 90, 18), title="Name", labels=3),
             item(3, "edit", (110, 10, 90, 28), flags=["tab", "disabled"], maxLength=1000, tag="Any"),
             item(4, 31, (10, 50, 20, 20), control="user", flags=["hidden"]),
-            bounds=[-20, 40, 300, 200], window="movable-modal", closeBox=True, title="Tú")
+            bounds=[-20, 40, 300, 200], window="movable-modal", closeBox=True, centred=True, title="Tú")
         self.assertEqual(self.compile(source), {
-            ("DLOG", 600): hex_bytes("0028 FFEC 00F0 0118 0005 00 00 01 00 00000000 0258 02 54 9C 00 0000"),
+            ("DLOG", 600): hex_bytes("0028 FFEC 00F0 0118 0005 00 00 01 00 00000000 0258 02 54 9C 00 280A"),
             ("DITL", 600): hex_bytes(
                 "0003",
                 "00000000 00A0 00C0 00BE 0118 04 02 53 92",
@@ -53,7 +53,7 @@ class Bytes(FolderTest):
                 "00000000 0032 000A 0046 001E 00 00"),
             ("luDI", 600): hex_bytes(
                 "0000 0004",
-                "00000001 000000D0 0003",
+                "00000001 000000D0 7303",
                 "00000003 000000C0 0003",
                 "00000002 000001A0 03E8",
                 "0000001F 00000040"),
@@ -182,6 +182,13 @@ class Messages(FolderTest):
         self.assertEqual((result.returncode, result.stderr.decode()),
                          (1, "b.json: stringLists[0].id: 'STR#' 8 is already defined by a.json: stringLists[0].id\n"))
 
+    def test_dialogs_too_near(self):
+        first = dialog(item(1, "combo"), item(2, "button", (70, 10, 9, 9), title=""), item(3, "combo", (80, 10, 9, 9)))
+        second = dialog(item(1, "combo"), id=602)
+        self.check({"dialogs": first["dialogs"] + second["dialogs"]},
+                   ": dialogs[1].items[0]: the dialogs 602 and 600 are too near: both have a control with the id 602, "
+                   "the other being s.json: dialogs[0].items[2]")
+
     def test_alert(self):
         alert = {"id": 1, "kind": "stop", "bounds": [0, 0, 400, 160], "text": "T", "button": "OK"}
         rows = {
@@ -206,6 +213,9 @@ class Messages(FolderTest):
                            ".items[1]: its control would have the id 32768, beyond 32767"),
             "two defaults": (dialog(button | {"default": True}, item(2, "button", (70, 10, 9, 9), title="", default=True)),
                              ".items[1].default: the dialog has another such button"),
+            "shortcut twice": (dialog(item(1, "button", title="Sea", shortcut="A"),
+                                      item(2, "button", (70, 10, 9, 9), title="Tea", shortcut="a")),
+                               ".items[1].shortcut: items[0] has this one already"),
             "overlap": (dialog(button, item(2, "combo", (59, 29, 9, 9))), ".items[1]: items[1] overlaps items[0]"),
             "label of none": (dialog(item(1, "text", labels=2)), ".items[0].labels: there is no item 2"),
             "label of itself": (dialog(item(1, "text", labels=1)), ".items[0].labels: an item cannot label itself"),
@@ -233,6 +243,11 @@ class Messages(FolderTest):
             "key of another type": (item(1, "combo", maxLength=4), ': unknown key "maxLength"'),
             "title of a list": (item(1, "list", mode="single", title="x"), ': unknown key "title"'),
             "no title": (item(1, "button"), ': "title" is missing'),
+            "shortcut of two letters": (item(1, "button", title="Sea", shortcut="Se"),
+                                        ".shortcut: must be a letter from A to Z or a digit"),
+            "shortcut with an accent": (item(1, "button", title="Sí", shortcut="í"),
+                                        ".shortcut: must be a letter from A to Z or a digit"),
+            "shortcut elsewhere": (item(1, "button", title="Sea", shortcut="T"), ".shortcut: is not in the title"),
             "unknown flag": (item(1, "combo", flags=["tabs"]),
                              '.flags[0]: "tabs" is none of notify, tab, hidden, disabled'),
             "flag twice": (item(1, "combo", flags=["tab", "tab"]), ".flags[1]: appears twice"),

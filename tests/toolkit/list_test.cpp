@@ -464,6 +464,7 @@ std::vector<int> ChangedColumns(const QImage& before, const QImage& after) {
   return columns;
 }
 
+// The room that the last column does not need goes to the first one.
 TEST_F(ListTest, DrawsColumnsAtTheTabStops) {
   const int32_t stops[] = {40, 70};
   LBSetTabs(m_dialog, kDemoMultiple, 2, stops);
@@ -479,7 +480,8 @@ TEST_F(ListTest, DrawsColumnsAtTheTabStops) {
     int to;
   } rows[] = {{"WWWWWWWWWWWWWWWWWWWW\t", 0, 32},
               {"\tWWWWWWWWWWWWWWWW\t", 40, 62},
-              {"\t\tW", 70, 110},
+              {"\t\tWWWW", 70, 110},
+              {"\tW\tx", 62, 110},
               {"WWWWWW", 0, 110}};
   for (const auto& row : rows) {
     LSetCell(List(kDemoMultiple), 0, row.text);

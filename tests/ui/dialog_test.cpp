@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QToolTip>
 
 #include "Platform/Ui/Drawing.h"
@@ -42,9 +43,11 @@ TEST_F(DialogTest, ItemsAreTheStandardControls) {
 }
 
 TEST_F(DialogTest, AssistiveTechnologyReadsAndWorksIt) {
-  SetControlLabel(Item(kEdit), "Name:");
-  SetControlLabel(Item(kList), "Students");
-  SetControlLabel(Item(kButton), "not this");
+  SetControlText(Item(kText), "A & B:");
+  for (const int16_t labelled : {kButton, kList, kEdit}) SetControlLabel(Item(labelled), Item(kText));
+  SetControlLabel(Item(kPopup), Item(kButton));  // is no text
+  SetControlShortcut(Item(kButton), 'q');
+  SetControlShortcut(Item(kText), 'a');
   HMSetControlHelpContent(Item(kCheck), "Helps");
   Show();
   const struct {
@@ -52,16 +55,23 @@ TEST_F(DialogTest, AssistiveTechnologyReadsAndWorksIt) {
     QAccessible::Role role;
     const char* name;
   } rows[] = {
-      {kButton, QAccessible::Button, "Save & Quit"},   {kCheck, QAccessible::CheckBox, "Check me"},
-      {kRadio, QAccessible::RadioButton, "Choose me"}, {kText, QAccessible::StaticText, "A & B"},
-      {kEdit, QAccessible::EditableText, "Name:"},     {kPopup, QAccessible::ComboBox, ""},
-      {kList, QAccessible::List, "Students"},          {kGroup, QAccessible::Grouping, "Group & Co"},
+      {kButton, QAccessible::Button, "Save & Quit"},
+      {kCheck, QAccessible::CheckBox, "Check me"},
+      {kRadio, QAccessible::RadioButton, "Choose me"},
+      {kText, QAccessible::StaticText, "A & B:"},
+      {kEdit, QAccessible::EditableText, "A & B"},
+      {kPopup, QAccessible::ComboBox, ""},
+      {kList, QAccessible::List, "A & B"},
+      {kGroup, QAccessible::Grouping, "Group & Co"},
   };
   for (const auto& row : rows) {
     QAccessibleInterface* const item = QAccessible::queryAccessibleInterface(ItemWidget(row.item));
     EXPECT_EQ(item->role(), row.role) << row.item;
     EXPECT_EQ(item->text(QAccessible::Name).toStdString(), row.name) << row.item;
   }
+  EXPECT_EQ(ItemWidget<QPushButton>(kButton)->text(), "Save && &Quit");
+  EXPECT_EQ(ItemWidget<QLabel>(kText)->buddy(), ItemWidget(kEdit));
+  EXPECT_EQ(ItemWidget<QLabel>(kText)->text(), "A && B:");
   QAccessibleInterface* const window = QAccessible::queryAccessibleInterface(WidgetOf(m_window));
   EXPECT_EQ(window->role(), QAccessible::Dialog);
   EXPECT_EQ(window->text(QAccessible::Name), "Café");
@@ -81,6 +91,32 @@ TEST_F(DialogTest, AssistiveTechnologyReadsAndWorksIt) {
   EXPECT_EQ(TakeLog(), (EventLog{"action item3", "action item3"}));
   ItemWidget<QCheckBox>(kCheck)->click();
   EXPECT_EQ(TakeLog(), EventLog{"action item2"});
+}
+
+TEST_F(DialogTest, IsAsLargeAsTheFontNeedsIt) {
+  const QFont font = QApplication::font();
+  QApplication::setFont(QFont(font.family(), 2 * font.pointSize()));
+  const OpenFork more({{"DLOG", {{129, DialogData("Large") + BigEndian(0x280A, 2)}}},
+                       {"DITL", {{201, ItemListData({{{10, 10, 30, 110}, 5, "New"}})}}}});
+  const DialogRef large = GetNewDialog(129);
+  const WindowRef window = GetDialogWindow(large);
+  const Rect size = GetWindowPortBounds(window);
+  EXPECT_GT(size.right, 400);
+  EXPECT_GT(size.bottom, 400);
+  EXPECT_EQ(GetDialogWidth(large, 300), size.right);
+  EXPECT_EQ(GetDialogWidth(m_dialog, 300), 300);
+  const QPoint middle = QGuiApplication::primaryScreen()->availableGeometry().center();
+  const Rect place = GetWindowScreenBounds(window);
+  EXPECT_NEAR((place.left + place.right) / 2, middle.x(), 1);
+  EXPECT_NEAR((place.top + place.bottom) / 2, middle.y(), 1);
+
+  QApplication::setFont(font);
+  AppendDialogItemList(large, 201);
+  AppendDialogItemList(m_dialog, 201);
+  const Rect added = GetControlBounds(GetDialogItemAsControl(large, kItemCount + 1));
+  EXPECT_EQ(added.right, GetDialogWidth(large, 110));
+  EXPECT_NEAR(added.bottom, 30 * size.bottom / 300, 1);
+  EXPECT_TRUE(GetControlBounds(Item(kItemCount + 1)) == (Rect{10, 10, 30, 110}));
 }
 
 TEST_F(DialogTest, SettersReportNothing) {

@@ -2,8 +2,10 @@
 #include <QAccessible>
 #include <QListView>
 #include <QScrollBar>
+#include <QToolTip>
 #include <set>
 
+#include "Platform/Ui/HelpTags.h"
 #include "tests/ui/DialogFixture.h"
 
 namespace {
@@ -182,6 +184,23 @@ TEST_F(ListTest, DefinitionsDrawRowsAndKeepTheChecks) {
   LSetCell(m_list, 0, "Zoe");
   RunEventPass(2);
   EXPECT_TRUE(s_drawn.contains(0));
+}
+
+TEST_F(ListTest, ACutRowHasAToolTip) {
+  LSetCell(m_list, LAddRow(m_list, 0), "short");
+  LSetCell(m_list, LAddRow(m_list, 1), std::string(60, 'W') + "\tend");
+  HMSetControlHelpContent(Item(kList), "Helps");
+  HMSetTagDelay(10);
+  Show();
+  View()->grab();
+  const std::string expected[] = {"Helps", std::string(60, 'W') + ", end", "Helps"};
+  for (int row = 0; row < 3; ++row) {  // the last one is below the rows
+    const QPoint where(row + 20, View()->visualRect(View()->model()->index(0, 0)).height() * row + 8);
+    QTest::mouseMove(Handle(), View()->viewport()->mapTo(View()->window(), where));
+    QTest::qWait(100);
+    EXPECT_EQ(QToolTip::text().toStdString(), expected[row]) << row;
+  }
+  HMSetTagDelay(500);
 }
 
 TEST_F(ListTest, DeadListsAreIgnored) {

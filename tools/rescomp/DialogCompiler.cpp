@@ -18,6 +18,7 @@ constexpr int16_t kListProc = 352;
 constexpr int16_t kComboProc = 401;
 constexpr int16_t kComboMinimum = -12345;
 constexpr uint16_t kChecksMode = 2;
+constexpr int16_t kCentredOnMainScreen = 0x280A;
 
 struct Dialog {
   Node source;
@@ -81,8 +82,18 @@ void _CheckSingle(const std::vector<DialogItem>& items, bool DialogItem::*role, 
   }
 }
 
+void _CheckShortcuts(const std::vector<DialogItem>& items) {
+  for (size_t i = 0; i < items.size(); ++i) {
+    for (size_t j = 0; items[i].shortcut != 0 && j < i; ++j) {
+      if (items[j].shortcut == items[i].shortcut) {
+        items[i].source.At("shortcut").Fail(_NameOf(j) + " has this one already");
+      }
+    }
+  }
+}
+
 Dialog _ReadDialog(const Node& source) {
-  source.AllowKeys({{"id", "title", "bounds", "closeBox", "window", "items"}});
+  source.AllowKeys({{"id", "title", "bounds", "closeBox", "window", "centred", "items"}});
   const Node idSource = source.At("id");
   Dialog dialog = {source, idSource, idSource.ResourceId(), source.At("bounds").Rect(), {}};
   const std::vector<Node> items = source.At("items").Elements();
@@ -91,6 +102,7 @@ Dialog _ReadDialog(const Node& source) {
   }
   _CheckPlaces(dialog);
   _CheckLabels(dialog.items);
+  _CheckShortcuts(dialog.items);
   _CheckSingle(dialog.items, &DialogItem::isDefault, "default");
   _CheckSingle(dialog.items, &DialogItem::isCancel, "cancel");
   return dialog;
@@ -104,7 +116,8 @@ ByteWriter _WindowBytes(const Dialog& dialog) {
       .I16(kProcs[source.At("window").Choice({"movable-modal", "modeless", "floating"})]);
   bytes.U8(0).U8(0);  // not visible until it is set up
   bytes.U8(source.FlagOr("closeBox", false) ? 1 : 0).U8(0).U32(0).I16(dialog.id);
-  bytes.Pascal(source.At("title").Roman()).PadToEven().U16(0);
+  bytes.Pascal(source.At("title").Roman()).PadToEven();
+  bytes.I16(source.FlagOr("centred", false) ? kCentredOnMainScreen : int16_t{0});
   return bytes;
 }
 
@@ -136,8 +149,9 @@ ByteWriter _ListDescription(const DialogItem& item) {
 
 void _AddControl(const Dialog& dialog, size_t index, int16_t id, ForkWriter* file) {
   const DialogItem& item = dialog.items[index];
-  file->Add("CNTL", id, _ControlBytes(item, id), item.source);
-  if (item.type->procId == kListProc) file->Add("ldes", id, _ListDescription(item), item.source);
+  file->AddOfDialog(dialog.id, "CNTL", id, _ControlBytes(item, id), item.source);
+  if (item.type->procId != kListProc) return;
+  file->AddOfDialog(dialog.id, "ldes", id, _ListDescription(item), item.source);
 }
 
 void _AddItems(const Dialog& dialog, ForkWriter* file) {

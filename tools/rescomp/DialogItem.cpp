@@ -1,7 +1,9 @@
 #include "rescomp/DialogItem.h"
 
+#include <algorithm>
 #include <cstddef>
 
+#include "Common/asciicase.h"
 #include "rescomp/ItemList.h"
 
 namespace {
@@ -17,7 +19,7 @@ constexpr int32_t kMaximumEditLength = 1000;
 const std::vector<ItemType>& _ItemTypes() {
   using enum TitleRule;
   static const std::vector<ItemType> types = {
-      {"button", kButton, kButtonItem, 0, kRequired, false, {"default", "cancel"}},
+      {"button", kButton, kButtonItem, 0, kRequired, false, {"default", "cancel", "shortcut"}},
       {"edit", kEdit, kEditTextItem, 0, kOptional, false, {"maxLength"}},
       {"text", kText, kStaticTextItem, 0, kOptional, false, {"labels"}},
       {"checkbox", 4, kCheckBoxItem, 0, kRequired, false, {}},
@@ -71,9 +73,24 @@ uint32_t _ReadFlags(const Node& source) {
   return given ^ (kVisibleFlag | kEnabledFlag);  // these two are on unless told otherwise
 }
 
+// The one that the title has, for which it will be underlined there.
+uint8_t _ReadShortcut(const Node& source, const std::string& title) {
+  const std::optional<Node> key = source.Find("shortcut");
+  if (!key) return 0;
+  const std::string text = key->Roman();
+  const char letter = text.size() == 1 ? AsciiLower(text.front()) : '\0';
+  if ((letter < 'a' || letter > 'z') && (letter < '0' || letter > '9')) {
+    key->Fail("must be a letter from A to Z or a digit");
+  }
+  const auto isIt = [letter](char c) { return AsciiLower(c) == letter; };
+  if (std::none_of(title.begin(), title.end(), isIt)) key->Fail("is not in the title");
+  return static_cast<uint8_t>(letter);
+}
+
 void _ReadTypeData(const Node& source, DialogItem* item) {
   item->isDefault = source.FlagOr("default", false);
   item->isCancel = source.FlagOr("cancel", false);
+  item->shortcut = _ReadShortcut(source, item->title);
   item->maximumLength = static_cast<uint16_t>(source.IntegerOr("maxLength", 0, 0, kMaximumEditLength));
   item->labels = static_cast<uint16_t>(source.IntegerOr("labels", 0, 0, INT16_MAX));
   if (item->typeId != kList) return;
@@ -116,7 +133,7 @@ DialogItem ReadDialogItem(const Node& source, int32_t number) {
 ByteWriter TypeDataOf(const DialogItem& item) {
   ByteWriter data;
   switch (item.typeId) {
-    case kButton: data.U16(static_cast<uint16_t>((item.isDefault ? 1 : 0) | (item.isCancel ? 2 : 0))); break;
+    case kButton: data.U8(item.shortcut).U8((item.isDefault ? 1 : 0) | (item.isCancel ? 2 : 0)); break;
     case kEdit: data.U16(item.maximumLength); break;
     case kText: data.U16(item.labels); break;
     case kList: data.U16(item.mode).U16(item.checkCapacity); break;

@@ -34,6 +34,7 @@ struct DialogItem {
   std::optional<std::string> tag;  // help tag
   bool isDefault = false;
   bool isCancel = false;
+  uint8_t shortcut = 0;  // of a button: a letter in lower case or a digit
   uint16_t maximumLength = 0;
   uint16_t labels = 0;  // number of the item that this text labels, or 0
   uint16_t mode = 0;    // of a list

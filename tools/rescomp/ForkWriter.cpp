@@ -25,10 +25,22 @@ std::string _Header(size_t dataSize, size_t mapSize) {
 }  // namespace
 
 void ForkWriter::Add(const std::string& type, int16_t id, const ByteWriter& bytes, const Node& source) {
-  const auto [entry, added] = m_resources.try_emplace({type, id}, Resource{bytes.Bytes(), source.Place()});
+  const auto [entry, added] = m_resources.try_emplace({type, id}, Resource{bytes.Bytes(), source.Place(), 0});
   if (!added) {
     source.Fail("'" + type + "' " + std::to_string(id) + " is already defined by " + entry->second.place);
   }
+}
+
+void ForkWriter::AddOfDialog(int16_t dialog, const std::string& type, int16_t id, const ByteWriter& bytes,
+                             const Node& source) {
+  const auto found = m_resources.find({type, id});
+  if (found != m_resources.end() && found->second.dialog != 0) {
+    source.Fail("the dialogs " + std::to_string(dialog) + " and " + std::to_string(found->second.dialog) +
+                " are too near: both have a control with the id " + std::to_string(id) +
+                ", the other being " + found->second.place);
+  }
+  Add(type, id, bytes, source);
+  m_resources[{type, id}].dialog = dialog;
 }
 
 std::string ForkWriter::Serialize() const {

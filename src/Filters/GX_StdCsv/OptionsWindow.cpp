@@ -75,11 +75,23 @@ void _SetFormatTexts(DLGRecord* dialog, const FormatRow& format) {
   SetText(dialog, kPopupLabel, format.popupLabel, false);
 }
 
+// The list leaves the room at its right end to the kinds of file.
+void _NarrowList(DLGRecord* dialog) {
+  constexpr int32_t kGap = 16;
+  Rect list;
+  Rect kinds;
+  GetDialogItemBounds(dialog->dialog, kFirstBlackboardItem, &kinds);
+  if (!GetDialogItemBounds(dialog->dialog, kAssignments, &list)) return;
+  list.right = static_cast<int16_t>(kinds.left - GetDialogWidth(dialog->dialog, kGap));
+  SizeDLGItem(dialog, kAssignments, list);
+}
+
 void _SetUpBlackboardItems(DLGRecord* dialog, const FormatRow& format) {
   for (int32_t item = kStandardFile; item <= kWithoutQuotes; ++item) {
     EnableDLGItem(dialog, item, format.hasUnquotedVariant);
   }
   if (!format.isBlackboard) return;
+  _NarrowList(dialog);
   for (int32_t item = kFirstBlackboardItem; item <= kWithoutQuotes; ++item) ShowDLGItem(dialog, item, true);
   CKSetCheck(dialog, kWithQuotes, 1, 0, false);  // how a new session writes
 }

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <algorithm>
 
@@ -193,10 +194,30 @@ void SetControlFontStyle(ControlRef control, ControlFontStyle style) {
   record->widget->setFont(ui::FontOf(style.font, style.size));
 }
 
-void SetControlLabel(ControlRef control, const std::string& label) {
+void SetControlShortcut(ControlRef control, char letter) {
   ControlRecord* const record = FindControl(control);
-  if (record == nullptr || record->kind == kControlKindRoot) return;
-  record->label = label;
+  if (record == nullptr || _WidgetOf<QAbstractButton>(control) == nullptr) return;
+  record->shortcut = letter;
+  ui::ShowControlText(*record);
+}
+
+char GetControlShortcut(ControlRef control) {
+  const ControlRecord* const record = FindControl(control);
+  return record == nullptr ? '\0' : record->shortcut;
+}
+
+void SetControlLabel(ControlRef control, ControlRef text) {
+  ControlRecord* const record = FindControl(control);
+  ControlRecord* const labelRecord = FindControl(text);
+  auto* const label = _WidgetOf<QLabel>(text);
+  if (record == nullptr || record->kind == kControlKindRoot || (label == nullptr && text != nullptr)) return;
+  record->label.clear();
+  if (label != nullptr) {
+    label->setBuddy(record->widget);
+    ui::ShowControlText(*labelRecord);
+    record->label = labelRecord->text;
+    if (record->label.ends_with(':')) record->label.pop_back();
+  }
   ui::ShowControlText(*record);
 }
 

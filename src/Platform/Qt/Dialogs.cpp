@@ -1,12 +1,17 @@
 #include "Platform/Ui/Dialogs.h"
 
+#include <QApplication>
+#include <QFont>
 #include <QPushButton>
 #include <algorithm>
 
 #include "Platform/Core/CFString.h"
 #include "Platform/Qt/QtControl.h"
 #include "Platform/Qt/QtRegistry.h"
+#include "Platform/Qt/QtScale.h"
+#include "Platform/Qt/QtText.h"
 #include "Platform/Ui/DialogResources.h"
+#include "Platform/Ui/Events.h"
 #include "Platform/Ui/Lists.h"
 
 using ui::DialogItem;
@@ -27,8 +32,8 @@ DialogItem* _ItemOf(DialogRef dialog, int16_t item) {
   return &window->items[static_cast<size_t>(item - 1)];
 }
 
-ControlRef _AddControl(WindowRecord* window, const ItemTemplate& item, int number) {
-  ui::ControlRecord* const control = ui::CreateControl(window, item.kind, item.bounds, number);
+ControlRef _AddControl(WindowRecord* window, const ItemTemplate& item, const Rect& bounds, int number) {
+  ui::ControlRecord* const control = ui::CreateControl(window, item.kind, bounds, number);
   const ControlRef ref = control->ref;
   control->maximum = item.maximum;
   control->reference = item.refCon;
@@ -43,8 +48,9 @@ ControlRef _AddControl(WindowRecord* window, const ItemTemplate& item, int numbe
 void _AddItems(WindowRecord* window, const std::vector<ItemTemplate>& items) {
   for (const ItemTemplate& item : items) {
     const int number = static_cast<int>(window->items.size()) + 1;
+    const Rect bounds = ui::Scaled(item.bounds, window->scale);
     const bool hasControl = item.kind != kControlKindNone;
-    window->items.push_back({item.bounds, hasControl ? _AddControl(window, item, number) : nullptr});
+    window->items.push_back({bounds, hasControl ? _AddControl(window, item, bounds, number) : nullptr});
   }
 }
 
@@ -58,6 +64,19 @@ WindowClass _ClassOfProcID(int16_t procID) {
   }
 }
 
+// The template's place on the screen, as large as the scale wants it.
+Rect _WindowBounds(const Rect& drawn, const ui::Scale& scale) {
+  const Rect size = ui::Scaled({0, 0, RectHeight(drawn), RectWidth(drawn)}, scale);
+  return {drawn.top, drawn.left, ui::ToInt16(drawn.top + size.bottom), ui::ToInt16(drawn.left + size.right)};
+}
+
+// The font for which the dialog is scaled stays its font when the application gets another.
+void _KeepFont(QWidget* window) {
+  QFont font = QApplication::font();
+  font.setResolveMask(QFont::AllPropertiesResolved);
+  window->setFont(font);
+}
+
 }  // namespace
 
 DialogRef GetNewDialog(int16_t id) {
@@ -66,10 +85,16 @@ DialogRef GetNewDialog(int16_t id) {
   const std::optional<std::vector<ItemTemplate>> items = ui::ReadItemList(dialog->itemList);
   if (!items) return nullptr;
   const uint32_t attributes = dialog->goAway ? uint32_t{kWindowCloseBoxAttribute} : 0;
-  const WindowRef ref = CreateNewWindow(_ClassOfProcID(dialog->procID), attributes, dialog->bounds);
+  if (!InitApplication()) return nullptr;
+  const ui::Scale scale = ui::ScaleOfApplicationFont();
+  const WindowRef ref =
+      CreateNewWindow(_ClassOfProcID(dialog->procID), attributes, _WindowBounds(dialog->bounds, scale));
   WindowRecord* const window = ui::FindWindow(ref);
   if (window == nullptr) return nullptr;
   window->isDialog = true;
+  window->scale = scale;
+  _KeepFont(window->widget);
+  if (dialog->isCentred) CenterWindowOnMainScreen(ref);
   SetWTitle(ref, MacRomanToUTF8(dialog->title));
   SetWRefCon(ref, dialog->refCon);
   _AddItems(window, *items);
@@ -132,6 +157,11 @@ void SetDialogItemBounds(DialogRef dialog, int16_t item, const Rect& bounds) {
   if (found == nullptr) return;
   found->bounds = bounds;
   SetControlBounds(found->control, bounds);
+}
+
+int32_t GetDialogWidth(DialogRef dialog, int32_t drawn) {
+  const WindowRecord* const window = _RecordOf(dialog);
+  return window == nullptr ? drawn : ui::ScaledWidth(drawn, window->scale);
 }
 
 int16_t FindDialogItemOfControl(DialogRef dialog, ControlRef control) {

@@ -73,8 +73,10 @@ void DrawThemeText(DrawContext* context, std::string_view text, const Rect& boun
   painter.save();
   painter.setFont(context->option->font);
   painter.setPen(context->option->palette.color(_ColorGroup(*context, state), role));
+  const QString whole = ui::FromMacRoman(text);
   const QString shown =
-      QFontMetrics(painter.font()).elidedText(ui::FromMacRoman(text), Qt::ElideRight, place.width());
+      QFontMetrics(painter.font()).elidedText(whole, Qt::ElideRight, std::max(place.width(), 0));
+  context->isCut = context->isCut || shown != whole;
   painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, shown);
   painter.restore();
 }

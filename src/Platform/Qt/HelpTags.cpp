@@ -1,5 +1,9 @@
 #include "Platform/Ui/HelpTags.h"
 
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QStyle>
+#include <QStyleOption>
 #include <QTextDocument>
 #include <QToolTip>
 #include <algorithm>
@@ -26,7 +30,7 @@ void HelpTags::MouseMoved(QWidget* widget, QPoint position) {
   if (position == m_position && widget == m_widget) return;
   Cancel();
   const ControlRecord* const control = FindControlOf(widget);
-  if (control == nullptr || control->help.empty()) return;
+  if (control == nullptr) return;
   m_widget = widget;
   m_position = position;
   m_timer.start(m_delay);
@@ -38,10 +42,34 @@ void HelpTags::Cancel() {
   m_widget.clear();
 }
 
+namespace {
+
+bool _IsCut(const QComboBox& combo) {
+  QStyleOptionComboBox option;
+  option.initFrom(&combo);
+  option.editable = false;
+  const QRect field =
+      combo.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &combo);
+  return combo.fontMetrics().horizontalAdvance(combo.currentText()) > field.width();
+}
+
+// The whole of a text that the control shows shortened at that place of the screen; else empty.
+QString _CutText(QWidget* control, QPoint position) {
+  if (const auto* const view = qobject_cast<const QAbstractItemView*>(control)) {
+    return view->indexAt(view->viewport()->mapFromGlobal(position)).data(Qt::ToolTipRole).toString();
+  }
+  const auto* const combo = qobject_cast<const QComboBox*>(control);
+  return combo != nullptr && _IsCut(*combo) ? combo->currentText() : QString();
+}
+
+}  // namespace
+
 void HelpTags::Show() {
   const ControlRecord* const control = FindControlOf(m_widget);
   if (control == nullptr || !m_widget->isVisible() || m_widget->window()->isHidden()) return;
-  QString text = control->widget->toolTip();
+  QString text = _CutText(control->widget, m_position);
+  if (text.isEmpty()) text = control->widget->toolTip();
+  if (text.isEmpty()) return;
   if (Qt::mightBeRichText(text)) text = QStringLiteral("<p>") + text.toHtmlEscaped();  // shown literally
   QToolTip::showText(m_position, text, m_widget);
 }

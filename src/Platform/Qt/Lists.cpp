@@ -183,6 +183,11 @@ void LScrollTo(ListRef list, int32_t row) {
   view->scrollTo(view->rows().index(row));
 }
 
+int32_t LGetColumnWidth(ListRef list, int32_t column) {
+  QtListView* const view = ListViewOf(list);
+  return view == nullptr ? 0 : view->rows().ColumnWidth(column, view->font());
+}
+
 int32_t LGetTopRow(ListRef list) {
   QtListView* const view = ListViewOf(list);
   if (view == nullptr) return 0;

@@ -50,7 +50,6 @@ class RadioButton : public QRadioButton {
 QWidget* _MakeLabel(QWidget* parent) {
   auto* const label = new QLabel(parent);
   label->setWordWrap(true);
-  label->setAlignment(Qt::AlignTop | Qt::AlignLeft);
   label->setTextFormat(Qt::PlainText);
   label->setTextInteractionFlags(Qt::NoTextInteraction);
   return label;
@@ -163,22 +162,35 @@ ControlRecord* CreateControl(WindowRecord* window, ControlKind kind, const Rect&
   return control;
 }
 
+namespace {
+
+// One line stands in the middle, as in the controls beside it.
+void _AlignLabel(QLabel* label) {
+  const bool isOneLine = label->height() < 2 * label->fontMetrics().lineSpacing();
+  label->setAlignment((isOneLine ? Qt::AlignVCenter : Qt::AlignTop) | Qt::AlignLeft);
+}
+
+}  // namespace
+
 void PlaceControl(ControlRecord& control, const Rect& bounds) {
   control.bounds = bounds;
   control.widget->setGeometry(bounds.left, bounds.top, std::max(bounds.right - bounds.left, 0),
                               std::max(bounds.bottom - bounds.top, 0));
+  if (auto* const label = qobject_cast<QLabel*>(control.widget.data())) _AlignLabel(label);
 }
 
 namespace {
 
+// A label without a buddy takes no mark for a shortcut.
 void _ShowText(const ControlRecord& control, QString text) {
   QWidget* const widget = control.widget;
   if (auto* const button = qobject_cast<QAbstractButton*>(widget)) {
-    button->setText(Literal(text));
+    button->setText(LiteralWithShortcut(text, control.shortcut));
   } else if (auto* const group = qobject_cast<QGroupBox*>(widget)) {
     group->setTitle(Literal(text));
   } else if (auto* const label = qobject_cast<QLabel*>(widget)) {
-    label->setText(text.replace(QLatin1Char('\r'), QLatin1Char('\n')));
+    text.replace(QLatin1Char('\r'), QLatin1Char('\n'));
+    label->setText(label->buddy() != nullptr ? Literal(text) : text);
   }
 }
 

@@ -12,6 +12,7 @@ struct DrawContext {
   QPainter* painter;
   const QStyleOptionViewItem* option;  // of the row
   const QWidget* widget;               // the list
+  bool isCut = false;                  // a text was shortened
 };
 
 namespace ui {

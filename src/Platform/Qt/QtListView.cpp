@@ -60,6 +60,7 @@ void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
   if (definition == nullptr || definition->draw == nullptr) {
     const DrawState state{selected, m_view->hasFocus(), option.state.testFlag(QStyle::State_Enabled)};
     _DrawPlainRow(&context, m_view->rows().Text(index.row()), bounds, state);
+    m_view->rows().NoteCut(index.row(), context.isCut);
     return;
   }
   painter->save();
@@ -69,16 +70,19 @@ void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     painter->fillRect(option.rect, option.palette.base());
   }
   painter->restore();
+  m_view->rows().NoteCut(index.row(), context.isCut);
 }
 
 void ListRows::Insert(int row) {
   beginInsertRows({}, row, row);
+  m_columnWidths.clear();
   m_rows.emplace(m_rows.begin() + row);
   endInsertRows();
 }
 
 void ListRows::Remove(int row) {
   beginRemoveRows({}, row, row);
+  m_columnWidths.clear();
   m_rows.erase(m_rows.begin() + row);
   endRemoveRows();
 }
@@ -86,7 +90,35 @@ void ListRows::Remove(int row) {
 void ListRows::SetText(int row, std::string_view text) {
   Row& changed = m_rows[static_cast<size_t>(row)];
   changed.text = text;
+  m_columnWidths.clear();
   if (changed.read) Redraw(row);
+}
+
+namespace {
+
+// What lies behind that many tabs, up to the next.
+std::string_view _ColumnOf(std::string_view text, int column) {
+  for (; column > 0; --column) {
+    const size_t tab = text.find('\t');
+    if (tab == std::string_view::npos) return {};
+    text.remove_prefix(tab + 1);
+  }
+  return text.substr(0, text.find('\t'));
+}
+
+}  // namespace
+
+int ListRows::ColumnWidth(int column, const QFont& font) {
+  if (font != m_measuredFont) m_columnWidths.clear();
+  m_measuredFont = font;
+  const auto [known, isNew] = m_columnWidths.try_emplace(column, 0);
+  if (!isNew) return known->second;
+  const QFontMetrics metrics(font);
+  for (const Row& row : m_rows) {
+    const std::string_view text = _ColumnOf(row.text, column);
+    if (!text.empty()) known->second = std::max(known->second, metrics.horizontalAdvance(FromMacRoman(text)));
+  }
+  return known->second;
 }
 
 void ListRows::Redraw(int row) {
@@ -101,14 +133,22 @@ const ListDefinition* ListRows::Definition() const {
   return FindListDefinition(GetListDefinitionID(Ref()));
 }
 
+namespace {
+
+QString _SpokenText(std::string_view text) {
+  return FromMacRoman(text).replace(QLatin1Char('\t'), QLatin1String(", "));
+}
+
+}  // namespace
+
 QVariant ListRows::data(const QModelIndex& index, int role) const {
   if (!index.isValid() || index.row() >= Count()) return {};
   const Row& row = m_rows[static_cast<size_t>(index.row())];
   row.read = true;
   switch (role) {
     case Qt::DisplayRole: return FromMacRoman(row.text);
-    case Qt::AccessibleTextRole:
-      return FromMacRoman(row.text).replace(QLatin1Char('\t'), QLatin1String(", "));
+    case Qt::AccessibleTextRole: return _SpokenText(row.text);
+    case Qt::ToolTipRole: return row.isCut ? QVariant(_SpokenText(row.text)) : QVariant();
     case Qt::CheckStateRole: {
       const ListDefinition* const definition = Definition();
       if (definition == nullptr || !definition->hasChecks || definition->isChecked == nullptr) return {};
@@ -140,6 +180,7 @@ Qt::ItemFlags ListRows::flags(const QModelIndex& index) const {
 
 QtListView::QtListView(QWidget* parent) : QListView(parent), m_rows(this) {
   setModel(&m_rows);
+  viewport()->setMouseTracking(true);  // for the tool tips of rows
   setItemDelegate(new RowDelegate(this));
   setUniformItemSizes(true);
   setSelectionMode(SingleSelection);

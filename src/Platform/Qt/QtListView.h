@@ -5,6 +5,7 @@
 #include <QAbstractListModel>
 #include <QListView>
 #include <deque>
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,6 +25,8 @@ class ListRows : public QAbstractListModel {
   void SetText(int row, std::string_view text);
   const std::string& Text(int row) const { return m_rows[static_cast<size_t>(row)].text; }
   void Redraw(int row);
+  void NoteCut(int row, bool isCut) { m_rows[static_cast<size_t>(row)].isCut = isCut; }
+  int ColumnWidth(int column, const QFont& font);  // of the widest text behind that many tabs
 
   int rowCount(const QModelIndex& parent) const override;
   QVariant data(const QModelIndex& index, int role) const override;
@@ -34,6 +37,7 @@ class ListRows : public QAbstractListModel {
   struct Row {
     std::string text;           // Mac OS Roman
     mutable bool read = false;  // somebody may know the text
+    bool isCut = false;         // is drawn shortened
   };
 
   const ListDefinition* Definition() const;
@@ -41,6 +45,8 @@ class ListRows : public QAbstractListModel {
 
   std::deque<Row> m_rows;
   ControlRef m_control = nullptr;
+  QFont m_measuredFont;
+  std::map<int, int> m_columnWidths;  // those measured since a text changed
 };
 
 class QtListView : public QListView {

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "Platform/Core/MacTypes.h"
+#include "Platform/Qt/QtScale.h"
 #include "Platform/Ui/Controls.h"
 #include "Platform/Ui/Windows.h"
 
@@ -23,6 +24,7 @@ struct ControlRecord {
   Rect bounds;
   std::string text;   // Mac OS Roman; not of edit texts
   std::string label;  // Mac OS Roman
+  char shortcut = 0;  // of a button: a letter or digit, 0 for none
   std::string help;   // Mac OS Roman
   ControlFontStyle fontStyle;
   int32_t maximum = 1;
@@ -53,6 +55,7 @@ struct WindowRecord {
   ControlRef focus = nullptr;
   std::vector<ControlRef> controls;  // the root not included
   bool isDialog = false;
+  Scale scale;  // of a dialog's template
   int16_t defaultItem = 0;
   std::vector<DialogItem> items;
 };

@@ -26,6 +26,12 @@ QString Literal(QString text) {
   return text.replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 
+QString LiteralWithShortcut(const QString& text, char letter) {
+  const qsizetype place = letter == 0 ? -1 : text.indexOf(QLatin1Char(letter), 0, Qt::CaseInsensitive);
+  if (place < 0) return Literal(text);
+  return Literal(text.first(place)) + QLatin1Char('&') + Literal(text.sliced(place));
+}
+
 QFont FontOf(int16_t font, int16_t size) {
   constexpr int16_t kSmallThemeFont = -2;
   constexpr int16_t kSansSerif = 3;

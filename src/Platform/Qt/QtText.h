@@ -16,6 +16,9 @@ QString FromUTF8(std::string_view text);
 // With every "&" doubled, for widgets that take one as the mark of a shortcut.
 QString Literal(QString text);
 
+// The same, but with the mark where the text first has that letter or digit, in either case. 0: nowhere.
+QString LiteralWithShortcut(const QString& text, char letter);
+
 // A size below 1 names a theme font by its absolute value.
 QFont FontOf(int16_t font, int16_t size);
 

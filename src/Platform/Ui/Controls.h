@@ -65,8 +65,14 @@ struct ControlFontStyle {
 ControlFontStyle GetControlFontStyle(ControlRef control);
 void SetControlFontStyle(ControlRef control, ControlFontStyle style);
 
-// The name that assistive technology reads when the control has no title of its own.
-void SetControlLabel(ControlRef control, const std::string& label);
+// A button's letter or digit (ASCII, either case; 0: none), underlined where its title first has it. The
+// program is the one who presses the button for it. Nothing else in a title is such a mark.
+void SetControlShortcut(ControlRef control, char letter);
+char GetControlShortcut(ControlRef control);  // 0: none
+
+// The static text that stands for a control without a title of its own; null: none. Assistive technology
+// reads it as the control's label, and as its name without a colon at the end.
+void SetControlLabel(ControlRef control, ControlRef text);
 
 // The press under way, from DialogEventHandlers::mouseDown: hands it to the control's widget, which then
 // follows the mouse. True when there is something to follow until the button is up. Outside of a press it

@@ -47,6 +47,15 @@ Rect _ReadRect(BigEndianReader& reader) {
   return rect;
 }
 
+constexpr int16_t kCentredOnMainScreen = 0x280A;
+
+// The automatic position, which may be left out.
+int16_t _ReadPosition(BigEndianReader& reader) {
+  int16_t position = 0;
+  reader.AlignToWord();
+  return reader.ReadI16(&position) ? position : int16_t{0};
+}
+
 }  // namespace
 
 std::optional<DialogTemplate> ReadDialogTemplate(int16_t id) {
@@ -65,6 +74,7 @@ std::optional<DialogTemplate> ReadDialogTemplate(int16_t id) {
   if (reader.failed()) return std::nullopt;
   dialog.goAway = goAway != 0;
   dialog.refCon = static_cast<int32_t>(refCon);
+  dialog.isCentred = _ReadPosition(reader) == kCentredOnMainScreen;
   return dialog;
 }
 

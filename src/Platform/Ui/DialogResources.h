@@ -20,7 +20,8 @@ struct DialogTemplate {
   bool goAway = false;
   int16_t itemList = 0;
   int32_t refCon = 0;
-  std::string title;  // Mac OS Roman
+  std::string title;       // Mac OS Roman
+  bool isCentred = false;  // on the main screen, wherever the bounds are
 };
 
 // An item with all that its own control resource adds to it.

@@ -11,6 +11,9 @@ using DialogRef = OpaqueDialog*;
 
 // The dialog of that 'DLOG', hidden and in front; null, with nothing left behind, when a resource is missing,
 // cut short or names an item that does not exist. The caller disposes it.
+//
+// Where the application's font is larger than the one that resources are drawn for, the window and its items
+// are made larger than their resources say, and keep that font.
 DialogRef GetNewDialog(int16_t id);
 void DisposeDialog(DialogRef dialog);  // with its window and controls; null is ignored
 
@@ -28,6 +31,7 @@ void ShortenDITL(DialogRef dialog, int16_t itemCount);  // removes that many ite
 ControlRef GetDialogItemAsControl(DialogRef dialog, int16_t item);
 bool GetDialogItemBounds(DialogRef dialog, int16_t item, Rect* bounds);
 void SetDialogItemBounds(DialogRef dialog, int16_t item, const Rect& bounds);
+int32_t GetDialogWidth(DialogRef dialog, int32_t drawn);  // what a width of its resources is in the dialog
 int16_t FindDialogItemOfControl(DialogRef dialog, ControlRef control);  // 0 when it is none of its items
 
 // The item drawn as the one that Return presses; 0 or -1: none.

@@ -57,6 +57,8 @@ void LClearSelection(ListRef list);
 void LSetDrawingMode(ListRef list, bool on);  // off: changes do not show until it is on again
 void LDraw(ListRef list, int32_t row);        // one row again; -1: all
 void LScrollTo(ListRef list, int32_t row);    // as far as needed for the row to show
+// Of the widest text behind that many tabs in any row; 0 when there is none.
+int32_t LGetColumnWidth(ListRef list, int32_t column);
 int32_t LGetTopRow(ListRef list);
 int32_t LGetVisibleRowCount(ListRef list);      // whole rows that fit; at least 1
 int32_t LRowAt(ListRef list, Point where);      // window co-ordinates; -1: below the rows or outside

@@ -425,6 +425,17 @@ TEST_F(ListTest, ADoubleClickActivatesASingleSelectionList) {
   EXPECT_EQ(Record(kDemoList)->activated, 0);
 }
 
+TEST_F(ListTest, ADoubleClickInTheScrollBarChecksNothing) {
+  FillNumbers(kDemoCheckList, 50);
+  const Rect bounds = GetControlBounds(DLGGetChildControl(m_dialog, kDemoCheckList));
+  const Point inScrollBar{static_cast<int16_t>(bounds.bottom - 25), static_cast<int16_t>(bounds.right - 6)};
+  ASSERT_TRUE(LIsInScrollBar(List(kDemoCheckList), inScrollBar));
+  for (const bool doubleClick : {false, true}) ClickAt(m_dialog, inScrollBar, doubleClick);
+  EXPECT_EQ(Checks(kDemoCheckList, 50), std::vector<int32_t>(50, 0));
+  EXPECT_EQ(LBGetSelect(m_dialog, kDemoCheckList), -1);
+  EXPECT_GT(LGetTopRow(List(kDemoCheckList)), 0);
+}
+
 TEST_F(ListTest, AssistiveTechnologyChecksLikeAClick) {
   Fill(kDemoCheckList, {"a", "b"});
   const ListRef list = List(kDemoCheckList);

@@ -45,7 +45,10 @@ TEST(TabOrder, WrapsAndPassesOverWhatTakesNoFocus) {
     EXPECT_EQ(DLGNextTabStop(items.data(), 5, walk.from, walk.direction), walk.expected)
         << "from " << walk.from << ", direction " << walk.direction;
   }
-  items[4].flags = 0;
+  items[1].flags = items[5].flags = kStop;
+  EXPECT_EQ(DLGNextTabStop(items.data(), 5, 1, -1), 5) << "from the first to the last";
+  EXPECT_EQ(DLGNextTabStop(items.data(), 5, 5, 1), 1) << "and back";
+  items[1].flags = items[4].flags = items[5].flags = 0;
   EXPECT_EQ(DLGNextTabStop(items.data(), 5, 2, 1), 2) << "the only stop keeps the focus";
   items[2].flags = 0;
   EXPECT_EQ(DLGNextTabStop(items.data(), 5, 0, 1), 0) << "no stop at all";

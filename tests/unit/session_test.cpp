@@ -12,7 +12,7 @@
 
 #include "Filters/GX_StdCsv/CommaSeparatedLine.h"
 #include "Filters/GX_StdCsv/FilterState.h"
-#include "Filters/GX_StdCsv/GradeColumns.h"
+#include "Filters/GX_StdCsv/ResultsJoin.h"
 #include "Filters/GX_StdCsv/RosterCheck.h"
 #include "Filters/GX_StdCsv/SessionMgr.h"
 #include "Filters/GX_StdCsv/formats/Canvas.h"

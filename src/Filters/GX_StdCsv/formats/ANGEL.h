@@ -4,15 +4,18 @@
 
 #include "Filters/GX_StdCsv/GradebookSession.h"
 
-class SessionANGEL : public GradebookSession {
- public:
-  using GradebookSession::GradebookSession;
+inline constexpr GradebookColumn kANGELStudent[] = {
+    {.title = "Name", .cell = "{last-name}, {first-name}", .quotes = Quotes::kCells},
+    {.title = "User ID", .cell = "{identifier}"},
+};
 
- private:
-  void WriteHeader(std::FILE* file, const Columns& columns) override;
-  void WriteStudent(std::FILE* file, const qz::StudentRecord& student) override;
-  void WriteScore(std::FILE* file, const qz::AssignmentRecord& assignment,
-                  std::optional<double> points) override;
+inline constexpr GradebookLayout kANGEL = {
+    .leading = kANGELStudent,
+    .score = {.title = "{name}", .cell = "{percent}", .quotes = Quotes::kTitle},
+};
+
+class SessionANGEL final : public LayoutSession<kANGEL> {
+  using LayoutSession::LayoutSession;
 };
 
 #endif  // GRADIX_FORMATS_ANGEL_H

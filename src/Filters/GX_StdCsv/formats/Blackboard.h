@@ -4,39 +4,64 @@
 
 #include "Filters/GX_StdCsv/GradebookSession.h"
 
-// Blackboard 6.0 - 7.0.
-class SessionBlackboard : public GradebookSession {
- public:
-  using GradebookSession::GradebookSession;
+// As Blackboard writes it itself.
+inline constexpr GradebookColumn kBlackboardScore = {
+    .title = "{name} [Pts: {points-possible} Weight:: 0% Category:: Quiz]",
+    .cell = "{points}",
+    .quotes = Quotes::kBoth};
+inline constexpr GradebookColumn kBlackboardTotal = {
+    .title = "Running Total [Pts: {points-possible}]", .cell = "{running-total}", .quotes = Quotes::kBoth};
 
- private:
-  void WriteHeader(std::FILE* file, const Columns& columns) override;
-  void WriteStudent(std::FILE* file, const qz::StudentRecord& student) override;
-  void WriteScore(std::FILE* file, const qz::AssignmentRecord& assignment,
-                  std::optional<double> points) override;
-  void WriteRowEnd(std::FILE* file, double runningTotal) override;
+// This generation wants no student id behind the bar.
+inline constexpr GradebookColumn kBlackboardStudent[] = {{
+    .title = "Last Name, First Name (User Name) | Student Id",
+    .cell = "{last-name}, {first-name} ({identifier}) | ",
+    .quotes = Quotes::kBoth,
+}};
+inline constexpr GradebookColumn kBlackboardTotals[] = {
+    kBlackboardTotal,
+    {.title = "Running Weighted Total", .cell = "Not Applicable", .quotes = Quotes::kBoth},
 };
 
-// Blackboard 8.0 - 9.0, with or without quotes.
-class SessionBlackboard9 : public GradebookSession {
- public:
-  using GradebookSession::GradebookSession;
-
- private:
-  void WriteHeader(std::FILE* file, const Columns& columns) override;
-  void WriteStudent(std::FILE* file, const qz::StudentRecord& student) override;
-  void WriteScore(std::FILE* file, const qz::AssignmentRecord& assignment,
-                  std::optional<double> points) override;
-  void WriteRowEnd(std::FILE* file, double runningTotal) override;
-
-  // The mark around every cell.
-  const char* Quote() const { return m_bUseQuotes ? "\"" : ""; }
+inline constexpr GradebookLayout kBlackboard = {
+    .leading = kBlackboardStudent,
+    .score = kBlackboardScore,
+    .noScore = "-",
+    .trailing = kBlackboardTotals,
 };
 
-// Blackboard Learn 9.1: the same file under a name of its own.
-class SessionBlackboard91 : public SessionBlackboard9 {
- public:
-  using SessionBlackboard9::SessionBlackboard9;
+inline constexpr GradebookColumn kBlackboard9Student[] = {
+    {.title = "Last Name", .cell = "{last-name}", .quotes = Quotes::kBoth},
+    {.title = "First Name", .cell = "{first-name}", .quotes = Quotes::kBoth},
+    {.title = "Username", .cell = "{identifier}", .quotes = Quotes::kBoth},
+    {.title = "Student ID", .cell = "{student-id}", .quotes = Quotes::kBoth},
+    {.title = "Last Access", .cell = "", .quotes = Quotes::kBoth},
+    {.title = "Availability", .cell = "Yes", .quotes = Quotes::kBoth},
+    {.title = "Weighted Total", .cell = "Not Applicable", .quotes = Quotes::kBoth},
+};
+inline constexpr GradebookColumn kBlackboard9Totals[] = {kBlackboardTotal};
+
+inline constexpr GradebookLayout kBlackboard9 = {
+    .leading = kBlackboard9Student,
+    .score = kBlackboardScore,
+    .noScore = "-",
+    .trailing = kBlackboard9Totals,
+    .quotesAreOptional = true,
+};
+
+// 6.0 - 7.0.
+class SessionBlackboard final : public LayoutSession<kBlackboard> {
+  using LayoutSession::LayoutSession;
+};
+
+// 8.0 - 9.0.
+class SessionBlackboard9 final : public LayoutSession<kBlackboard9> {
+  using LayoutSession::LayoutSession;
+};
+
+// Learn 9.1: the same file under a name of its own.
+class SessionBlackboard91 final : public LayoutSession<kBlackboard9> {
+  using LayoutSession::LayoutSession;
 };
 
 #endif  // GRADIX_FORMATS_BLACKBOARD_H

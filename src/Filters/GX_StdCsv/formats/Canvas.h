@@ -1,16 +1,23 @@
-// The gradebook file of Canvas.
+// The gradebook file of Canvas: two header lines, and a section that stays empty.
 #ifndef GRADIX_FORMATS_CANVAS_H
 #define GRADIX_FORMATS_CANVAS_H
 
 #include "Filters/GX_StdCsv/GradebookSession.h"
 
-class SessionCanvas : public GradebookSession {
- public:
-  using GradebookSession::GradebookSession;
+inline constexpr GradebookColumn kCanvasStudent[] = {
+    {.title = "Student", .cell = "{first-name} {last-name}", .quotes = Quotes::kCells},
+    {.title = "ID", .cell = "{identifier}"},
+    {.title = "Section", .cell = ""},
+};
 
- private:
-  void WriteHeader(std::FILE* file, const Columns& columns) override;
-  void WriteStudent(std::FILE* file, const qz::StudentRecord& student) override;
+inline constexpr GradebookLayout kCanvas = {
+    .leading = kCanvasStudent,
+    .score = {.title = "{name}", .cell = "{points}"},
+    .pointsPossibleTitle = "Points Possible",
+};
+
+class SessionCanvas final : public LayoutSession<kCanvas> {
+  using LayoutSession::LayoutSession;
 };
 
 #endif  // GRADIX_FORMATS_CANVAS_H

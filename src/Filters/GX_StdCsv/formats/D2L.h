@@ -4,14 +4,18 @@
 
 #include "Filters/GX_StdCsv/GradebookSession.h"
 
-class SessionD2L : public GradebookSession {
- public:
-  using GradebookSession::GradebookSession;
+inline constexpr GradebookColumn kD2LStudent[] = {{.title = "OrgDefinedId", .cell = "{identifier}"}};
+inline constexpr GradebookColumn kD2LEnd[] = {{.title = "End-of-Line Indicator", .cell = "#"}};
 
- private:
-  void WriteHeader(std::FILE* file, const Columns& columns) override;
-  void WriteStudent(std::FILE* file, const qz::StudentRecord& student) override;
-  void WriteRowEnd(std::FILE* file, double runningTotal) override;
+inline constexpr GradebookLayout kD2L = {
+    .leading = kD2LStudent,
+    .score = {.title = "{name} Points Grade", .cell = "{points}"},
+    .trailing = kD2LEnd,
+    .titleSeparator = ", ",
+};
+
+class SessionD2L final : public LayoutSession<kD2L> {
+  using LayoutSession::LayoutSession;
 };
 
 #endif  // GRADIX_FORMATS_D2L_H

@@ -6,8 +6,8 @@
 #include "Common/KeyIndex.h"
 #include "Common/QZData/StudentFields.h"
 #include "Filters/GX_StdCsv/CommaSeparatedLine.h"
-#include "Filters/GX_StdCsv/CsvText.h"
-#include "Filters/GX_StdCsv/GradeColumns.h"
+#include "Filters/GX_StdCsv/CsvOutput.h"
+#include "Filters/GX_StdCsv/ResultsJoin.h"
 
 namespace {
 

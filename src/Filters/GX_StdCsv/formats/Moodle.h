@@ -4,13 +4,15 @@
 
 #include "Filters/GX_StdCsv/GradebookSession.h"
 
-class SessionMoodle : public GradebookSession {
- public:
-  using GradebookSession::GradebookSession;
+inline constexpr GradebookColumn kMoodleStudent[] = {{.title = "User ID", .cell = "{identifier}"}};
 
- private:
-  void WriteHeader(std::FILE* file, const Columns& columns) override;
-  void WriteStudent(std::FILE* file, const qz::StudentRecord& student) override;
+inline constexpr GradebookLayout kMoodle = {
+    .leading = kMoodleStudent,
+    .score = {.title = "{name}", .cell = "{points}"},
+};
+
+class SessionMoodle final : public LayoutSession<kMoodle> {
+  using LayoutSession::LayoutSession;
 };
 
 #endif  // GRADIX_FORMATS_MOODLE_H

@@ -1,16 +1,21 @@
-// The gradebook file of Sakai.
+// The gradebook file of Sakai: points possible in the titles.
 #ifndef GRADIX_FORMATS_SAKAI_H
 #define GRADIX_FORMATS_SAKAI_H
 
 #include "Filters/GX_StdCsv/GradebookSession.h"
 
-class SessionSakai : public GradebookSession {
- public:
-  using GradebookSession::GradebookSession;
+inline constexpr GradebookColumn kSakaiStudent[] = {
+    {.title = "Student ID", .cell = "{identifier}"},
+    {.title = "Student Name", .cell = "{last-name} {first-name}", .quotes = Quotes::kCells},
+};
 
- private:
-  void WriteHeader(std::FILE* file, const Columns& columns) override;
-  void WriteStudent(std::FILE* file, const qz::StudentRecord& student) override;
+inline constexpr GradebookLayout kSakai = {
+    .leading = kSakaiStudent,
+    .score = {.title = "{name} [{points-possible}]", .cell = "{points}"},
+};
+
+class SessionSakai final : public LayoutSession<kSakai> {
+  using LayoutSession::LayoutSession;
 };
 
 #endif  // GRADIX_FORMATS_SAKAI_H

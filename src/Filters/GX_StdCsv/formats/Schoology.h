@@ -1,16 +1,18 @@
-// The gradebook file of Schoology: Moodle's layout under another title.
+// The gradebook file of Schoology.
 #ifndef GRADIX_FORMATS_SCHOOLOGY_H
 #define GRADIX_FORMATS_SCHOOLOGY_H
 
-#include "Filters/GX_StdCsv/formats/Moodle.h"
+#include "Filters/GX_StdCsv/GradebookSession.h"
 
-// A Moodle file but for its first cell.
-class SessionSchoology : public SessionMoodle {
- public:
-  using SessionMoodle::SessionMoodle;
+inline constexpr GradebookColumn kSchoologyStudent[] = {{.title = "User Unique ID", .cell = "{identifier}"}};
 
- private:
-  void WriteHeader(std::FILE* file, const Columns& columns) override;
+inline constexpr GradebookLayout kSchoology = {
+    .leading = kSchoologyStudent,
+    .score = {.title = "{name}", .cell = "{points}"},
+};
+
+class SessionSchoology final : public LayoutSession<kSchoology> {
+  using LayoutSession::LayoutSession;
 };
 
 #endif  // GRADIX_FORMATS_SCHOOLOGY_H

@@ -4,15 +4,21 @@
 
 #include "Filters/GX_StdCsv/GradebookSession.h"
 
-class SessionWebCT : public GradebookSession {
- public:
-  using GradebookSession::GradebookSession;
+inline constexpr GradebookColumn kWebCTStudent[] = {
+    {.title = "Last Name", .cell = "{last-name}", .quotes = Quotes::kCells},
+    {.title = "First Name", .cell = "{first-name}", .quotes = Quotes::kCells},
+    {.title = "User ID", .cell = "{identifier}", .quotes = Quotes::kCells},
+    {.title = "Role", .cell = "Student"},
+};
 
- private:
-  void WriteHeader(std::FILE* file, const Columns& columns) override;
-  void WriteStudent(std::FILE* file, const qz::StudentRecord& student) override;
-  void WriteScore(std::FILE* file, const qz::AssignmentRecord& assignment,
-                  std::optional<double> points) override;
+inline constexpr GradebookLayout kWebCT = {
+    .leading = kWebCTStudent,
+    .score = {.title = "{name}", .cell = "{points}", .quotes = Quotes::kTitle},
+    .noScore = " ",
+};
+
+class SessionWebCT final : public LayoutSession<kWebCT> {
+  using LayoutSession::LayoutSession;
 };
 
 #endif  // GRADIX_FORMATS_WEBCT_H

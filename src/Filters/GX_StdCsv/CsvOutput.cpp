@@ -1,4 +1,4 @@
-#include "Filters/GX_StdCsv/CsvText.h"
+#include "Filters/GX_StdCsv/CsvOutput.h"
 
 #include <array>
 #include <charconv>

@@ -173,7 +173,7 @@ TEST_F(ClassTest, LoaderReadsOneFileAtATime) {
   ASSERT_TRUE(QTest::qWaitFor([&loader] { return !loader.IsLoading(); }, 30000));
   EXPECT_TRUE(inMainThread);
   ASSERT_NE(result.openClass, nullptr);
-  EXPECT_EQ(result.openClass->scores.size(), 12U);
+  EXPECT_EQ(result.openClass->record.assignments.size(), 12U);
 }
 
 TEST_F(ClassTest, LoaderMayGoWhileReading) {

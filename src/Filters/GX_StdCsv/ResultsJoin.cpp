@@ -39,6 +39,13 @@ ScoreTable::ScoreTable(const std::vector<qz::StudentRecord>& students,
   for (const qz::AssignmentRecord* assignment : assignments) Add(*assignment, position++);
 }
 
+std::optional<double> ScoreTable::Find(size_t position, size_t assignment) const {
+  const Score* score = First(position);
+  while (score != nullptr && score->assignment < assignment) score = Next(*score);
+  if (score == nullptr || score->assignment != assignment) return std::nullopt;
+  return score->points;
+}
+
 // Sums in the stored order of the results, which is their order in memory.
 void ScoreTable::Add(const qz::AssignmentRecord& assignment, size_t position) {
   for (const qz::ResultsRecord& results : assignment.results) {

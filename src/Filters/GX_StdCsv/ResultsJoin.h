@@ -4,6 +4,8 @@
 #define GRADIX_RESULTSJOIN_H
 
 #include <cstddef>
+#include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "Common/KeyIndex.h"
@@ -38,6 +40,7 @@ class ScoreTable {
     size_t next;
   };
 
+  ScoreTable() : ScoreTable({}, {}) {}  // of nobody
   ScoreTable(const std::vector<qz::StudentRecord>& students,
              const std::vector<const qz::AssignmentRecord*>& assignments);
 
@@ -45,6 +48,9 @@ class ScoreTable {
   // at the end. `position` is that in the roster.
   const Score* First(size_t position) const { return At(m_chains[m_roster.NumberAt(position)].first); }
   const Score* Next(const Score& score) const { return At(score.next); }
+
+  // The student's points on one assignment, nothing without results. Goes through the student's scores.
+  std::optional<double> Find(size_t position, size_t assignment) const;
 
  private:
   static constexpr size_t kEnd = RosterIndex::kNone;

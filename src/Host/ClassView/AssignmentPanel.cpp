@@ -91,8 +91,9 @@ void AssignmentPanel::ShowSelected() {
   if (m_class != nullptr && selected >= 0) {
     const auto position = static_cast<size_t>(selected);
     const int pointsPossible = m_class->record.assignments[position].pointsPossible;
-    ShowFigures(m_class->scores[position], pointsPossible);
-    m_histogram->SetHistogram(ComputeHistogram(m_class->scores[position], pointsPossible));
+    const Scores scores = m_class->ScoresOn(position);
+    ShowFigures(scores, pointsPossible);
+    m_histogram->SetHistogram(ComputeHistogram(scores, pointsPossible));
   }
   if (m_selected) m_selected(selected);
 }

@@ -6,8 +6,7 @@
 #include <cstring>
 #include <new>
 #include <utility>
-
-#include "Filters/GX_StdCsv/GradeColumns.h"
+#include <vector>
 
 namespace host {
 
@@ -19,14 +18,22 @@ std::shared_ptr<const OpenClass> _Opened(const QString& path, ClassFile* file) {
   openClass->name = QString::fromStdString(file->name);
   if (openClass->name.isEmpty()) openClass->name = QFileInfo(path).completeBaseName();
   openClass->record = std::move(file->record);
-  const RosterIndex roster(openClass->record.students);
+  std::vector<const qz::AssignmentRecord*> assignments;
   for (const qz::AssignmentRecord& assignment : openClass->record.assignments) {
-    openClass->scores.push_back(roster.FindTotals(assignment));
+    assignments.push_back(&assignment);
   }
+  openClass->scores = ScoreTable(openClass->record.students, assignments);
   return openClass;
 }
 
 }  // namespace
+
+Scores OpenClass::ScoresOn(size_t assignment) const {
+  Scores found;
+  found.reserve(record.students.size());
+  for (size_t i = 0; i < record.students.size(); ++i) found.push_back(scores.Find(i, assignment));
+  return found;
+}
 
 ReadResult ReadClass(const QString& path) {
   ReadResult result;

@@ -4,10 +4,10 @@
 
 #include <QString>
 #include <memory>
-#include <vector>
 
 #include "Common/QZData/QZClass.h"
 #include "Export/ClassFile.h"
+#include "Filters/GX_StdCsv/ResultsJoin.h"
 #include "Host/ClassView/Statistics.h"
 
 namespace host {
@@ -16,7 +16,9 @@ struct OpenClass {
   QString path;  // absolute
   QString name;  // the class's; the file's base name when it has none
   qz::ClassRecord record;
-  std::vector<Scores> scores;  // by assignment
+  ScoreTable scores;  // on all assignments
+
+  Scores ScoresOn(size_t assignment) const;
 };
 
 struct ReadResult {

@@ -59,7 +59,7 @@ QVariant ClassTableModel::data(const QModelIndex& index, int role) const {
 
 QVariant ClassTableModel::PointsData(size_t student, size_t assignment, int role) const {
   if (role == Qt::TextAlignmentRole) return int{Qt::AlignRight | Qt::AlignVCenter};
-  const std::optional<double>& points = m_class->scores[assignment][student];
+  const std::optional<double> points = m_class->scores.Find(student, assignment);
   switch (role) {
     case Qt::DisplayRole: return points ? PointsText(*points) : QStringLiteral("—");
     case Qt::AccessibleTextRole: return points ? PointsText(*points) : Text(TextID::kNoResult);

@@ -98,6 +98,14 @@ TEST(DetailedReport, WritesStudentColumnsInItsOwnOrder) {
   }
 }
 
+TEST(Responses, AreFoundByQuestionAndBank) {
+  const qz::AssignmentRecord quiz = SmallClass().assignments[1];
+  const qz::ResponseRecord* response = quiz.results[0].FindResponseForQuestion(quiz.questions[1]);
+  ASSERT_NE(response, nullptr);
+  EXPECT_EQ(response->text, "A");
+  EXPECT_EQ(quiz.results[0].FindResponseForQuestion(Question(12, 4, "", 0)), nullptr);
+}
+
 TEST(DetailedReport, MarksResponsesOfFullPoints) {
   struct {
     double earned, possible;

@@ -6,6 +6,7 @@ from __future__ import annotations
 
 import argparse
 import collections
+import json
 import random
 import subprocess
 import sys
@@ -47,7 +48,7 @@ def gradebook_run(r: random.Random, record: ClassRecord, key: str) -> Run:
         some = r.sample(record.assignments, r.randrange(1, len(record.assignments) + 1))
         options.assignments = [assignment.id for assignment in some]
         arguments += [word for number in options.assignments for word in ("-a", str(number))]
-    if key in ("blackboard8", "blackboard91") and r.random() < 0.5:
+    if key in gxmodel.UNQUOTED and r.random() < 0.5:
         options.quotes = False
         arguments.append("--no-quotes")
     return arguments, 0, gxmodel.export(record, key, options)
@@ -70,6 +71,14 @@ def gxexport(path: str, arguments: list[str], file: Path, piped: bool) -> tuple[
     except subprocess.TimeoutExpired as late:
         return -1, late.stdout or b"", b"no answer in 60 seconds"
     return done.returncode, done.stdout, done.stderr
+
+
+def check_formats(path: str) -> None:
+    """The model has to know every format that there is, and which of them can do without quotes."""
+    formats = json.loads(subprocess.check_output([path, "formats", "--json"], timeout=60))
+    unquoted = {row["key"] for row in formats if row["hasUnquotedVariant"]}
+    if ({row["key"] for row in formats}, unquoted) != ({*GRADEBOOKS, "detailed"}, gxmodel.UNQUOTED):
+        sys.exit(f"the formats are not those of the model: {formats}")
 
 
 def keep(stem: Path, files: dict[str, bytes]) -> None:
@@ -107,6 +116,7 @@ def main() -> int:
     parser.add_argument("--seed", metavar="S", help="repeats an earlier run")
     parser.add_argument("--keep", type=Path, metavar="DIR", help="where the files of a mismatch go")
     asked = parser.parse_args()
+    check_formats(asked.gxexport)
     seed = asked.seed or str(random.SystemRandom().randrange(10**9))
     print(f"seed {seed}", flush=True)
     kept = asked.keep or Path(tempfile.gettempdir()) / f"gxcompare-{seed}"

@@ -276,6 +276,7 @@ GRADEBOOKS = {
     "sakai": Gradebook("student-id", b"Student ID,Student Name", b",%(name)b [%(points)d]", b"",
                        b'%(user)b,"%(last-name)b %(first-name)b"'),
 }
+UNQUOTED = {"blackboard8", "blackboard91"}     # can do without quotes
 
 
 def safe(text: bytes) -> bytes:
@@ -360,7 +361,7 @@ def export(record: ClassRecord, key: str, options: Options) -> bytes:
     else:
         book = GRADEBOOKS[key]
         user_field = options.user_field or book.user_field
-        if not options.quotes and key in ("blackboard8", "blackboard91"):
+        if not options.quotes and key in UNQUOTED:
             book = Gradebook(user_field, *(part.replace(b'"', b"") for part in book[1:]))
         lines = _gradebook(book, chosen, record.students, user_field, key == "angel")
     return b"".join(line + b"\n" for line in lines)

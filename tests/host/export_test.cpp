@@ -17,7 +17,7 @@ namespace {
 QPointer<QDialog> gDialog;
 
 // As the filter does it: a window of its own.
-void ShowDialog() {
+void _ShowDialog() {
   gDialog = new QDialog;
   gDialog->show();
 }
@@ -81,7 +81,7 @@ class ExportRunTest : public HostTest {
               ++m_finished;
               m_result = result;
             }) {
-    m_fake->showDialog = ShowDialog;
+    m_fake->showDialog = _ShowDialog;
     m_request.formatIndex = 1;
     m_request.assignmentID = -7;
     m_request.classPath = QStringLiteral("/classes/Año.xml");
@@ -169,7 +169,7 @@ TEST_F(ExportRunTest, FilterRefuses) {
 TEST_F(ExportRunTest, DialogMayComeLater) {
   m_fake->showDialog = nullptr;
   ASSERT_EQ(Start(), StartResult::kStarted);
-  QTimer::singleShot(60, &m_window, ShowDialog);
+  QTimer::singleShot(60, &m_window, _ShowDialog);
   ASSERT_TRUE(QTest::qWaitFor([this] { return m_run.Dialog() != nullptr; }));
   EXPECT_EQ(m_finished, 0);
   gDialog->close();
@@ -254,8 +254,8 @@ class SaveChooserTest : public HostTest {
     });
   }
 
-  static std::optional<QString> Choose(const QString& classPath = {}) {
-    return ChooseSaveFile(nullptr, QStringLiteral("Quiz 1 - Canvas.csv"), QStringLiteral("csv"), classPath);
+  static std::optional<QString> Choose(const QStringList& classPaths = {}) {
+    return ChooseSaveFile(nullptr, QStringLiteral("Quiz 1 - Canvas.csv"), QStringLiteral("csv"), classPaths);
   }
 };
 
@@ -309,7 +309,7 @@ TEST_F(SaveChooserTest, RefusesTheClassUnderEveryName) {
       WhenVisible("saveChooser", [](QWidget* window) { ClickButton(window, TextID::kCancel); });
       ClickButton(message, TextID::kOk);
     });
-    EXPECT_EQ(Choose(PathOf("class.xml")), std::nullopt);
+    EXPECT_EQ(Choose({PathOf("gone.xml"), PathOf("class.xml")}), std::nullopt);
     EXPECT_TRUE(told);
   }
 }

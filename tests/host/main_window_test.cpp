@@ -28,7 +28,7 @@ namespace {
 
 QPointer<QDialog> gOptions;
 
-void ShowOptions() {
+void _ShowOptions() {
   gOptions = new QDialog;
   gOptions->setAttribute(Qt::WA_DeleteOnClose);
   gOptions->show();
@@ -41,7 +41,7 @@ class MainWindowTest : public HostTest {
   void SetUp() override {
     HostTest::SetUp();
     qputenv("GRADIX_FILTER", m_module);
-    m_fake->showDialog = ShowOptions;
+    m_fake->showDialog = _ShowOptions;
     m_window.show();
     m_window.LoadFilter();
     m_menu = m_window.findChild<QMenu*>(QStringLiteral("exportMenu"));
@@ -72,12 +72,12 @@ class MainWindowTest : public HostTest {
     });
   }
 
-  // As the filter's dialog does it. Gives the chosen path.
+  // As the filter's dialog does it. Gives the chosen path; empty when none was chosen.
   std::string AskForFile() {
     char path[QZFILTER_PATH_SIZE] = "";
-    EXPECT_EQ(m_fake->begin.chooseFile(reinterpret_cast<void*>(gOptions->winId()), 0, path, sizeof path,
-                                       m_fake->begin.chooseFileValue),
-              0);
+    const int32_t status = m_fake->begin.chooseFile(reinterpret_cast<void*>(gOptions->winId()), 0, path,
+                                                    sizeof path, m_fake->begin.chooseFileValue);
+    EXPECT_EQ(status, path[0] != '\0' ? 0 : 1);
     return path;
   }
 
@@ -158,6 +158,25 @@ TEST_F(MainWindowTest, SaysWhatBecameOfAnExport) {
     EXPECT_EQ(m_window.statusBar()->currentMessage(), Text(row.status));
     delete message;
   }
+}
+
+// The class that is exported, and the one that was opened since.
+TEST_F(MainWindowTest, ProtectsTheOpenClasses) {
+  for (const char* name : {"first.xml", "second.xml"}) {
+    ASSERT_TRUE(QFile::copy(QStringLiteral(SAMPLES "/village-school.xml"), PathOf(name)));
+    ASSERT_TRUE(Open(PathOf(name)));
+    if (gOptions == nullptr) Format(0)->trigger();
+  }
+  for (const char* name : {"first.xml", "second.xml"}) {
+    SaveAs(name);
+    WhenVisible("message", [name](QWidget* message) {
+      EXPECT_TRUE(static_cast<QMessageBox*>(message)->text().contains(QLatin1String(name)));
+      WhenVisible("saveChooser", [](QWidget* window) { ClickButton(window, TextID::kCancel); });
+      ClickButton(message, TextID::kOk);
+    });
+    EXPECT_EQ(AskForFile(), "");
+  }
+  delete gOptions;
 }
 
 TEST_F(MainWindowTest, TellsThatAnExportCouldNotBegin) {

@@ -51,7 +51,7 @@ void ExportController::ShowLoadError(const QString& path, const FilterLoadError&
 void ExportController::Export(const ExportFormat& format, const OpenClass& openClass, size_t assignment) {
   if (m_filter == nullptr || IsRunning()) return;
   const qz::AssignmentRecord& row = openClass.record.assignments[assignment];
-  m_classPath = openClass.path;
+  m_exportedClassPath = openClass.path;
   m_extension = format.extension;
   m_proposedName = ProposedFileName(LineFromRoman(row.name), format.name, format.extension);
   ExportRequest request;
@@ -86,7 +86,8 @@ void ExportController::ShowStartError(StartResult result, const ExportFormat& fo
 }
 
 std::optional<QString> ExportController::ChooseFile(QWidget* dialog) {
-  return ChooseSaveFile(dialog != nullptr ? dialog : m_window, m_proposedName, m_extension, m_classPath);
+  return ChooseSaveFile(dialog != nullptr ? dialog : m_window, m_proposedName, m_extension,
+                        {m_openClassPath, m_exportedClassPath});
 }
 
 void ExportController::RunFinished(const RunResult& result) {

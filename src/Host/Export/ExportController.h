@@ -30,6 +30,9 @@ class ExportController : public QObject {
   // Exports in a format of Formats() with the assignment selected. Tells the user when that fails.
   void Export(const ExportFormat& format, const OpenClass& openClass, size_t assignment);
 
+  // Told of the class that is shown, which no export may replace.
+  void ClassOpened(const QString& path) { m_openClassPath = path; }
+
   // Asks the dialog of the run under way to close and brings it to the front when it does not.
   void CloseDialog();
 
@@ -47,7 +50,8 @@ class ExportController : public QObject {
   std::function<void(const QString&)> m_stateChanged;
   std::unique_ptr<FilterModule> m_filter;
   std::vector<ExportFormat> m_formats;
-  QString m_classPath;  // of the class that is exported
+  QString m_openClassPath;
+  QString m_exportedClassPath;  // another one when a class was opened meanwhile
   QString m_proposedName;
   QString m_extension;
   QList<QPointer<ResultWindow>> m_results;

@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QSettings>
 #include <QStandardPaths>
+#include <algorithm>
 #include <filesystem>
 #include <system_error>
 
@@ -54,12 +55,13 @@ bool _IsSameFile(const QString& path, const QString& other) {
                                      QFileInfo(other).filesystemAbsoluteFilePath(), error);
 }
 
-bool _MayWrite(QWidget* parent, const QString& path, const QString& classPath) {
+bool _MayWrite(QWidget* parent, const QString& path, const QStringList& classPaths) {
   if (!FitsIntoPath(path)) {
     AskToConfirm(parent, Text(TextID::kPathTooLong), Text(TextID::kPathTooLongAdvice).arg(kMaxPathBytes));
     return false;
   }
-  if (_IsSameFile(path, classPath)) {
+  const auto isPath = [&path](const QString& classPath) { return _IsSameFile(path, classPath); };
+  if (std::any_of(classPaths.begin(), classPaths.end(), isPath)) {
     AskToConfirm(parent, Text(TextID::kIsTheClass).arg(QFileInfo(path).fileName()),
                  Text(TextID::kIsTheClassAdvice));
     return false;
@@ -70,13 +72,13 @@ bool _MayWrite(QWidget* parent, const QString& path, const QString& classPath) {
 }  // namespace
 
 std::optional<QString> ChooseSaveFile(QWidget* parent, const QString& proposedName, const QString& extension,
-                                      const QString& classPath) {
+                                      const QStringList& classPaths) {
   QFileDialog dialog(parent, Text(TextID::kSaveTitle), _LastFolder());
   _SetUp(&dialog, extension);
   dialog.selectFile(proposedName);
   while (dialog.exec() == QDialog::Accepted) {
     const QString path = QFileInfo(dialog.selectedFiles().value(0)).absoluteFilePath();
-    if (!_MayWrite(parent, path, classPath)) continue;
+    if (!_MayWrite(parent, path, classPaths)) continue;
     QSettings().setValue(QLatin1String(kFolderKey), QFileInfo(path).absolutePath());
     return path;
   }

@@ -162,6 +162,7 @@ void MainWindow::ClassRead(const ReadResult& result) {
 
 void MainWindow::ShowClass(std::shared_ptr<const OpenClass> openClass) {
   m_class = std::move(openClass);
+  m_export.ClassOpened(m_class->path);
   m_model.SetClass(m_class);
   FitColumns(m_model.columnCount());
   m_panel->SetClass(m_class);

@@ -94,21 +94,25 @@ typedef struct QZEXPORTFILE {
 #define QZFILTER_WRITTEN 2u   /* the file is there, complete */
 #define QZFILTER_NOT_WRITTEN 3u
 
-/* What became of an export. Counts that do not fit are the largest number. */
+/* What became of an export. The host clears the record and sets its size. */
 typedef struct QZEXPORTOUTCOME {
-  uint32_t size;        /* set by the host: sizeof(QZEXPORTOUTCOME); later versions may have more members */
+  uint32_t size;        /* sizeof(QZEXPORTOUTCOME); later versions may have more members */
   uint32_t state;       /* one of the four above */
   int32_t error;        /* when not written, why: an errno value; 0: there was no assignment to write */
   uint32_t formatIndex; /* 0-based */
 
-  /* The user's choices and what they meant, once the file was written or could not be; 0 before. In a format
-   * without identifier both its members stay 0. */
-  int32_t userIDField;  /* the student field taken as identifier: 1 first name, 2 last name, 3 student id,
-                         * 4 alias, 5 to 7 the class's custom fields */
+  /* The user's choices and what they meant, once the file was written or could not be; 0 before. The field is
+   * the one taken as identifier: 1 first name, 2 last name, 3 student id, 4 alias, 5 to 7 the class's custom
+   * fields. A format without identifier has neither field nor students without it. */
+  int32_t userIDField;
   uint32_t assignments; /* how many were chosen */
+
   uint32_t
-      replacedCharacters; /* of the class file: what 8-bit text lacks and "?" stands for; once it is read */
+      replacedCharacters; /* of the class that was read: they are "?" now, because 8-bit text lacks them */
   uint32_t studentsWithoutIdentifier;
+
+  uint32_t incomplete; /* 1: not written, and a part of it stands where the earlier file was */
+
   char path[QZFILTER_PATH_SIZE + 4]; /* as the file chooser gave it, always with its NUL */
 } QZEXPORTOUTCOME;
 
@@ -144,7 +148,7 @@ QZFILTER_API uint32_t QZFilter_ExportEnd(unsigned long id);
 /* Tells what became of an export: of a session that lives, and of one that has ended until the next begins.
  * Fills `record` as far as its size goes, with zeros where a later version knows more. Returns
  * QZFILTER_SUCCESS, or QZFILTER_FAILED with the record untouched for an unknown session and for a size below
- * 292, the record's first. A host finds it by name and does without where an older module has none. */
+ * 296, the record's first. A host finds it by name and does without where an older module has none. */
 QZFILTER_API uint32_t QZFilter_GetExportOutcome(unsigned long id, QZEXPORTOUTCOME* record);
 typedef uint32_t (*QZFilter_GetExportOutcomeProc)(unsigned long id, QZEXPORTOUTCOME* record);
 
@@ -161,12 +165,12 @@ QZFILTER_API int32_t DllMain(void* module, uint32_t reason, void* reserved);
 static_assert(sizeof(QZEXPORTBEGIN) == (sizeof(void*) == 4 ? 24 : 32), "QZEXPORTBEGIN layout");
 static_assert(sizeof(QZEXPORTFORMAT) == 80, "QZEXPORTFORMAT layout");
 static_assert(sizeof(QZEXPORTFILE) == 92, "QZEXPORTFILE layout");
-static_assert(sizeof(QZEXPORTOUTCOME) == 292, "QZEXPORTOUTCOME layout");
+static_assert(sizeof(QZEXPORTOUTCOME) == 296, "QZEXPORTOUTCOME layout");
 #elif defined(__STDC_VERSION__) && __STDC_VERSION__ >= 201112L
 _Static_assert(sizeof(QZEXPORTBEGIN) == (sizeof(void*) == 4 ? 24 : 32), "QZEXPORTBEGIN layout");
 _Static_assert(sizeof(QZEXPORTFORMAT) == 80, "QZEXPORTFORMAT layout");
 _Static_assert(sizeof(QZEXPORTFILE) == 92, "QZEXPORTFILE layout");
-_Static_assert(sizeof(QZEXPORTOUTCOME) == 292, "QZEXPORTOUTCOME layout");
+_Static_assert(sizeof(QZEXPORTOUTCOME) == 296, "QZEXPORTOUTCOME layout");
 #endif
 
 #endif /* GRADIX_QZFILTER_H */

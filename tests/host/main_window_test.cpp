@@ -135,11 +135,14 @@ TEST_F(MainWindowTest, SaysWhatBecameOfAnExport) {
   const struct {
     uint32_t state;
     int32_t error;
+    uint32_t incomplete;
     TextID status, what, advice;
   } rows[] = {
-      {QZFILTER_NOT_WRITTEN, ENOSPC, TextID::kExportFailed, TextID::kNotWritten, TextID::kDiskFullAdvice},
-      {QZFILTER_NOT_WRITTEN, EACCES, TextID::kExportFailed, TextID::kNotWritten, TextID::kNotWrittenAdvice},
-      {QZFILTER_PENDING, 0, TextID::kExportEnded, TextID::kOutcomeUnknown, TextID::kOutcomeUnknownAdvice},
+      {QZFILTER_NOT_WRITTEN, ENOSPC, 0, TextID::kExportFailed, TextID::kNotWritten, TextID::kDiskFullAdvice},
+      {QZFILTER_NOT_WRITTEN, EACCES, 0, TextID::kExportFailed, TextID::kNotWritten,
+       TextID::kNotWrittenAdvice},
+      {QZFILTER_NOT_WRITTEN, EIO, 1, TextID::kExportFailed, TextID::kIncomplete, TextID::kNotWrittenAdvice},
+      {QZFILTER_PENDING, 0, 0, TextID::kExportEnded, TextID::kOutcomeUnknown, TextID::kOutcomeUnknownAdvice},
   };
   ASSERT_TRUE(OpenSample());
   for (const auto& row : rows) {
@@ -148,6 +151,7 @@ TEST_F(MainWindowTest, SaysWhatBecameOfAnExport) {
     const QString path = QFile::decodeName(AskForFile().c_str());
     m_fake->outcome.state = row.state;
     m_fake->outcome.error = row.error;
+    m_fake->outcome.incomplete = row.incomplete;
     gOptions->close();
     QMessageBox* const message = WaitForMessage();
     ASSERT_NE(message, nullptr);

@@ -22,5 +22,5 @@ _Static_assert(sizeof(QZEXPORTFILE) == 92, "export-file record");
 
 _Static_assert(offsetof(QZEXPORTOUTCOME, error) == 8, "error");
 _Static_assert(offsetof(QZEXPORTOUTCOME, studentsWithoutIdentifier) == 28, "last count");
-_Static_assert(offsetof(QZEXPORTOUTCOME, path) == 32, "path");
-_Static_assert(sizeof(QZEXPORTOUTCOME) == 292, "outcome record");
+_Static_assert(offsetof(QZEXPORTOUTCOME, path) == 36, "path");
+_Static_assert(sizeof(QZEXPORTOUTCOME) == 296, "outcome record");

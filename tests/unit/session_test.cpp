@@ -138,7 +138,7 @@ TEST(EntryPoints, KeepAnOutcomeUntilTheNextSession) {
   EXPECT_EQ(record.outcome.formatIndex, 6U);
   EXPECT_EQ(record.later, 0U);
   EXPECT_EQ(record.beyond, 0x5A5A5A5AU);
-  record.outcome.size = 291;
+  record.outcome.size = 295;
   record.outcome.state = 99;
   EXPECT_EQ(QZFilter_GetExportOutcome(third, &record.outcome), QZFILTER_FAILED);
   EXPECT_EQ(record.outcome.state, 99U);

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr size_t kFirstOutcomeSize = 292;  // of the record's first version, which every host has
+constexpr size_t kFirstOutcomeSize = 296;  // of the record's first version, which every host has
 
 }  // namespace
 

@@ -115,6 +115,7 @@ enum class TextID : uint8_t {
   kIsTheClass,
   kIsTheClassAdvice,
   kNotWritten,
+  kIncomplete,
   kDiskFullAdvice,
   kNotWrittenAdvice,
   kOutcomeUnknown,

@@ -114,7 +114,9 @@ void ExportController::ShowNotWritten(const RunResult& result) {
   m_stateChanged(Text(TextID::kExportFailed));
   const bool isFull = result.error == ENOSPC || result.error == EDQUOT;
   const QString reason = result.error == 0 ? QString() : QString::fromLocal8Bit(std::strerror(result.error));
-  ShowMessage(m_window, Text(TextID::kNotWritten).arg(QDir::toNativeSeparators(result.path)),
+  ShowMessage(m_window,
+              Text(result.incomplete ? TextID::kIncomplete : TextID::kNotWritten)
+                  .arg(QDir::toNativeSeparators(result.path)),
               Text(isFull ? TextID::kDiskFullAdvice : TextID::kNotWrittenAdvice).arg(reason).trimmed());
 }
 

@@ -124,6 +124,7 @@ RunResult ExportRun::Result() const {
   result.outcome = told ? _OutcomeOf(told->state) : RunOutcome::kUnknown;
   if (!told) return result;
   result.error = told->error;
+  result.incomplete = told->incomplete != 0;
   result.replacedCharacters = told->replacedCharacters;
   result.studentsWithoutIdentifier = told->studentsWithoutIdentifier;
   return result;

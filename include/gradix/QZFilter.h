@@ -107,8 +107,7 @@ typedef struct QZEXPORTOUTCOME {
   int32_t userIDField;
   uint32_t assignments; /* how many were chosen */
 
-  uint32_t
-      replacedCharacters; /* of the class that was read: they are "?" now, because 8-bit text lacks them */
+  uint32_t replacedCharacters; /* of the class: "?" stands for what 8-bit text lacks */
   uint32_t studentsWithoutIdentifier;
 
   uint32_t incomplete; /* 1: not written, and a part of it stands where the earlier file was */

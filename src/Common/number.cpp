@@ -3,6 +3,7 @@
 #include <locale.h>
 
 #include <algorithm>
+#include <cfloat>
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
@@ -19,6 +20,30 @@ bool _IsBlank(char character) {
 
 bool _IsDigit(char character) {
   return character >= '0' && character <= '9';
+}
+
+// A plain decimal of at most 15 digits. Its digits and the power of ten are doubles without error, so that
+// their quotient is the nearest double. False for anything else.
+bool _ParsePlain(const char* text, size_t length, double* value) {
+  constexpr double kPowers[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+  if (length > 16 || FLT_EVAL_METHOD != 0) return false;
+  const char* const end = text + length;
+  const char* point = nullptr;
+  int64_t digits = 0;
+  for (const char* next = text; next != end; ++next) {
+    if (_IsDigit(*next)) {
+      digits = digits * 10 + (*next - '0');
+    } else if (*next == '.' && point == nullptr) {
+      point = next;
+    } else {
+      return false;
+    }
+  }
+  const auto digitCount = static_cast<size_t>(length) - (point == nullptr ? 0 : 1);
+  if (digitCount == 0 || digitCount > 15) return false;
+  *value = static_cast<double>(digits) / kPowers[point == nullptr ? 0 : end - point - 1];
+  return true;
 }
 
 // The rare forms: hexadecimal, infinity, nan, out of range, no number at all.
@@ -51,10 +76,11 @@ double ParseDouble(const char* text) {
 }
 
 double ParseDouble(const char* text, size_t length) {
+  double value = 0.0;
+  if (_ParsePlain(text, length, &value)) return value;
   const char* number = text;
   while (_IsBlank(*number)) ++number;
   if (number[0] == '+' && number[1] != '-') ++number;  // from_chars knows no plus sign
-  double value = 0.0;
   const auto [end, error] = std::from_chars(number, text + length, value);
   const bool plain = error == std::errc() && std::isfinite(value) && *end != 'x' && *end != 'X';
   return plain ? value : _ParseDoubleSlowly(text);

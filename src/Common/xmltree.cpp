@@ -1,38 +1,46 @@
 #include "Common/xmltree.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <cstdlib>
 #include <cstring>
 #include <functional>
 #include <limits>
+#include <string_view>
 
 #include "Common/number.h"
 #include "Common/xmlutil.h"
 
+#if defined(__SANITIZE_ADDRESS__)  // gcc
+#define GRADIX_ADDRESS_SANITIZER
+#elif defined(__has_feature)  // clang
+#if __has_feature(address_sanitizer)
+#define GRADIX_ADDRESS_SANITIZER
+#endif
+#endif
+
 namespace {
 
 constexpr int32_t kCapacityStep = 5;
+
+class SpareBlocks;
 
 // A node is allocated together with room for its first items and for the bytes of short attributes and texts,
 // which is all that most nodes ever need.
 struct NodeBlock {
   _XmlTreeTag node;
   _XmlTreeItem firstItems[kCapacityStep];
+  SpareBlocks* spare;  // the tree's; owned by its root
+  bool plain;          // no item has anything outside this block
   size_t bytesUsed;
   char bytes[64];
 };
 static_assert(offsetof(NodeBlock, node) == 0, "a node's address is its block's");
 
-// Freed blocks, kept for the next nodes: a reader frees and makes the same few again with every record. Not
-// under AddressSanitizer, which then sees any use of a freed node.
+// The freed blocks of a tree, kept for its next nodes: a reader frees and makes the same few again with every
+// record. Not under AddressSanitizer, which then sees any use of a freed node.
 class SpareBlocks {
  public:
-  ~SpareBlocks() {
-    while (m_count > 0) std::free(m_blocks[--m_count]);
-  }
-
   NodeBlock* Take() {
     return m_count > 0 ? m_blocks[--m_count] : static_cast<NodeBlock*>(std::malloc(sizeof(NodeBlock)));
   }
@@ -45,26 +53,54 @@ class SpareBlocks {
     }
   }
 
+  void FreeAll() {
+    while (m_count > 0) std::free(m_blocks[--m_count]);
+  }
+
  private:
-#if defined(__SANITIZE_ADDRESS__)
+#if defined(GRADIX_ADDRESS_SANITIZER)
   static constexpr size_t kCapacity = 0;
 #else
   static constexpr size_t kCapacity = 16;
 #endif
-  std::array<NodeBlock*, 16> m_blocks{};
-  size_t m_count = 0;
+  size_t m_count;
+  NodeBlock* m_blocks[16];
 };
-
-thread_local SpareBlocks gSpareBlocks;
 
 NodeBlock* _Block(_XmlTreeTag* node) {
   return reinterpret_cast<NodeBlock*>(node);
 }
 
+// Null when memory is exhausted.
+NodeBlock* _NewBlock(_XmlTreeTag* parent) {
+  SpareBlocks* spare = parent != nullptr ? _Block(parent)->spare
+                                         : static_cast<SpareBlocks*>(std::calloc(1, sizeof(SpareBlocks)));
+  if (spare == nullptr) return nullptr;
+  NodeBlock* block = spare->Take();
+  if (block != nullptr) {
+    block->spare = spare;
+  } else if (parent == nullptr) {
+    std::free(spare);
+  }
+  return block;
+}
+
+void _FreeBlock(NodeBlock* block) {
+  SpareBlocks* spare = block->spare;
+  const bool isRoot = block->node.parent == nullptr;
+  spare->Give(block);
+  if (!isRoot) return;
+  spare->FreeAll();
+  std::free(spare);
+}
+
 // Room for an attribute or a text of the node: in its own block while that lasts, else on the heap.
 char* _NewBytes(_XmlTreeTag* node, size_t size) {
   NodeBlock* block = _Block(node);
-  if (size > sizeof block->bytes - block->bytesUsed) return static_cast<char*>(std::malloc(size));
+  if (size > sizeof block->bytes - block->bytesUsed) {
+    block->plain = false;
+    return static_cast<char*>(std::malloc(size));
+  }
   char* bytes = block->bytes + block->bytesUsed;
   block->bytesUsed += size;
   return bytes;
@@ -83,12 +119,7 @@ void _FreeItemArray(_XmlTreeTag* node) {
 }
 
 // Makes room for one more item: by a few while the list is short, by half its length when it is long.
-bool _GrowItems(_XmlTreeTag* node) {
-  if (node->items == nullptr) {
-    node->items = _Block(node)->firstItems;
-    node->itemCapacity = kCapacityStep;
-    return true;
-  }
+[[gnu::noinline]] bool _GrowItems(_XmlTreeTag* node) {
   if (node->itemCapacity > std::numeric_limits<int32_t>::max() / 2) return false;
   const int32_t capacity = node->itemCapacity + std::max(kCapacityStep, node->itemCapacity / 2);
   const bool onHeap = node->items != _Block(node)->firstItems;
@@ -102,9 +133,43 @@ bool _GrowItems(_XmlTreeTag* node) {
 }
 
 bool _AddItem(_XmlTreeTag* node, XmlTreeItemKind kind, XmlTreeDestructor destructor, void* data) {
-  if (node->itemCount == node->itemCapacity && !_GrowItems(node)) return false;
+  if (node->items == nullptr) {
+    node->items = _Block(node)->firstItems;
+    node->itemCapacity = kCapacityStep;
+  } else if (node->itemCount == node->itemCapacity && !_GrowItems(node)) {
+    return false;
+  }
   node->items[node->itemCount++] = {kind, destructor, data};
   return true;
+}
+
+template <typename Word>
+uint64_t _WordAt(const char* text) {
+  Word word;
+  std::memcpy(&word, text, sizeof word);
+  return word;
+}
+
+bool _IsAscii(const char* text, size_t size) {
+  uint64_t bits = 0;
+  if (size >= 8) {
+    for (size_t i = 8; i < size; i += 8) bits |= _WordAt<uint64_t>(text + i - 8);
+    bits |= _WordAt<uint64_t>(text + size - 8);
+  } else if (size >= 4) {
+    bits = _WordAt<uint32_t>(text) | _WordAt<uint32_t>(text + size - 4);
+  } else {
+    for (size_t i = 0; i < size; ++i) bits |= static_cast<unsigned char>(text[i]);
+  }
+  return (bits & 0x8080808080808080) == 0;
+}
+
+// Converts a text to Mac OS Roman. Gives the address of the closing zero.
+char* _Decode(char* destination, std::string_view text) {
+  std::memcpy(destination, text.data(), text.size());
+  destination[text.size()] = '\0';
+  if (_IsAscii(text.data(), text.size())) return destination + text.size();
+  bool valid = false;
+  return XmlUtf8DecodeTo(destination, static_cast<int32_t>(text.size()), destination, &valid);
 }
 
 // Appends the bytes as an item, or frees them.
@@ -140,34 +205,64 @@ void _ReleaseItem(_XmlTreeTag* node, const _XmlTreeItem& item) {
   }
 }
 
+// Frees a node that has no more items to release.
+void _FreeNode(_XmlTreeTag* node) {
+  _FreeItemArray(node);
+  _FreeBlock(_Block(node));
+}
+
 // Frees the node and its subtree, items last first. Walks instead of recursing: a tree may be of any depth.
 void _FreeSubtree(_XmlTreeTag* top) {
   _XmlTreeTag* node = top;
   while (node != nullptr) {
-    if (node->itemCount > 0) {
-      const _XmlTreeItem item = node->items[--node->itemCount];
-      if (item.kind == kXmlTreeChild) {
-        node = static_cast<_XmlTreeTag*>(item.data);
-      } else {
-        _ReleaseItem(node, item);
-      }
+    if (node->itemCount == 0 || _Block(node)->plain) {
+      _XmlTreeTag* parent = node == top ? nullptr : node->parent;
+      _FreeNode(node);
+      node = parent;
       continue;
     }
-    _XmlTreeTag* parent = node == top ? nullptr : node->parent;
-    _FreeItemArray(node);
-    gSpareBlocks.Give(_Block(node));
-    node = parent;
+    const _XmlTreeItem item = node->items[--node->itemCount];
+    if (item.kind != kXmlTreeChild) {
+      _ReleaseItem(node, item);
+      continue;
+    }
+    auto* child = static_cast<_XmlTreeTag*>(item.data);
+    if (_Block(child)->plain) {
+      _FreeNode(child);
+    } else {
+      node = child;
+    }
   }
 }
 
-// The value of an attribute's bytes when its name is `name`, else null. Byte by byte, because the bytes were
-// written so a moment ago, and wider reads would wait for them.
-const char* _SkipName(const char* bytes, const char* name) {
-  while (*bytes != '\0' && *bytes == *name) {
-    ++bytes;
-    ++name;
+// Adds an attribute of US-ASCII characters that fits into the node's own block, as nearly all do, in one pass
+// over its value. False, with nothing changed, for any other.
+bool _AddShortAttribute(_XmlTreeTag* node, std::string_view name, const char* value) {
+  NodeBlock* block = _Block(node);
+  char* const bytes = block->bytes + block->bytesUsed;
+  const char* const end = block->bytes + sizeof block->bytes;
+  if (name.size() + 1 >= static_cast<size_t>(end - bytes) || !_IsAscii(name.data(), name.size()))
+    return false;
+  std::memcpy(bytes, name.data(), name.size());
+  char* next = bytes + name.size();
+  *next++ = '\0';
+  for (; next != end; ++value) {
+    const auto byte = static_cast<int8_t>(*value);
+    if (byte < 0) return false;
+    *next++ = static_cast<char>(byte);
+    if (byte > 0) continue;
+    if (!_AddItem(node, kXmlTreeAttribute, nullptr, bytes)) return false;
+    block->bytesUsed = static_cast<size_t>(next - block->bytes);
+    return true;
   }
-  return *bytes == *name ? bytes + 1 : nullptr;
+  return false;
+}
+
+// Whether the text at `bytes` is `name`. Most are told apart by their first byte.
+bool _IsName(const char* bytes, std::string_view name) {
+  if (name.empty()) return *bytes == '\0';
+  return *bytes == name.front() && std::strncmp(bytes, name.data(), name.size()) == 0 &&
+         bytes[name.size()] == '\0';
 }
 
 // The position of the item with the 0-based index among the items of one kind, or -1.
@@ -178,64 +273,74 @@ int32_t _FindItem(const _XmlTreeTag* node, XmlTreeItemKind kind, int32_t index) 
   return -1;
 }
 
-// The 8-bit byte for a code point, 0 when there is none.
-using MapCodePoint = uint8_t (*)(int32_t codePoint, bool* mapped);
+// The 8-bit byte for a code point; false when there is none.
+using MapCodePoint = bool (*)(int32_t codePoint, char* byte);
 
-uint8_t _MapToRoman(int32_t codePoint, bool* mapped) {
-  const uint8_t code = XmlMapFromUnicodeChar(codePoint, 0);
-  *mapped = code != 0;
-  return code;
+bool _MapToRoman(int32_t codePoint, char* byte) {
+  *byte = static_cast<char>(XmlMapFromUnicodeChar(codePoint));
+  return *byte != '\0';
 }
 
-uint8_t _MapToSymbol(int32_t codePoint, bool* mapped) {
-  *mapped = codePoint < 256;
-  return static_cast<uint8_t>(codePoint);
+bool _MapToSymbol(int32_t codePoint, char* byte) {
+  *byte = static_cast<char>(codePoint);
+  return codePoint < 256;
 }
 
-// Converts one text item behind the first `*count` bytes of the buffer. Returns the characters replaced.
-uint64_t _JoinText(const char* text, char* buffer, int32_t size, int32_t* count, MapCodePoint map) {
-  uint64_t replaced = 0;
-  int32_t out = *count;
-  while (*text != '\0' && out < size) {
-    if (static_cast<unsigned char>(*text) < 0x80) {
-      buffer[out++] = *text++;
-      continue;
+// A node's texts on their way into a buffer.
+struct JoinedText {
+  char* next;         // where the next byte goes
+  char* end;          // the last byte, kept for the closing zero
+  uint64_t replaced;  // characters that became "?"
+};
+
+// Converts the character at `text`. Returns what is behind it.
+const char* _JoinCharacter(const char* text, JoinedText* joined, MapCodePoint map) {
+  int32_t codePoint = 0;
+  const int32_t length = XmlUtf8DecodeChar(&codePoint, text);
+  if (length == 0 || !map(codePoint, joined->next)) {
+    *joined->next = '?';
+    ++joined->replaced;
+  }
+  ++joined->next;
+  return text + XmlUtf8Step(text, length);
+}
+
+void _JoinText(const char* text, JoinedText* joined, MapCodePoint map) {
+  while (joined->next != joined->end) {
+    const auto byte = static_cast<int8_t>(*text);
+    if (byte == 0) return;
+    if (byte > 0) {
+      *joined->next++ = *text++;
+    } else {
+      text = _JoinCharacter(text, joined, map);
     }
-    int32_t codePoint = 0;
-    const int32_t length = XmlUtf8DecodeChar(&codePoint, text);
-    bool mapped = false;
-    const uint8_t code = length > 0 ? map(codePoint, &mapped) : uint8_t{0};
-    buffer[out++] = mapped ? static_cast<char>(code) : '?';
-    if (!mapped) ++replaced;
-    text += length > 0 ? XmlUtf8Step(text, length) : 1;
   }
-  *count = out;
-  return replaced;
 }
 
-uint64_t _JoinAllText(const _XmlTreeTag* node, char* buffer, int32_t size, MapCodePoint map) {
-  uint64_t replaced = 0;
-  int32_t count = 0;
-  buffer[0] = '\0';
-  for (int32_t i = 0; i < node->itemCount && count < size; ++i) {
-    if (node->items[i].kind != kXmlTreeText) continue;
-    replaced += _JoinText(static_cast<const char*>(node->items[i].data), buffer, size, &count, map);
-    buffer[count] = '\0';
+JoinedText _JoinAllText(const _XmlTreeTag* node, char* buffer, int32_t size, MapCodePoint map) {
+  JoinedText joined = {buffer, buffer + size, 0};
+  for (int32_t i = 0; i < node->itemCount; ++i) {
+    if (node->items[i].kind == kXmlTreeText) {
+      _JoinText(static_cast<const char*>(node->items[i].data), &joined, map);
+    }
   }
-  return replaced;
+  *joined.next = '\0';
+  return joined;
 }
 
 }  // namespace
 
 _XmlTreeTag* XmlTreeNewNode(_XmlTreeTag* parent, int32_t elementID, int32_t line, long byteIndex) {
-  NodeBlock* block = gSpareBlocks.Take();
+  NodeBlock* block = _NewBlock(parent);
   if (block == nullptr) return nullptr;
   block->node = {elementID, line, byteIndex, parent, 0, 0, nullptr};
+  block->plain = true;
   block->bytesUsed = 0;
   if (parent != nullptr && !_AddItem(parent, kXmlTreeChild, nullptr, &block->node)) {
-    gSpareBlocks.Give(block);
+    _FreeBlock(block);
     return nullptr;
   }
+  if (parent != nullptr) _Block(parent)->plain = false;
   return &block->node;
 }
 
@@ -292,15 +397,15 @@ bool XmlTreeAddText(_XmlTreeTag* node, const char* text, int32_t length) {
 }
 
 bool XmlTreeGetAllText(const _XmlTreeTag* node, char* buffer, int32_t size) {
-  return XmlTreeJoinText(node, buffer, size) == 0;
+  return _JoinAllText(node, buffer, size, _MapToRoman).replaced == 0;
 }
 
 uint64_t XmlTreeJoinText(const _XmlTreeTag* node, char* buffer, int32_t size) {
-  return _JoinAllText(node, buffer, size, _MapToRoman);
+  return _JoinAllText(node, buffer, size, _MapToRoman).replaced;
 }
 
 bool XmlTreeGetAllTextAsSymbol(const _XmlTreeTag* node, char* buffer, int32_t size) {
-  return _JoinAllText(node, buffer, size, _MapToSymbol) == 0;
+  return _JoinAllText(node, buffer, size, _MapToSymbol).replaced == 0;
 }
 
 void XmlTreeDeleteAllText(_XmlTreeTag* node) {
@@ -313,35 +418,34 @@ void XmlTreeDeleteAllText(_XmlTreeTag* node) {
   node->itemCount = static_cast<int32_t>(end - node->items);
 }
 
-bool XmlTreeAddAttribute(_XmlTreeTag* node, const char* name, const char* value) {
+bool XmlTreeAddAttribute(_XmlTreeTag* node, std::string_view name, const char* value) {
+  if (_AddShortAttribute(node, name, value)) return true;
   // No text has more characters than bytes.
-  const size_t nameSize = std::strlen(name);
-  const size_t valueSize = std::strlen(value);
   constexpr size_t kMaximumSize = std::numeric_limits<int32_t>::max();
-  if (nameSize > kMaximumSize || valueSize > kMaximumSize) return false;
-  char* bytes = _NewBytes(node, nameSize + valueSize + 2);
+  const size_t valueSize = std::strlen(value);
+  if (name.size() > kMaximumSize || valueSize > kMaximumSize) return false;
+  char* bytes = _NewBytes(node, name.size() + valueSize + 2);
   if (bytes == nullptr) return false;
-  bool valid = false;
-  char* nameEnd = XmlUtf8DecodeTo(bytes, static_cast<int32_t>(nameSize), name, &valid);
-  XmlUtf8DecodeTo(nameEnd + 1, static_cast<int32_t>(valueSize), value, &valid);
+  _Decode(_Decode(bytes, name) + 1, {value, valueSize});
   return _AddBytes(node, kXmlTreeAttribute, bytes);
 }
 
-const char* XmlTreeGetAttribute(const _XmlTreeTag* node, const char* name) {
+const char* XmlTreeGetAttribute(const _XmlTreeTag* node, std::string_view name) {
   for (int32_t i = 0; i < node->itemCount; ++i) {
     if (node->items[i].kind != kXmlTreeAttribute) continue;
-    const char* value = _SkipName(static_cast<const char*>(node->items[i].data), name);
-    if (value != nullptr) return value;
+    const auto* bytes = static_cast<const char*>(node->items[i].data);
+    if (_IsName(bytes, name)) return bytes + name.size() + 1;
   }
   return nullptr;
 }
 
-int32_t XmlTreeGetAttributeInt(const _XmlTreeTag* node, const char* name) {
+int32_t XmlTreeGetAttributeInt(const _XmlTreeTag* node, std::string_view name) {
   const char* value = XmlTreeGetAttribute(node, name);
   return value == nullptr ? 0 : ParseInt32(value);
 }
 
 bool XmlTreeAddUserData(_XmlTreeTag* node, void* data, XmlTreeDestructor destructor) {
+  _Block(node)->plain = false;
   return _AddItem(node, kXmlTreeUserData, destructor, data);
 }
 

@@ -7,6 +7,7 @@
 #define GRADIX_XMLTREE_H
 
 #include <cstdint>
+#include <string_view>
 
 using XmlTreeDestructor = void (*)(void* data);
 
@@ -71,13 +72,13 @@ bool XmlTreeGetAllTextAsSymbol(const _XmlTreeTag* node, char* buffer, int32_t si
 void XmlTreeDeleteAllText(_XmlTreeTag* node);
 
 // Appends an attribute; name and value are UTF-8.
-bool XmlTreeAddAttribute(_XmlTreeTag* node, const char* name, const char* value);
+bool XmlTreeAddAttribute(_XmlTreeTag* node, std::string_view name, const char* value);
 
 // The 8-bit value of the first attribute with exactly that name, or null. Owned by the node.
-const char* XmlTreeGetAttribute(const _XmlTreeTag* node, const char* name);
+const char* XmlTreeGetAttribute(const _XmlTreeTag* node, std::string_view name);
 
 // The value as a decimal integer, 0 when there is none; saturates at 32 bits.
-int32_t XmlTreeGetAttributeInt(const _XmlTreeTag* node, const char* name);
+int32_t XmlTreeGetAttributeInt(const _XmlTreeTag* node, std::string_view name);
 
 // Appends the caller's datum; `destructor`, unless null, is called with it when the node is deleted.
 bool XmlTreeAddUserData(_XmlTreeTag* node, void* data, XmlTreeDestructor destructor);

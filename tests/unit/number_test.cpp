@@ -2,12 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <bit>
 #include <cfloat>
 #include <clocale>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <iterator>
 #include <limits>
 #include <random>
 #include <string>
@@ -30,6 +32,19 @@ const char* const kTexts[] = {
     // other notations
     "0x10", "0X1.8p3", "-0x1p-2", "0x", "+0x1", "0x.8", "inf", "-INFINITY", "+inf", "infx", "nan", "-nan",
     "NAN(1)", "nan("};
+
+// The texts above, and plain decimals of every length up to a little more than a double holds.
+std::vector<std::string> SomeTexts() {
+  std::vector<std::string> texts(std::begin(kTexts), std::end(kTexts));
+  std::mt19937_64 random(20160502);
+  for (size_t i = 0; i < 4000; ++i) {
+    std::string text = std::to_string(random() % 1000000000 + 1) + std::to_string(random() % 1000000000);
+    text.resize(std::min(text.size(), 1 + i % 18));
+    if (i % 4 != 0) text.insert(random() % (text.size() + 1), 1, '.');
+    texts.push_back(text);
+  }
+  return texts;
+}
 
 std::vector<double> SomeDoubles() {
   constexpr double kInfinity = std::numeric_limits<double>::infinity();
@@ -58,7 +73,7 @@ std::string Fixed(double value, int32_t decimals) {
 class Reference {
  public:
   Reference() {
-    for (const char* text : kTexts) m_parsed.push_back(std::strtod(text, nullptr));
+    for (const std::string& text : m_texts) m_parsed.push_back(std::strtod(text.c_str(), nullptr));
     for (const double value : m_doubles) {
       m_general.push_back(Printed("%.*g", 6, value));
       m_fixed.push_back(Printed("%.*f", 3, value));
@@ -67,9 +82,9 @@ class Reference {
 
   void Check() const {
     for (size_t i = 0; i < m_parsed.size(); ++i) {
-      const double parsed = ParseDouble(kTexts[i]);
-      EXPECT_EQ(std::signbit(parsed), std::signbit(m_parsed[i])) << '"' << kTexts[i] << '"';
-      EXPECT_TRUE(parsed == m_parsed[i] || (std::isnan(parsed) && std::isnan(m_parsed[i]))) << kTexts[i];
+      const double parsed = ParseDouble(m_texts[i].c_str());
+      EXPECT_EQ(std::signbit(parsed), std::signbit(m_parsed[i])) << '"' << m_texts[i] << '"';
+      EXPECT_TRUE(parsed == m_parsed[i] || (std::isnan(parsed) && std::isnan(m_parsed[i]))) << m_texts[i];
     }
     for (size_t i = 0; i < m_doubles.size(); ++i) {
       char general[32];
@@ -80,6 +95,7 @@ class Reference {
   }
 
  private:
+  std::vector<std::string> m_texts = SomeTexts();
   std::vector<double> m_doubles = SomeDoubles();
   std::vector<double> m_parsed;
   std::vector<std::string> m_general;

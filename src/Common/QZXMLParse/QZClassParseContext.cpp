@@ -4,6 +4,7 @@
 #include <cstring>
 #include <istream>
 #include <new>
+#include <string_view>
 
 namespace {
 
@@ -21,12 +22,44 @@ constexpr size_t kMaximumRead = size_t{1} << 26;
 constexpr int32_t kMaximumEntities = 1000;
 constexpr float kMaximumEntityAmplification = 10.0F;
 
+// The parser goes through an element's declared attributes, and through the name of its namespace, at every
+// occurrence of the element. Real class files declare no attribute, and their namespaces have short names.
+constexpr int32_t kMaximumDeclaredAttributes = 100;
+constexpr size_t kMaximumDefaultValue = 1000;
+constexpr size_t kMaximumNamespace = 1000;
+
 constexpr size_t kMaximumEncodingName = 40;
+
+// What the handlers ask for; an element's other attributes are not kept.
+constexpr std::array<std::string_view, 5> kAttributes = {"id", "number", "type", "question-id", "bank-id"};
 
 // The part of `name` behind its namespace.
 const char* _SkipNamespace(const char* name) {
   const char* separator = std::strrchr(name, '#');
   return separator == nullptr ? name : separator + 1;
+}
+
+// The index in kAttributes of a name without namespace, or kAttributes.size().
+size_t _FindLocalName(const char* name) {
+  size_t i = 0;
+  while (i < kAttributes.size() &&
+         (kAttributes[i].front() != *name || std::strcmp(kAttributes[i].data(), name) != 0)) {
+    ++i;
+  }
+  return i;
+}
+
+size_t _FindAttribute(const char* name) {
+  const size_t found = _FindLocalName(name);
+  if (found < kAttributes.size()) return found;
+  const char* localName = _SkipNamespace(name);
+  return localName == name ? found : _FindLocalName(localName);
+}
+
+// The bytes of the whole characters among the first `size` bytes of a longer text.
+int32_t _WholeCharacters(const char* text, int32_t size) {
+  while (size > 0 && (static_cast<unsigned char>(text[size]) & 0xC0U) == 0x80) --size;
+  return size;
 }
 
 // With or without a byte order mark: a document begins with "<".
@@ -42,11 +75,14 @@ bool _IsUtf16(const char* bytes, size_t count) {
 
 cXmlParserContext::cXmlParserContext(qz::ClassRecord* record)
     : m_classRecord(record), m_parser(XML_ParserCreateNS(nullptr, '#')) {
+  m_path[0] = {nullptr, _gRootElement, 0, 0};
   if (m_parser == nullptr) return;
   XML_SetUserData(m_parser, this);
   XML_SetElementHandler(m_parser, StartElement, EndElement);
   XML_SetCharacterDataHandler(m_parser, CharacterData);
   XML_SetEntityDeclHandler(m_parser, EntityDeclaration);
+  XML_SetAttlistDeclHandler(m_parser, AttributeDeclaration);
+  XML_SetStartNamespaceDeclHandler(m_parser, NamespaceDeclaration);
   XML_SetUnknownEncodingHandler(m_parser, UnknownEncoding, this);
   XML_SetBillionLaughsAttackProtectionMaximumAmplification(m_parser, kMaximumEntityAmplification);
 }
@@ -130,8 +166,24 @@ void XMLCALL cXmlParserContext::EntityDeclaration(void* self, const XML_Char* /*
                                                   const XML_Char*) {
   auto* context = static_cast<cXmlParserContext*>(self);
   if (context->m_aborted || ++context->m_entityCount <= kMaximumEntities) return;
-  context->AddError(kClassFaultDeclarations, "too many entity declarations");
-  XML_StopParser(context->m_parser, XML_FALSE);
+  context->Refuse("too many entity declarations");
+}
+
+void XMLCALL cXmlParserContext::AttributeDeclaration(void* self, const XML_Char*, const XML_Char*,
+                                                     const XML_Char*, const XML_Char* defaultValue, int) {
+  auto* context = static_cast<cXmlParserContext*>(self);
+  if (context->m_aborted) return;
+  if (++context->m_attributeCount > kMaximumDeclaredAttributes) {
+    context->Refuse("too many attribute declarations");
+  } else if (defaultValue != nullptr && std::strlen(defaultValue) > kMaximumDefaultValue) {
+    context->Refuse("the default value of an attribute is too long");
+  }
+}
+
+void XMLCALL cXmlParserContext::NamespaceDeclaration(void* self, const XML_Char*, const XML_Char* name) {
+  auto* context = static_cast<cXmlParserContext*>(self);
+  if (context->m_aborted || name == nullptr || std::strlen(name) <= kMaximumNamespace) return;
+  context->Refuse("the name of a namespace is too long");
 }
 
 int XMLCALL cXmlParserContext::UnknownEncoding(void* self, const XML_Char* name, XML_Encoding* /*encoding*/) {
@@ -143,61 +195,81 @@ int XMLCALL cXmlParserContext::UnknownEncoding(void* self, const XML_Char* name,
   return XML_STATUS_ERROR;
 }
 
-_XmlElementListTag* cXmlParserContext::ChildList() const {
-  if (m_depth == 0) return _gRootElement;
-  const _XmlElementListTag* entry = m_path[static_cast<size_t>(m_depth) - 1].entry;
-  return entry == nullptr ? nullptr : entry->children;
-}
-
-bool cXmlParserContext::IsRepeatedText(const _XmlElementListTag& entry) const {
-  return entry.children == nullptr && XmlTreeFindNode(m_node, entry.elementID) != nullptr;
+_XmlElementListTag* cXmlParserContext::TakeEntry(const char* name) {
+  OpenElement& parent = m_path[m_depth];
+  if (parent.list == nullptr || m_depth == kMaximumDepth) return nullptr;
+  _XmlElementListTag* entry = XmlElementFindEntry(parent.list, name);
+  if (entry == nullptr) {
+    const char* localName = _SkipNamespace(name);
+    if (localName != name) entry = XmlElementFindEntry(parent.list, localName);
+    if (entry == nullptr) return nullptr;
+  }
+  const uint32_t bit = 1U << static_cast<uint32_t>(entry - parent.list);
+  // Of a repeated text only the first counts.
+  if (entry->children == nullptr && (parent.children & bit) != 0) return nullptr;
+  parent.children |= bit;
+  return entry;
 }
 
 void cXmlParserContext::Start(const char* name, const char** attributes) {
-  const char* localName = _SkipNamespace(name);
-  _XmlElementListTag* entry = nullptr;
-  if (m_depth < kMaximumDepth) {
-    entry = XmlElementFindEntry(ChildList(), localName);
-    if (entry != nullptr && IsRepeatedText(*entry)) entry = nullptr;
-    m_path[static_cast<size_t>(m_depth)] = {entry, 0};
+  _XmlElementListTag* entry = m_skippedDepth > 0 ? nullptr : TakeEntry(name);
+  if (entry == nullptr) {
+    if (m_depth == 0) AddError(kClassFaultNotAClass, "the document element is not class");
+    ++m_skippedDepth;
+    return;
   }
-  if (m_depth == 0 && entry == nullptr) AddError(kClassFaultNotAClass, "the document element is not class");
-  ++m_depth;
-  if (entry == nullptr) return;
-
+  m_path[++m_depth] = {entry, entry->children, 0, entry->acceptChars ? kMaximumTextBytes : 0};
   _XmlTreeTag* node =
       XmlTreeNewNode(m_node, entry->elementID, static_cast<int32_t>(XML_GetCurrentLineNumber(m_parser)),
                      static_cast<long>(XML_GetCurrentByteIndex(m_parser)));
   if (node == nullptr) return AddOutOfMemory();
   m_node = node;
+  if (*attributes != nullptr) AddAttributes(attributes);
+}
+
+void cXmlParserContext::AddAttributes(const char** attributes) {
+  std::array<bool, kAttributes.size()> added{};
   for (; *attributes != nullptr; attributes += 2) {
-    XmlTreeAddAttribute(node, _SkipNamespace(attributes[0]), attributes[1]);
+    const size_t found = _FindAttribute(attributes[0]);
+    // Of several with one local name the first counts.
+    if (found == kAttributes.size() || added[found]) continue;
+    XmlTreeAddAttribute(m_node, kAttributes[found], attributes[1]);
+    added[found] = true;
   }
 }
 
 void cXmlParserContext::Text(const char* text, int32_t length) {
-  if (m_depth < 1 || m_depth >= kMaximumDepth) return;
-  OpenElement& open = m_path[static_cast<size_t>(m_depth) - 1];
-  if (open.entry == nullptr || !open.entry->acceptChars) return;
-  if (open.textBytes >= kMaximumTextBytes) return;
-  if (!XmlTreeAddText(m_node, text, length)) return AddOutOfMemory();
-  open.textBytes += length;
+  OpenElement& open = m_path[m_depth];
+  if (m_skippedDepth > 0 || open.textRoom == 0) return;
+  const int32_t kept = length <= open.textRoom ? length : _WholeCharacters(text, open.textRoom);
+  if (!XmlTreeAddText(m_node, text, kept)) return AddOutOfMemory();
+  open.textRoom -= std::min(length, open.textRoom);
 }
 
 void cXmlParserContext::End() {
-  --m_depth;
-  if (m_depth >= kMaximumDepth) return;
-  const _XmlElementListTag* entry = m_path[static_cast<size_t>(m_depth)].entry;
-  if (entry == nullptr) return;
+  if (m_skippedDepth > 0) {
+    --m_skippedDepth;
+    return;
+  }
+  const _XmlElementListTag* entry = m_path[m_depth--].entry;
   _XmlTreeTag* parent = XmlTreeGetParent(m_node);
   const auto handler = reinterpret_cast<XmlParserHandler>(entry->userData);
-  if (handler != nullptr) handler(this);
+  if (handler != nullptr) {
+    handler(this);
+  } else if (entry->children != nullptr && parent != nullptr) {
+    XmlTreeDeleteNode(m_node);  // a container whose parts were taken as they ended
+  }
   if (parent != nullptr) m_node = parent;
 }
 
 void cXmlParserContext::AddError(QZClassFault fault, const char* reason) {
   m_aborted = true;
   SetError(fault, reason);
+}
+
+void cXmlParserContext::Refuse(const char* reason) {
+  AddError(kClassFaultDeclarations, reason);
+  XML_StopParser(m_parser, XML_FALSE);
 }
 
 void cXmlParserContext::AddParserError() {

@@ -51,8 +51,10 @@ class cXmlParserContext {
 
  private:
   struct OpenElement {
-    _XmlElementListTag* entry;  // null for an unknown element
-    int32_t textBytes;          // character data kept so far
+    const _XmlElementListTag* entry;  // null for the document itself
+    _XmlElementListTag* list;         // the elements valid inside, or null
+    uint32_t children;                // a bit for each entry of the list that has occurred
+    int32_t textRoom;                 // bytes of character data that will still be kept
   };
 
   static void XMLCALL StartElement(void* self, const XML_Char* name, const XML_Char** attributes);
@@ -62,24 +64,27 @@ class cXmlParserContext {
                                         const XML_Char* value, int valueLength, const XML_Char* base,
                                         const XML_Char* systemID, const XML_Char* publicID,
                                         const XML_Char* notation);
+  static void XMLCALL AttributeDeclaration(void* self, const XML_Char* element, const XML_Char* name,
+                                           const XML_Char* type, const XML_Char* defaultValue,
+                                           int isRequired);
+  static void XMLCALL NamespaceDeclaration(void* self, const XML_Char* prefix, const XML_Char* name);
   static int XMLCALL UnknownEncoding(void* self, const XML_Char* name, XML_Encoding* encoding);
 
   void Start(const char* name, const char** attributes);
   void End();
   void Text(const char* text, int32_t length);
 
-  // The list of elements valid inside the innermost open element, or null.
-  _XmlElementListTag* ChildList() const;
-  // Whether the open element already holds such a text. Only the first one counts; others are skipped, so
-  // that no element repeated a million times ever fills the memory.
-  bool IsRepeatedText(const _XmlElementListTag& entry) const;
+  // The entry of an element that begins in the innermost open one; null when it is to be skipped.
+  _XmlElementListTag* TakeEntry(const char* name);
+  void AddAttributes(const char** attributes);
   // Bytes to read before parsing again.
   size_t ReadSize() const;
   // Reads chunks of the stream into the parser's buffer. Returns the bytes there are to parse.
   int ReadChunks(std::istream& stream, char* buffer, size_t size);
 
-  // Stops the parse.
+  // End the parse: at the end of the bytes that the parser was given last, or at once.
   void AddError(QZClassFault fault, const char* reason);
+  void Refuse(const char* reason);
   void AddOutOfMemory() { AddError(kClassFaultOutOfMemory, "out of memory"); }
   void AddParserError();
   void SetError(QZClassFault fault, const char* reason);
@@ -87,10 +92,12 @@ class cXmlParserContext {
   qz::ClassRecord* m_classRecord;
   _XmlTreeTag* m_node = nullptr;
   XML_Parser m_parser;
-  int32_t m_depth = 0;  // open elements, known or not
-  std::array<OpenElement, kMaximumDepth> m_path{};
-  bool m_aborted = false;  // the callbacks do nothing any more
+  size_t m_depth = 0;  // open elements that are not skipped
+  std::array<OpenElement, kMaximumDepth + 1> m_path{};
+  uint64_t m_skippedDepth = 0;  // open elements inside these, from an unknown one on
+  bool m_aborted = false;       // the callbacks do nothing any more
   int32_t m_entityCount = 0;
+  int32_t m_attributeCount = 0;  // declared
   uint64_t m_bytesFed = 0;
   bool m_isUtf16 = false;
   QZClassParseReport m_report;

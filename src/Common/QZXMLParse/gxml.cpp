@@ -1,7 +1,6 @@
 #include "Common/QZXMLParse/gxml.h"
 
 #include <array>
-#include <cstring>
 
 using List = _XmlElementListTag;
 
@@ -147,18 +146,13 @@ _XmlElementListTag _gRootElement[2] = {
 
 namespace {
 
-// The first enabled entry of `list` that `matches`, or null.
-template <typename Matches>
-List* _FindEntry(List* list, Matches matches) {
+// The first enabled entry of `list` with that id, or null.
+List* _FindEntryByID(List* list, int32_t id) {
   if (list == nullptr) return nullptr;
   for (List* entry = list; entry->elementID >= 0; ++entry) {
-    if (!entry->disabled && matches(*entry)) return entry;
+    if (!entry->disabled && entry->elementID == id) return entry;
   }
   return nullptr;
-}
-
-List* _FindEntryByID(List* list, int32_t id) {
-  return _FindEntry(list, [id](const List& entry) { return entry.elementID == id; });
 }
 
 // The list valid at the path, or null.
@@ -196,11 +190,6 @@ void _ClearDataHelper(List* list, VisitedLists* visited) {
 }
 
 }  // namespace
-
-_XmlElementListTag* XmlElementFindEntry(_XmlElementListTag* list, const char* name) {
-  return _FindEntry(
-      list, [name](const List& entry) { return *entry.name == *name && std::strcmp(entry.name, name) == 0; });
-}
 
 int32_t XmlElementFindElementID(const int32_t* path, int32_t depth, const char* name) {
   const List* entry = XmlElementFindEntry(_FindTable(path, depth), name);

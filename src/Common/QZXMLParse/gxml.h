@@ -8,6 +8,7 @@
 #define GRADIX_GXML_H
 
 #include <cstdint>
+#include <cstring>
 
 enum XmlElementID : int32_t {
   kElementUnknown = 0,
@@ -110,7 +111,13 @@ struct _XmlElementListTag {
 extern _XmlElementListTag _gRootElement[2];
 
 // The enabled entry of `list` with that name (exact comparison), or null. A null list has no entries.
-_XmlElementListTag* XmlElementFindEntry(_XmlElementListTag* list, const char* name);
+inline _XmlElementListTag* XmlElementFindEntry(_XmlElementListTag* list, const char* name) {
+  if (list == nullptr) return nullptr;
+  for (; list->elementID >= 0; ++list) {
+    if (*list->name == *name && !list->disabled && std::strcmp(list->name, name) == 0) return list;
+  }
+  return nullptr;
+}
 
 // Id of the element `name` at the path; 0 when the path or the name is unknown.
 int32_t XmlElementFindElementID(const int32_t* path, int32_t depth, const char* name);

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QStyle>
 #include <QStyleOptionComboBox>
 #include <ostream>
@@ -112,6 +113,8 @@ TEST_P(Layout, HasRoomForItsTexts) {
         constexpr int kTitleBar = 40;
         EXPECT_LE(dialog->width(), 1024);
         EXPECT_LE(dialog->height(), 600 - kTitleBar);
+        const QPoint middle = dialog->screen()->availableGeometry().center();
+        EXPECT_LE((dialog->geometry().center() - middle).manhattanLength(), 4);
       }
       QApplication::setFont(QFont(Font().family(), 24));  // the desktop's, while the dialog is open
       RunEvents();

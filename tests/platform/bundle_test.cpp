@@ -11,18 +11,19 @@ namespace {
 using Text = CFOwned<CFString>;
 
 // Null for a null text.
-Text Make(const char* text) {
+Text _Make(const char* text) {
   return Text(CFStringCreateWithCString(text, kCFStringEncodingUTF8));
 }
 
-std::string Localized(CFBundleRef bundle, const char* key, const char* value, const char* table) {
-  const Text text(CFBundleCopyLocalizedString(bundle, Make(key).get(), Make(value).get(), Make(table).get()));
+std::string _Localized(CFBundleRef bundle, const char* key, const char* value, const char* table) {
+  const Text text(
+      CFBundleCopyLocalizedString(bundle, _Make(key).get(), _Make(value).get(), _Make(table).get()));
   return text == nullptr ? "(null)" : CFStringGetUTF8(text.get());
 }
 
-std::string ResourcePath(CFBundleRef bundle, const char* name, const char* type, const char* subfolder) {
+std::string _ResourcePath(CFBundleRef bundle, const char* name, const char* type, const char* subfolder) {
   const CFOwned<CFURL> url(
-      CFBundleCopyResourceURL(bundle, Make(name).get(), Make(type).get(), Make(subfolder).get()));
+      CFBundleCopyResourceURL(bundle, _Make(name).get(), _Make(type).get(), _Make(subfolder).get()));
   return url == nullptr ? "(none)" : url->path;
 }
 
@@ -36,7 +37,7 @@ TEST(CFBundle, FollowsTheEnvironment) {
   ASSERT_NE(one, nullptr);
   variable.Set(folder.Path("Two.bundle/"));
   EXPECT_NE(CFBundleGetMainBundle(), one);
-  EXPECT_EQ(ResourcePath(CFBundleGetMainBundle(), "x", nullptr, nullptr),
+  EXPECT_EQ(_ResourcePath(CFBundleGetMainBundle(), "x", nullptr, nullptr),
             folder.Path("Two.bundle/Resources/x"));
   variable.Set(folder.Path("One.bundle"));
   EXPECT_EQ(CFBundleGetMainBundle(), one);
@@ -71,10 +72,10 @@ TEST(CFBundle, FindsResourcesInsideOnly) {
   for (const auto& row : rows) {
     const std::string expected =
         row.expected == nullptr ? "(none)" : folder.Path(std::string("B.bundle/Resources/") + row.expected);
-    EXPECT_EQ(ResourcePath(bundle, row.name, row.type, row.subfolder), expected)
+    EXPECT_EQ(_ResourcePath(bundle, row.name, row.type, row.subfolder), expected)
         << (row.name == nullptr ? "(null)" : row.name);
   }
-  EXPECT_EQ(ResourcePath(nullptr, "page.html", nullptr, nullptr), "(none)");
+  EXPECT_EQ(_ResourcePath(nullptr, "page.html", nullptr, nullptr), "(none)");
 }
 
 TEST(CFBundle, LocalizesStrings) {
@@ -83,19 +84,19 @@ TEST(CFBundle, LocalizesStrings) {
   folder.Write("B.bundle/Resources/Localizable.strings", "\"ok\" = \"default\";");
   const ScopedEnvironment variable("GRADIX_BUNDLE", folder.Path("B.bundle"));
   const CFBundleRef bundle = CFBundleGetMainBundle();
-  EXPECT_EQ(Localized(bundle, "ok", "OK", "Main"), "D'accord");
-  EXPECT_EQ(Localized(bundle, "empty", "x", "Main"), "");
-  EXPECT_EQ(Localized(bundle, "ok", "OK", nullptr), "default");
-  EXPECT_EQ(Localized(bundle, "missing", "value", "Main"), "value");
-  EXPECT_EQ(Localized(bundle, "missing", "", "Main"), "missing");
-  EXPECT_EQ(Localized(bundle, "missing", nullptr, "Main"), "missing");
-  EXPECT_EQ(Localized(bundle, "ok", "value", "NoTable"), "value");
-  EXPECT_EQ(Localized(bundle, "ok", "value", "../Resources/Main"), "value");
-  EXPECT_EQ(Localized(nullptr, "ok", "value", "Main"), "value");
-  EXPECT_EQ(Localized(bundle, nullptr, nullptr, "Main"), "(null)");
+  EXPECT_EQ(_Localized(bundle, "ok", "OK", "Main"), "D'accord");
+  EXPECT_EQ(_Localized(bundle, "empty", "x", "Main"), "");
+  EXPECT_EQ(_Localized(bundle, "ok", "OK", nullptr), "default");
+  EXPECT_EQ(_Localized(bundle, "missing", "value", "Main"), "value");
+  EXPECT_EQ(_Localized(bundle, "missing", "", "Main"), "missing");
+  EXPECT_EQ(_Localized(bundle, "missing", nullptr, "Main"), "missing");
+  EXPECT_EQ(_Localized(bundle, "ok", "value", "NoTable"), "value");
+  EXPECT_EQ(_Localized(bundle, "ok", "value", "../Resources/Main"), "value");
+  EXPECT_EQ(_Localized(nullptr, "ok", "value", "Main"), "value");
+  EXPECT_EQ(_Localized(bundle, nullptr, nullptr, "Main"), "(null)");
 
   folder.Write("B.bundle/Resources/Main.strings", "\"ok\" = \"changed\";");
-  EXPECT_EQ(Localized(bundle, "ok", "OK", "Main"), "D'accord") << "read once";
+  EXPECT_EQ(_Localized(bundle, "ok", "OK", "Main"), "D'accord") << "read once";
 }
 
 TEST(StringsTable, ReadsUpToTheFirstMalformedEntry) {

@@ -11,12 +11,12 @@
 
 namespace {
 
-std::string PathOf(const FSRef& file) {
+std::string _PathOf(const FSRef& file) {
   char path[4096];
   return FSRefMakePath(&file, path, sizeof(path)) == noErr ? path : "(none)";
 }
 
-std::string URLText(CFURLRef url) {
+std::string _URLText(CFURLRef url) {
   std::string text = url == nullptr ? "(none)" : CFStringGetUTF8(CFURLGetString(url));
   CFRelease(url);
   return text;
@@ -29,14 +29,14 @@ TEST(FSRef, HoldsAPath) {
   bool isDirectory = true;
   ASSERT_EQ(FSPathMakeRef(path.c_str(), &file, &isDirectory), noErr);
   EXPECT_FALSE(isDirectory);
-  EXPECT_EQ(PathOf(file), path);
+  EXPECT_EQ(_PathOf(file), path);
 
   FSRef other;
   ASSERT_EQ(FSPathMakeRef((folder.Path() + "//./").c_str(), &other, &isDirectory), noErr);
   EXPECT_TRUE(isDirectory);
-  EXPECT_EQ(PathOf(other), folder.Path());
+  EXPECT_EQ(_PathOf(other), folder.Path());
   ASSERT_EQ(FSPathMakeRef("/", &other, nullptr), noErr);
-  EXPECT_EQ(PathOf(other), "/");
+  EXPECT_EQ(_PathOf(other), "/");
 
   const std::filesystem::path old = std::filesystem::current_path();
   std::filesystem::current_path(folder.Path());
@@ -47,7 +47,7 @@ TEST(FSRef, HoldsAPath) {
   EXPECT_EQ(FSPathMakeRef(folder.Path("missing").c_str(), &other, nullptr), fnfErr);
   EXPECT_EQ(FSPathMakeRef((path + "/below").c_str(), &other, nullptr), fnfErr);
   EXPECT_EQ(FSPathMakeRef("", &other, nullptr), fnfErr);
-  EXPECT_EQ(PathOf(other), path) << "untouched by failures";
+  EXPECT_EQ(_PathOf(other), path) << "untouched by failures";
 
   std::string buffer(path.size() + 1, '#');
   EXPECT_EQ(FSRefMakePath(&file, buffer.data(), static_cast<uint32_t>(path.size())), paramErr);
@@ -102,7 +102,7 @@ TEST(Directories, HaveIdsForGood) {
 
   FSRef found;
   ASSERT_EQ(FSMakeFSRefFromID(volume, id, &found), noErr);
-  EXPECT_EQ(PathOf(found), folder.Path("sub"));
+  EXPECT_EQ(_PathOf(found), folder.Path("sub"));
   EXPECT_EQ(FSRefToID(&file, &volume, &id), dirNFErr) << "no folder";
   EXPECT_EQ(PathToID(folder.Path("missing/file").c_str(), &volume, &id), dirNFErr);
   for (const int32_t unknown : {INT32_MIN, -1, 0, 1, id + 1000000, INT32_MAX}) {
@@ -146,7 +146,7 @@ TEST(Directories, ResolvePartialPaths) {
     SCOPED_TRACE(row.path);
     FSRef file{};
     EXPECT_EQ(FSResolvePartialPath(volume, id, row.path.c_str(), &file), row.result);
-    EXPECT_EQ(PathOf(file), row.result == noErr ? folder.Path(row.expected) : "(none)");
+    EXPECT_EQ(_PathOf(file), row.result == noErr ? folder.Path(row.expected) : "(none)");
   }
   FSRef file;
   EXPECT_EQ(FSResolvePartialPath(0, id, "file", &file), nsvErr);
@@ -160,17 +160,17 @@ TEST(Directories, TemporaryFolder) {
   EXPECT_EQ(FSFindFolder(kTemporaryFolderType, false, &found), fnfErr);
   for (const bool create : {true, true, false}) {
     ASSERT_EQ(FSFindFolder(kTemporaryFolderType, create, &found), noErr);
-    EXPECT_EQ(PathOf(found), folder.Path("temporary"));
+    EXPECT_EQ(_PathOf(found), folder.Path("temporary"));
   }
   EXPECT_EQ(FSFindFolder(FourCharCode("pref"), true, &found), fnfErr);
   variable.Set("");
   ASSERT_EQ(FSFindFolder(kTemporaryFolderType, false, &found), noErr);
-  EXPECT_EQ(PathOf(found), "/tmp");
+  EXPECT_EQ(_PathOf(found), "/tmp");
 }
 
 TEST(CFURL, TextIsPercentEncoded) {
   const auto text = [](const char* path, bool isDirectory) {
-    return URLText(CFURLCreateWithFileSystemPath(path, isDirectory));
+    return _URLText(CFURLCreateWithFileSystemPath(path, isDirectory));
   };
   EXPECT_EQ(text("/a b/100%/c?d#e", false), "file:///a%20b/100%25/c%3Fd%23e");
   EXPECT_EQ(text("/n\xC3\xA9/\xFF", true), "file:///n%C3%A9/%FF/");
@@ -184,16 +184,16 @@ TEST(CFURL, LeadsToTheFolderAndBackToFiles) {
   const CFURLRef url = CFURLCreateWithFileSystemPath(path.c_str(), false);
   FSRef file;
   ASSERT_TRUE(CFURLGetFSRef(url, &file));
-  EXPECT_EQ(PathOf(file), path);
-  EXPECT_EQ(URLText(CFURLCreateFromFSRef(&file)), CFStringGetUTF8(CFURLGetString(url)));
+  EXPECT_EQ(_PathOf(file), path);
+  EXPECT_EQ(_URLText(CFURLCreateFromFSRef(&file)), CFStringGetUTF8(CFURLGetString(url)));
   const CFURLRef parent = CFURLCreateCopyDeletingLastPathComponent(url);
   CFRelease(url);
   ASSERT_TRUE(CFURLGetFSRef(parent, &file));
-  EXPECT_EQ(PathOf(file), folder.Path());
+  EXPECT_EQ(_PathOf(file), folder.Path());
   const std::string parentText = CFStringGetUTF8(CFURLGetString(parent));
   CFRelease(parent);
   EXPECT_EQ(parentText.back(), '/');
-  EXPECT_EQ(URLText(CFURLCreateFromFSRef(&file)), parentText);
+  EXPECT_EQ(_URLText(CFURLCreateFromFSRef(&file)), parentText);
 
   const CFURLRef root = CFURLCreateWithFileSystemPath("/", true);
   EXPECT_EQ(CFURLCreateCopyDeletingLastPathComponent(root), nullptr);

@@ -42,7 +42,7 @@ const size_t kTypeList = kMapOffset + 28;
 const size_t kReferences = kTypeList + 2 + size_t{2} * 8;
 const size_t kNames = kReferences + size_t{3} * 12;
 
-void Put(std::string* fork, size_t offset, const std::string& bytes) {
+void _Put(std::string* fork, size_t offset, const std::string& bytes) {
   ASSERT_LE(offset + bytes.size(), fork->size());
   fork->replace(offset, bytes.size(), bytes);
 }
@@ -89,7 +89,7 @@ TEST(ResourceFork, SurvivesExtremeFields) {
       for (const int width : {2, 4}) {
         std::string fork = valid;
         if (offset + static_cast<size_t>(width) > fork.size()) continue;
-        Put(&fork, offset, BigEndian(value, width));
+        _Put(&fork, offset, BigEndian(value, width));
         const ForkResult result(fork);
         for (const TestResource& entry : result.entries) EXPECT_LE(entry.data.size(), fork.size());
       }
@@ -123,7 +123,7 @@ TEST(ResourceFork, RefusesWhatPointsOutside) {
   };
   for (const auto& row : rows) {
     std::string fork = BuildFork(kTypes);
-    Put(&fork, row.offset, row.bytes);
+    _Put(&fork, row.offset, row.bytes);
     EXPECT_FALSE(ForkResult(fork).valid) << row.name;
   }
 }

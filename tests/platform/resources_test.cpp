@@ -12,25 +12,25 @@ namespace {
 
 constexpr ResType kText = FourCharCode("TEXT");
 
-std::string TextFork(int16_t id, const std::string& text) {
+std::string _TextFork(int16_t id, const std::string& text) {
   return BuildFork({{"TEXT", {{id, text}}}});
 }
 
-OSErr OpenPath(const std::string& path, ResFileRefNum* number) {
+OSErr _OpenPath(const std::string& path, ResFileRefNum* number) {
   FSRef file;
   const OSStatus made = FSPathMakeRef(path.c_str(), &file, nullptr);
   return made != noErr ? static_cast<OSErr>(made) : FSOpenResourceFile(&file, 0, nullptr, fsRdPerm, number);
 }
 
-std::string TextOf(Handle handle) {
+std::string _TextOf(Handle handle) {
   return handle == nullptr ? "(none)" : std::string(*handle, GetHandleSize(handle));
 }
 
-std::string Text(int16_t id) {
-  return TextOf(GetResource(kText, id));
+std::string _Text(int16_t id) {
+  return _TextOf(GetResource(kText, id));
 }
 
-size_t OpenDescriptors() {
+size_t _OpenDescriptors() {
   size_t count = 0;
   for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator("/proc/self/fd")) ++count;
   return count;
@@ -44,7 +44,7 @@ class ResourcesTest : public ::testing::Test {
 
   ResFileRefNum Open(const std::string& name, const std::string& fork) {
     ResFileRefNum number = -1;
-    EXPECT_EQ(OpenPath(m_folder.Write(name, fork), &number), noErr);
+    EXPECT_EQ(_OpenPath(m_folder.Write(name, fork), &number), noErr);
     return number;
   }
 
@@ -59,28 +59,28 @@ TEST_F(ResourcesTest, SearchesFromTheCurrentFileBackToTheApplication) {
   }
   m_bundle.Set(m_folder.Path("A.bundle"));
   EXPECT_EQ(CurResFile(), 0);
-  EXPECT_EQ(Text(1), "appA");
+  EXPECT_EQ(_Text(1), "appA");
 
   const ResFileRefNum first = Open("1", BuildFork({{"TEXT", {{1, "first"}, {2, "first"}, {2, "again"}}}}));
   const ResFileRefNum second =
       Open("2", BuildFork({{"TEXT", {{1, "second"}}}, {"text", {{2, "other type"}}}}));
   EXPECT_NE(first, second);
   EXPECT_EQ(CurResFile(), second);
-  EXPECT_EQ(Text(1), "second");
-  EXPECT_EQ(Text(2), "first");
-  EXPECT_EQ(Text(4), "app");
-  EXPECT_EQ(Text(3), "(none)");
+  EXPECT_EQ(_Text(1), "second");
+  EXPECT_EQ(_Text(2), "first");
+  EXPECT_EQ(_Text(4), "app");
+  EXPECT_EQ(_Text(3), "(none)");
   EXPECT_EQ(ResError(), resNotFound);
 
   UseResFile(first);
-  EXPECT_EQ(Text(1), "first");
+  EXPECT_EQ(_Text(1), "first");
   UseResFile(0);
-  EXPECT_EQ(Text(1), "appA");
-  EXPECT_EQ(Text(2), "(none)");
+  EXPECT_EQ(_Text(1), "appA");
+  EXPECT_EQ(_Text(2), "(none)");
   m_bundle.Set(m_folder.Path("B.bundle"));
-  EXPECT_EQ(Text(1), "appB");
+  EXPECT_EQ(_Text(1), "appB");
   m_bundle.Set(m_folder.Path("None.bundle"));
-  EXPECT_EQ(Text(1), "(none)");
+  EXPECT_EQ(_Text(1), "(none)");
 
   UseResFile(second);
   UseResFile(12345);
@@ -88,14 +88,14 @@ TEST_F(ResourcesTest, SearchesFromTheCurrentFileBackToTheApplication) {
   EXPECT_EQ(CurResFile(), second);
   CloseResFile(second);
   EXPECT_EQ(CurResFile(), first);
-  EXPECT_EQ(Text(1), "first");
+  EXPECT_EQ(_Text(1), "first");
   CloseResFile(second);
   EXPECT_EQ(ResError(), resFNotFound);
 }
 
 TEST_F(ResourcesTest, ClosingAnotherFileKeepsTheCurrentOne) {
-  const ResFileRefNum first = Open("1", TextFork(1, "first"));
-  const ResFileRefNum second = Open("2", TextFork(1, "second"));
+  const ResFileRefNum first = Open("1", _TextFork(1, "first"));
+  const ResFileRefNum second = Open("2", _TextFork(1, "second"));
   CloseResFile(first);
   EXPECT_EQ(CurResFile(), second);
   CloseResFile(second);
@@ -103,30 +103,30 @@ TEST_F(ResourcesTest, ClosingAnotherFileKeepsTheCurrentOne) {
 }
 
 TEST_F(ResourcesTest, OpensAFileOnce) {
-  const ResFileRefNum first = Open("1", TextFork(1, "first"));
+  const ResFileRefNum first = Open("1", _TextFork(1, "first"));
   const Handle handle = GetResource(kText, 1);
-  Open("2", TextFork(2, "second"));
+  Open("2", _TextFork(2, "second"));
   std::filesystem::create_hard_link(m_folder.Path("1"), m_folder.Path("link"));
   std::filesystem::create_symlink("1", m_folder.Path("symlink"));
-  const size_t descriptors = OpenDescriptors();
+  const size_t descriptors = _OpenDescriptors();
   for (int i = 0; i < 3000; ++i) {
     ResFileRefNum number = -1;
-    ASSERT_EQ(OpenPath(m_folder.Path(i % 3 == 0 ? "1" : i % 3 == 1 ? "link" : "symlink"), &number), noErr);
+    ASSERT_EQ(_OpenPath(m_folder.Path(i % 3 == 0 ? "1" : i % 3 == 1 ? "link" : "symlink"), &number), noErr);
     ASSERT_EQ(number, first);
     ASSERT_EQ(CurResFile(), first);
     ASSERT_EQ(GetResource(kText, 1), handle);
   }
-  EXPECT_EQ(OpenDescriptors(), descriptors);
-  EXPECT_EQ(Text(2), "(none)") << "the second file comes before the first no more";
+  EXPECT_EQ(_OpenDescriptors(), descriptors);
+  EXPECT_EQ(_Text(2), "(none)") << "the second file comes before the first no more";
 }
 
 TEST_F(ResourcesTest, NumbersOfClosedFilesAreUnknown) {
-  const ResFileRefNum kept = Open("1", TextFork(1, "kept"));
-  const std::string path = m_folder.Write("2", TextFork(1, "again"));
+  const ResFileRefNum kept = Open("1", _TextFork(1, "kept"));
+  const std::string path = m_folder.Write("2", _TextFork(1, "again"));
   ResFileRefNum previous = -1;
   for (int i = 0; i < 40000; ++i) {  // more than there are numbers
     ResFileRefNum number = -1;
-    ASSERT_EQ(OpenPath(path, &number), noErr);
+    ASSERT_EQ(_OpenPath(path, &number), noErr);
     ASSERT_GT(number, 0);
     ASSERT_NE(number, kept);
     ASSERT_NE(number, previous);
@@ -138,8 +138,8 @@ TEST_F(ResourcesTest, NumbersOfClosedFilesAreUnknown) {
 }
 
 TEST_F(ResourcesTest, FailedOpenLeavesTheCurrentFile) {
-  const ResFileRefNum current = Open("good", TextFork(1, "good"));
-  const std::string fork = TextFork(1, "cut");
+  const ResFileRefNum current = Open("good", _TextFork(1, "good"));
+  const std::string fork = _TextFork(1, "cut");
   std::filesystem::create_directory(m_folder.Path("folder"));
   std::filesystem::resize_file(m_folder.Write("huge", fork), (size_t{16} << 20) + 1);
   m_folder.Write("cut", fork.substr(0, fork.size() - 1));
@@ -152,7 +152,7 @@ TEST_F(ResourcesTest, FailedOpenLeavesTheCurrentFile) {
   EXPECT_EQ(FSOpenResourceFile(&gone, 0, nullptr, fsRdPerm, &number), fnfErr);
   EXPECT_EQ(number, -1);
   for (const char* name : {"folder", "huge", "cut", "empty"}) {
-    EXPECT_EQ(OpenPath(m_folder.Path(name), &number), mapReadErr) << name;
+    EXPECT_EQ(_OpenPath(m_folder.Path(name), &number), mapReadErr) << name;
     EXPECT_EQ(ResError(), mapReadErr) << name;
   }
   FSRef good;
@@ -162,7 +162,7 @@ TEST_F(ResourcesTest, FailedOpenLeavesTheCurrentFile) {
   const FSRef none{};
   EXPECT_EQ(FSOpenResourceFile(&none, 0, nullptr, fsRdPerm, &number), paramErr);
   EXPECT_EQ(CurResFile(), current);
-  EXPECT_EQ(Text(1), "good");
+  EXPECT_EQ(_Text(1), "good");
 }
 
 TEST_F(ResourcesTest, HandlesLiveUntilReleasedOrDetached) {
@@ -176,10 +176,10 @@ TEST_F(ResourcesTest, HandlesLiveUntilReleasedOrDetached) {
   (*handle)[0] = 'J';
   DetachResource(handle);
   EXPECT_EQ(GetResourceSizeOnDisk(handle), -1);
-  EXPECT_EQ(Text(1), "hello") << "another block";
+  EXPECT_EQ(_Text(1), "hello") << "another block";
   ReleaseResource(handle);  // no resource any more: ignored
   EXPECT_EQ(ResError(), resNotFound);
-  EXPECT_EQ(TextOf(handle), "Jello");
+  EXPECT_EQ(_TextOf(handle), "Jello");
 
   const Handle second = GetResource(kText, 1);
   ReleaseResource(second);
@@ -192,7 +192,7 @@ TEST_F(ResourcesTest, HandlesLiveUntilReleasedOrDetached) {
   const Handle closed = GetResource(kText, 1);
   CloseResFile(number);
   EXPECT_EQ(GetResourceSizeOnDisk(closed), -1);
-  EXPECT_EQ(TextOf(handle), "Jello") << "detached from its file";
+  EXPECT_EQ(_TextOf(handle), "Jello") << "detached from its file";
   DisposeHandle(handle);
 }
 
@@ -220,7 +220,7 @@ TEST(Memory, BlocksAreClearedAndAligned) {
     ASSERT_NE(handle, nullptr);
     EXPECT_EQ(GetHandleSize(handle), size);
     EXPECT_EQ(reinterpret_cast<uintptr_t>(*handle) % alignof(std::max_align_t), 0U);
-    EXPECT_EQ(TextOf(handle), std::string(size, '\0'));
+    EXPECT_EQ(_TextOf(handle), std::string(size, '\0'));
     DisposeHandle(handle);
   }
   EXPECT_EQ(NewHandleClear(SIZE_MAX), nullptr);

@@ -29,7 +29,7 @@ const Report kReports[] = {
     {"detailed-no-fields", 0, {true, true, true, false, true}},
 };
 
-const qz::ClassRecord& SampleClass() {
+const qz::ClassRecord& _SampleClass() {
   static const qz::ClassRecord record = [] {
     qz::ClassRecord parsed;
     std::ifstream stream(SAMPLES "/secondary-school.xml", std::ios::binary);
@@ -39,9 +39,9 @@ const qz::ClassRecord& SampleClass() {
   return record;
 }
 
-void ExpectAllGolden() {
+void _ExpectAllGolden() {
   for (const FormatRow& format : FormatTable()) {
-    qz::ClassRecord record = SampleClass();
+    qz::ClassRecord record = _SampleClass();
     record.userIDField = format.defaultUserIDField;
     if (format.index == kDetailedResultsFormat) continue;
     for (qz::AssignmentRecord& assignment : record.assignments) assignment.selected = true;
@@ -52,7 +52,7 @@ void ExpectAllGolden() {
     }
   }
   for (const Report& report : kReports) {
-    qz::ClassRecord record = SampleClass();
+    qz::ClassRecord record = _SampleClass();
     for (qz::AssignmentRecord& assignment : record.assignments) {
       assignment.selected = assignment.id == kReportedAssignment;
     }
@@ -63,12 +63,12 @@ void ExpectAllGolden() {
 }
 
 TEST(Golden, EveryFormatOfTheSampleClass) {
-  ExpectAllGolden();
+  _ExpectAllGolden();
 }
 
 TEST(Golden, TheSameInAGermanProcess) {
   if (std::setlocale(LC_ALL, "de_DE.UTF-8") == nullptr) GTEST_SKIP() << "no German locale on this machine";
-  ExpectAllGolden();
+  _ExpectAllGolden();
   std::setlocale(LC_ALL, "C");
 }
 

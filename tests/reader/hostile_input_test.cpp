@@ -8,7 +8,7 @@
 
 namespace {
 
-std::string Repeated(const std::string& text, size_t count) {
+std::string _Repeated(const std::string& text, size_t count) {
   std::string result;
   result.reserve(text.size() * count);
   for (size_t i = 0; i < count; ++i) result += text;
@@ -16,7 +16,7 @@ std::string Repeated(const std::string& text, size_t count) {
 }
 
 // `before`, a number, `after`, for each number below `count`.
-std::string Numbered(const char* before, int count, const char* after) {
+std::string _Numbered(const char* before, int count, const char* after) {
   std::ostringstream result;
   for (int i = 0; i < count; ++i) result << before << i << after;
   return result.str();
@@ -91,17 +91,17 @@ TEST(HostileInput, HugeDocuments) {
   const std::string student = "<class><student-list><student id='5'>";
   const std::string end = "</student></student-list></class>";
   const Row rows[] = {
-      {"elements a million deep", "<class>" + Repeated("<d>", kMany) + Repeated("</d>", kMany) + "</class>",
+      {"elements a million deep", "<class>" + _Repeated("<d>", kMany) + _Repeated("</d>", kMany) + "</class>",
        0, 0, ""},
       {"one very long attribute", "<class><student-list x='" + std::string(20 * kMany, 'x') + "'/></class>",
        0, 0, ""},
       {"one very long comment", "<class><!--" + std::string(20 * kMany, 'x') + "--></class>", 0, 0, ""},
       {"one very long text", student + "<alias>" + std::string(20 * kMany, '\n') + "</alias>" + end, 1, 0,
        ""},
-      {"one text a million times", student + Repeated("<alias/>", kMany) + end, 1, 0, ""},
-      {"one list a million times", "<class>" + Repeated("<student-list/>", kMany) + "</class>", 0, 0, ""},
-      {"many preferences", "<class>" + Repeated("<preferences/>", kMany) + "</class>", 0, 0, ""},
-      {"many attributes", "<class" + Numbered(" a", 100000, "=''") + "/>", 0, 0, ""},
+      {"one text a million times", student + _Repeated("<alias/>", kMany) + end, 1, 0, ""},
+      {"one list a million times", "<class>" + _Repeated("<student-list/>", kMany) + "</class>", 0, 0, ""},
+      {"many preferences", "<class>" + _Repeated("<preferences/>", kMany) + "</class>", 0, 0, ""},
+      {"many attributes", "<class" + _Numbered(" a", 100000, "=''") + "/>", 0, 0, ""},
   };
   for (const Row& row : rows) {
     std::istringstream stream(row.document);
@@ -116,7 +116,7 @@ TEST(HostileInput, EntitiesNeitherGrowNorNestWithoutBound) {
   std::ostringstream laughs;
   laughs << "<!DOCTYPE class [<!ENTITY e0 'haha'>";
   for (int i = 1; i <= 30; ++i) {
-    laughs << "<!ENTITY e" << i << " '" << Repeated("&e" + std::to_string(i - 1) + ";", 10) << "'>";
+    laughs << "<!ENTITY e" << i << " '" << _Repeated("&e" + std::to_string(i - 1) + ";", 10) << "'>";
   }
   laughs << "]><class><class-name>&e30;</class-name></class>";
 

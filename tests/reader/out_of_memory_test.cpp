@@ -18,7 +18,7 @@ namespace {
 constexpr long kNever = -1;
 long gAllocationsLeft = kNever;  // until the one that fails
 
-bool Fails() {
+bool _Fails() {
   if (gAllocationsLeft == kNever) return false;
   return gAllocationsLeft == 0 || --gAllocationsLeft == 0;
 }
@@ -29,21 +29,21 @@ extern "C" {
 void* __real_malloc(size_t size);
 void* __real_realloc(void* block, size_t size);
 void* __wrap_malloc(size_t size) {
-  return Fails() ? nullptr : __real_malloc(size);
+  return _Fails() ? nullptr : __real_malloc(size);
 }
 void* __wrap_realloc(void* block, size_t size) {
-  return Fails() ? nullptr : __real_realloc(block, size);
+  return _Fails() ? nullptr : __real_realloc(block, size);
 }
 }
 
 // Not inlined, or the compiler sees through them and takes new and free for a mismatch.
 [[gnu::noinline]] void* operator new(size_t size) {
-  void* block = Fails() ? nullptr : __real_malloc(size);
+  void* block = _Fails() ? nullptr : __real_malloc(size);
   if (block == nullptr) throw std::bad_alloc();
   return block;
 }
 [[gnu::noinline]] void* operator new(size_t size, const std::nothrow_t&) noexcept {
-  return Fails() ? nullptr : __real_malloc(size);
+  return _Fails() ? nullptr : __real_malloc(size);
 }
 [[gnu::noinline]] void operator delete(void* block) noexcept {
   std::free(block);

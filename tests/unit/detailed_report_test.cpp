@@ -8,7 +8,7 @@ namespace {
 
 using Options = std::array<bool, qz::kReportOptionCount>;
 
-qz::QuestionRecord Question(int32_t id, int32_t bank, const char* answer, double points) {
+qz::QuestionRecord _Question(int32_t id, int32_t bank, const char* answer, double points) {
   qz::QuestionRecord question;
   question.number = 50 + id;  // not what the report counts by
   question.questionID = id;
@@ -19,7 +19,7 @@ qz::QuestionRecord Question(int32_t id, int32_t bank, const char* answer, double
 }
 
 // Two students, one of them absent, and two questions.
-qz::ClassRecord SmallClass() {
+qz::ClassRecord _SmallClass() {
   qz::ClassRecord record;
   record.students.resize(2);
   record.students[0].id = 7;
@@ -32,7 +32,7 @@ qz::ClassRecord SmallClass() {
   record.assignments[2].selected = true;  // only the first selected one is reported
   qz::AssignmentRecord& quiz = record.assignments[1];
   quiz.selected = true;
-  quiz.questions = {Question(11, 2, "B", 2.0), Question(12, 2, "C", 1.0)};
+  quiz.questions = {_Question(11, 2, "B", 2.0), _Question(12, 2, "C", 1.0)};
   quiz.results.resize(1);
   quiz.results[0].studentID = 7;
   quiz.results[0].responses = {
@@ -56,7 +56,7 @@ TEST(DetailedReport, GoldenFiles) {
       {"no-questions", 4, {true, false, false, true, true}},
   };
   for (const auto& row : rows) {
-    qz::ClassRecord record = SmallClass();
+    qz::ClassRecord record = _SmallClass();
     record.optionValue = row.fields;
     record.options = row.options;
     ExpectGolden(std::string("small-class.detailed-") + row.name, Exported("detailed", record));
@@ -99,11 +99,11 @@ TEST(DetailedReport, WritesStudentColumnsInItsOwnOrder) {
 }
 
 TEST(Responses, AreFoundByQuestionAndBank) {
-  const qz::AssignmentRecord quiz = SmallClass().assignments[1];
+  const qz::AssignmentRecord quiz = _SmallClass().assignments[1];
   const qz::ResponseRecord* response = quiz.results[0].FindResponseForQuestion(quiz.questions[1]);
   ASSERT_NE(response, nullptr);
   EXPECT_EQ(response->text, "A");
-  EXPECT_EQ(quiz.results[0].FindResponseForQuestion(Question(12, 4, "", 0)), nullptr);
+  EXPECT_EQ(quiz.results[0].FindResponseForQuestion(_Question(12, 4, "", 0)), nullptr);
 }
 
 TEST(DetailedReport, MarksResponsesOfFullPoints) {
@@ -115,10 +115,10 @@ TEST(DetailedReport, MarksResponsesOfFullPoints) {
       {2.0, 1.0, "\"*x\""}, {0.0, 0.0, "\"*x\""},
   };
   for (const auto& row : rows) {
-    qz::ClassRecord record = SmallClass();
+    qz::ClassRecord record = _SmallClass();
     record.optionValue = 0;
     record.students.resize(1);
-    record.assignments[1].questions = {Question(1, 1, "", row.possible)};
+    record.assignments[1].questions = {_Question(1, 1, "", row.possible)};
     record.assignments[1].results[0].responses = {{1, 1, "x", row.earned}};
     EXPECT_EQ(Exported("detailed", record), std::string("1\n") + row.cell + "\n") << row.earned;
     record.assignments[1].results[0].responses[0].text.clear();
@@ -129,7 +129,7 @@ TEST(DetailedReport, MarksResponsesOfFullPoints) {
 
 TEST(DetailedReport, NeedsASelectedAssignment) {
   const auto session = NewSession(*FindFormat("detailed"));
-  *session->GetClass() = SmallClass();
+  *session->GetClass() = _SmallClass();
   for (qz::AssignmentRecord& assignment : session->GetClass()->assignments) assignment.selected = false;
   const std::filesystem::path path = TestPath("none.csv");
   EXPECT_EQ(session->Export(path.string().c_str()), QZFILTER_FAILED);

@@ -35,7 +35,7 @@ size_t gPeak = 0;
 namespace {
 
 // The most that writing a class of `n` students holds: `n` assignments, `n` results and `n` questions.
-size_t PeakOf(const FormatRow& format, int32_t n) {
+size_t _PeakOf(const FormatRow& format, int32_t n) {
   const auto session = NewSession(format);
   qz::ClassRecord* record = session->GetClass();
   record->students.resize(static_cast<size_t>(n));
@@ -59,9 +59,9 @@ size_t PeakOf(const FormatRow& format, int32_t n) {
 TEST(ExportMemory, FollowsStudentsAndResults) {
   for (const FormatRow& format : FormatTable()) {
     constexpr int32_t kSmall = 150;
-    const auto small = static_cast<double>(PeakOf(format, kSmall));
+    const auto small = static_cast<double>(_PeakOf(format, kSmall));
     for (const int32_t times : {2, 4}) {
-      const double ratio = static_cast<double>(PeakOf(format, times * kSmall)) / small;
+      const double ratio = static_cast<double>(_PeakOf(format, times * kSmall)) / small;
       EXPECT_LT(ratio, 1.5 * times) << format.key;
     }
   }

@@ -8,15 +8,15 @@
 
 namespace {
 
-qz::ResultsRecord Results(int32_t student, std::initializer_list<double> points) {
+qz::ResultsRecord _Results(int32_t student, std::initializer_list<double> points) {
   qz::ResultsRecord results;
   results.studentID = student;
   for (const double earned : points) results.responses.push_back({1, 1, "", earned});
   return results;
 }
 
-qz::StudentRecord Student(int32_t id, const char* first, const char* last, const char* number,
-                          const char* alias) {
+qz::StudentRecord _Student(int32_t id, const char* first, const char* last, const char* number,
+                           const char* alias) {
   qz::StudentRecord student;
   student.id = id;
   student.firstName = first;
@@ -27,28 +27,28 @@ qz::StudentRecord Student(int32_t id, const char* first, const char* last, const
 }
 
 // Ann has a result in the first quiz, Bo a zero in the first and an odd one in the second, Cy none at all.
-qz::ClassRecord SmallClass() {
+qz::ClassRecord _SmallClass() {
   qz::ClassRecord record;
-  record.students = {Student(7, "Ann", "Smith", "1001", "asmith"),
-                     Student(8, "Bo \"B\"", "Lee, Jr.", "", "b\"l"), Student(9, "", "\x8Ek", "1003", "")};
+  record.students = {_Student(7, "Ann", "Smith", "1001", "asmith"),
+                     _Student(8, "Bo \"B\"", "Lee, Jr.", "", "b\"l"), _Student(9, "", "\x8Ek", "1003", "")};
   record.assignments.resize(4);
   record.assignments[0].name = "Quiz \"1\"";
   record.assignments[0].pointsPossible = 8;
-  record.assignments[0].results = {Results(8, {0.0}), Results(7, {3.0, 4.0}), Results(7, {1.0})};
+  record.assignments[0].results = {_Results(8, {0.0}), _Results(7, {3.0, 4.0}), _Results(7, {1.0})};
   record.assignments[1].name = "not exported";
-  record.assignments[1].results = {Results(7, {5.0})};
+  record.assignments[1].results = {_Results(7, {5.0})};
   record.assignments[2].name = "Quiz 2";
   record.assignments[2].pointsPossible = 3;
-  record.assignments[2].results = {Results(8, {2.0}), Results(99, {9.0})};
+  record.assignments[2].results = {_Results(8, {2.0}), _Results(99, {9.0})};
   record.assignments[3].name = "Bonus";
-  record.assignments[3].results = {Results(8, {1234567.0})};
+  record.assignments[3].results = {_Results(8, {1234567.0})};
   for (const size_t index : {0U, 2U, 3U}) record.assignments[index].selected = true;
   return record;
 }
 
 // Each format's file, and that of a class of one student and no selected assignment.
 TEST(GradebookFormats, GoldenFiles) {
-  qz::ClassRecord bare = SmallClass();
+  qz::ClassRecord bare = _SmallClass();
   bare.students.resize(1);
   for (qz::AssignmentRecord& assignment : bare.assignments) assignment.selected = false;
   for (const FormatRow& format : FormatTable()) {
@@ -56,7 +56,7 @@ TEST(GradebookFormats, GoldenFiles) {
     for (const bool useQuotes : {true, false}) {
       if (!useQuotes && !format.hasUnquotedVariant) continue;
       const std::string name = std::string("small-class.") + format.key + (useQuotes ? "" : "-unquoted");
-      ExpectGolden(name, Exported(format.key, SmallClass(), useQuotes));
+      ExpectGolden(name, Exported(format.key, _SmallClass(), useQuotes));
       ExpectGolden(name + "-bare", Exported(format.key, bare, useQuotes));
     }
   }
@@ -65,13 +65,13 @@ TEST(GradebookFormats, GoldenFiles) {
 TEST(GradebookFormats, OnlyTheLaterBlackboardsCanLeaveOutQuotes) {
   for (const FormatRow& format : FormatTable()) {
     const bool differs =
-        Exported(format.key, SmallClass(), true) != Exported(format.key, SmallClass(), false);
+        Exported(format.key, _SmallClass(), true) != Exported(format.key, _SmallClass(), false);
     EXPECT_EQ(differs, format.hasUnquotedVariant) << format.key;
   }
 }
 
 TEST(GradebookFormats, TakeTheIdentifierFromTheChosenField) {
-  qz::ClassRecord record = SmallClass();
+  qz::ClassRecord record = _SmallClass();
   record.students.resize(1);
   record.students[0].custom = {"c1", "c2", "c3"};
   const char* expected[] = {"asmith", "Ann", "Smith", "1001", "asmith", "c1", "c2", "c3", "asmith"};
@@ -83,7 +83,7 @@ TEST(GradebookFormats, TakeTheIdentifierFromTheChosenField) {
 }
 
 TEST(GradebookFormats, StudentsWithOneIdShareItsResults) {
-  qz::ClassRecord record = SmallClass();
+  qz::ClassRecord record = _SmallClass();
   record.students[2].id = 7;
   EXPECT_EQ(Exported("moodle", record),
             "User ID,Quiz '1',Quiz 2,Bonus\nasmith,7,,\nb'l,0,2,1.23457e+06\n,7,,\n");
@@ -92,12 +92,12 @@ TEST(GradebookFormats, StudentsWithOneIdShareItsResults) {
 TEST(GradebookFormats, PointsBeyondAllMeasure) {
   constexpr int32_t kMost = std::numeric_limits<int32_t>::max();
   constexpr double kInfinity = std::numeric_limits<double>::infinity();
-  qz::ClassRecord record = SmallClass();
+  qz::ClassRecord record = _SmallClass();
   record.students.resize(1);
   record.assignments[0].pointsPossible = kMost;
   record.assignments[2].pointsPossible = kMost;
   record.assignments[3].pointsPossible = -5;
-  record.assignments[0].results = {Results(7, {kInfinity})};
+  record.assignments[0].results = {_Results(7, {kInfinity})};
   EXPECT_EQ(Exported("blackboard6", record),
             "\"Last Name, First Name (User Name) | Student Id\","
             "\"Quiz '1' [Pts: 2147483647 Weight:: 0% Category:: Quiz]\","

@@ -46,7 +46,7 @@ TEST(ElementTables, ResolveNamesByPath) {
 }
 
 // Walks the lists as a document could, counting entries and texts.
-void Walk(_XmlElementListTag* list, std::set<int32_t>* ids, std::string* textContainers) {
+void _Walk(_XmlElementListTag* list, std::set<int32_t>* ids, std::string* textContainers) {
   for (; list->elementID >= 0; ++list) {
     EXPECT_TRUE(ids->insert(list->elementID).second) << "id given twice: " << list->name;
     if (list->children == nullptr) {
@@ -54,14 +54,14 @@ void Walk(_XmlElementListTag* list, std::set<int32_t>* ids, std::string* textCon
       continue;
     }
     if (list->acceptChars) *textContainers += std::string(list->name) + " ";
-    Walk(list->children, ids, textContainers);
+    _Walk(list->children, ids, textContainers);
   }
 }
 
 TEST(ElementTables, HoldEveryElementOnce) {
   std::set<int32_t> ids;
   std::string textContainers;
-  Walk(_gRootElement, &ids, &textContainers);
+  _Walk(_gRootElement, &ids, &textContainers);
   EXPECT_EQ(ids.size(), 1U + 13 + 11 + 1 + 15 + 1 + 11 + 1 + 9 + 1 + 4 + 1 + 2);
   EXPECT_EQ(textContainers, "student ") << "of the containers, only a student keeps its character data";
 }

@@ -19,7 +19,7 @@ constexpr int32_t kMin = std::numeric_limits<int32_t>::min();
 // The result of an in-place operation on a copy of the text in a buffer of `room` characters, or the text's
 // own.
 template <typename Operation>
-std::string InPlace(const std::string& text, int32_t room, Operation operation) {
+std::string _InPlace(const std::string& text, int32_t room, Operation operation) {
   std::string buffer(std::max(text.size(), static_cast<size_t>(std::max(room, 0))) + 1, '#');
   std::memcpy(buffer.data(), text.c_str(), text.size() + 1);
   operation(buffer.data());
@@ -43,9 +43,9 @@ TEST(QzString, DeletesAndInserts) {
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.name);
-    EXPECT_EQ(InPlace("abcde", 5, [&](char* s) { qz::lstrdel(s, row.position, row.count); }), row.deleted);
+    EXPECT_EQ(_InPlace("abcde", 5, [&](char* s) { qz::lstrdel(s, row.position, row.count); }), row.deleted);
     if (row.inserted == nullptr) continue;
-    EXPECT_EQ(InPlace("abcde", 20, [&](char* s) { qz::lstrins(s, row.position, row.count, '-'); }),
+    EXPECT_EQ(_InPlace("abcde", 20, [&](char* s) { qz::lstrins(s, row.position, row.count, '-'); }),
               row.inserted);
   }
 }
@@ -61,9 +61,9 @@ TEST(QzString, StripsSpacesOnly) {
   for (const auto& row : rows) {
     SCOPED_TRACE(row.text);
     const auto strip = [&row](char* text) { qz::StripSpaces(text, row.leading, row.trailing); };
-    EXPECT_EQ(InPlace(row.text, 0, strip), row.expected);
+    EXPECT_EQ(_InPlace(row.text, 0, strip), row.expected);
     const auto freeStrip = [&row](char* text) { ::StripSpaces(text, row.leading, row.trailing); };
-    EXPECT_EQ(InPlace(row.text, 0, freeStrip), row.expected);
+    EXPECT_EQ(_InPlace(row.text, 0, freeStrip), row.expected);
   }
 }
 
@@ -91,7 +91,7 @@ TEST(QzString, EscapesFromTheEndWhileThereIsRoom) {
   };
   for (const auto& row : rows) {
     const auto fix = [&row](char* text) { row.fix(text, row.greatest); };
-    EXPECT_EQ(InPlace(row.text, row.greatest, fix), row.expected) << row.name;
+    EXPECT_EQ(_InPlace(row.text, row.greatest, fix), row.expected) << row.name;
   }
 }
 
@@ -118,7 +118,7 @@ TEST(QzString, ReplacesWithinTheGreatestLength) {
     const auto replace = [&row](char* s) {
       qz::ReplaceString(s, row.find, row.replacement, row.greatest, row.all);
     };
-    EXPECT_EQ(InPlace(row.text, row.greatest, replace), row.expected) << row.name;
+    EXPECT_EQ(_InPlace(row.text, row.greatest, replace), row.expected) << row.name;
   }
 }
 

@@ -13,15 +13,15 @@ struct TreeDeleter {
 };
 using Tree = std::unique_ptr<_XmlTreeTag, TreeDeleter>;
 
-Tree NewRoot() {
+Tree _NewRoot() {
   return Tree(XmlTreeNewNode(nullptr, 1, 1, 0));
 }
 
-void AddText(_XmlTreeTag* node, const std::string& text) {
+void _AddText(_XmlTreeTag* node, const std::string& text) {
   ASSERT_TRUE(XmlTreeAddText(node, text.data(), static_cast<int32_t>(text.size())));
 }
 
-std::string AllText(const _XmlTreeTag* node, int32_t size = 100, bool* complete = nullptr) {
+std::string _AllText(const _XmlTreeTag* node, int32_t size = 100, bool* complete = nullptr) {
   std::string buffer(static_cast<size_t>(size) + 1, '#');
   const bool result = XmlTreeGetAllText(node, buffer.data(), size);
   if (complete != nullptr) *complete = result;
@@ -29,7 +29,7 @@ std::string AllText(const _XmlTreeTag* node, int32_t size = 100, bool* complete 
 }
 
 TEST(XmlTree, LinksNodesInDocumentOrder) {
-  const Tree root = NewRoot();
+  const Tree root = _NewRoot();
   std::vector<_XmlTreeTag*> children;
   for (int32_t id = 10; id < 30; ++id) {  // enough to leave the node's own block
     XmlTreeAddAttribute(root.get(), "between", "x");
@@ -65,21 +65,21 @@ TEST(XmlTree, NullHasNeitherParentNorRoot) {
 }
 
 TEST(XmlTree, JoinsTheNodesOwnTexts) {
-  const Tree root = NewRoot();
-  AddText(root.get(), "Zo");
+  const Tree root = _NewRoot();
+  _AddText(root.get(), "Zo");
   _XmlTreeTag* child = XmlTreeNewNode(root.get(), 2, 1, 1);
-  AddText(child, "inner");
-  AddText(root.get(), "\xC3\xAB ");
-  AddText(root.get(), std::string(200, 'x'));  // too long for the node's own block
+  _AddText(child, "inner");
+  _AddText(root.get(), "\xC3\xAB ");
+  _AddText(root.get(), std::string(200, 'x'));  // too long for the node's own block
   bool complete = false;
-  EXPECT_EQ(AllText(root.get(), 1000, &complete), "Zo\x91 " + std::string(200, 'x'));
+  EXPECT_EQ(_AllText(root.get(), 1000, &complete), "Zo\x91 " + std::string(200, 'x'));
   EXPECT_TRUE(complete);
-  EXPECT_EQ(AllText(root.get(), 3), "Zo\x91") << "cut by characters of the result";
-  EXPECT_EQ(AllText(root.get(), 0), "");
+  EXPECT_EQ(_AllText(root.get(), 3), "Zo\x91") << "cut by characters of the result";
+  EXPECT_EQ(_AllText(root.get(), 0), "");
 
   XmlTreeDeleteAllText(root.get());
-  EXPECT_EQ(AllText(root.get()), "");
-  EXPECT_EQ(AllText(XmlTreeFindNode(root.get(), 2)), "inner");
+  EXPECT_EQ(_AllText(root.get()), "");
+  EXPECT_EQ(_AllText(XmlTreeFindNode(root.get(), 2)), "inner");
 }
 
 struct Conversion {
@@ -97,10 +97,10 @@ const Conversion kConversions[] = {
 
 TEST(XmlTree, ConvertsToEightBit) {
   for (const Conversion& row : kConversions) {
-    const Tree root = NewRoot();
-    AddText(root.get(), row.utf8);
+    const Tree root = _NewRoot();
+    _AddText(root.get(), row.utf8);
     bool complete = false;
-    EXPECT_EQ(AllText(root.get(), 100, &complete), row.roman) << row.what;
+    EXPECT_EQ(_AllText(root.get(), 100, &complete), row.roman) << row.what;
     EXPECT_EQ(complete, row.romanComplete) << row.what;
     char buffer[20];
     EXPECT_EQ(XmlTreeGetAllTextAsSymbol(root.get(), buffer, 19), row.symbolComplete) << row.what;
@@ -109,14 +109,14 @@ TEST(XmlTree, ConvertsToEightBit) {
 }
 
 TEST(XmlTree, TextCutInsideACharacterStaysInsideItsPiece) {
-  const Tree root = NewRoot();
-  AddText(root.get(), std::string(70, 'x') + "\xE2");  // on the heap, so that an overread is seen
-  AddText(root.get(), "y");
-  EXPECT_EQ(AllText(root.get()).substr(71), "y");
+  const Tree root = _NewRoot();
+  _AddText(root.get(), std::string(70, 'x') + "\xE2");  // on the heap, so that an overread is seen
+  _AddText(root.get(), "y");
+  EXPECT_EQ(_AllText(root.get()).substr(71), "y");
 }
 
 TEST(XmlTree, FindsAttributesByExactName) {
-  const Tree root = NewRoot();
+  const Tree root = _NewRoot();
   ASSERT_TRUE(XmlTreeAddAttribute(root.get(), "id", " 12x"));
   ASSERT_TRUE(XmlTreeAddAttribute(root.get(), "id", "13"));
   ASSERT_TRUE(XmlTreeAddAttribute(root.get(), "n\xC3\xA9", "\xC3\xA9\xE4\xB8\xAD"));
@@ -133,30 +133,30 @@ TEST(XmlTree, FindsAttributesByExactName) {
 }
 
 std::string gDestroyed;
-void Destroy(void* data) {
+void _Destroy(void* data) {
   gDestroyed += *static_cast<const char*>(data);
 }
 
 TEST(XmlTree, UserDataIsDestroyedOnceUnlessTakenOut) {
   char data[] = "abc";
   gDestroyed.clear();
-  Tree root = NewRoot();
+  Tree root = _NewRoot();
   _XmlTreeTag* child = XmlTreeNewNode(root.get(), 2, 1, 1);
-  ASSERT_TRUE(XmlTreeAddUserData(child, &data[0], Destroy));
-  ASSERT_TRUE(XmlTreeAddUserData(child, &data[1], Destroy));
+  ASSERT_TRUE(XmlTreeAddUserData(child, &data[0], _Destroy));
+  ASSERT_TRUE(XmlTreeAddUserData(child, &data[1], _Destroy));
   ASSERT_TRUE(XmlTreeAddUserData(child, &data[2], nullptr));
-  ASSERT_TRUE(XmlTreeAddUserData(root.get(), &data[2], Destroy));
+  ASSERT_TRUE(XmlTreeAddUserData(root.get(), &data[2], _Destroy));
   EXPECT_EQ(XmlTreeGetUserData(child, 2, false), &data[2]);
   EXPECT_EQ(XmlTreeGetUserData(child, 0, true), &data[0]);
   EXPECT_EQ(XmlTreeGetUserData(child, 0, true), &data[1]);
   EXPECT_EQ(XmlTreeGetUserData(child, 1, true), nullptr);
-  ASSERT_TRUE(XmlTreeAddUserData(child, &data[0], Destroy));
+  ASSERT_TRUE(XmlTreeAddUserData(child, &data[0], _Destroy));
   root.reset();
   EXPECT_EQ(gDestroyed, "ca") << "items are released last first";
 }
 
 TEST(XmlTree, AnyDepthCanBeFreed) {
-  Tree root = NewRoot();
+  Tree root = _NewRoot();
   _XmlTreeTag* node = root.get();
   for (int i = 0; i < 1000000; ++i) node = XmlTreeNewNode(node, 2, 1, 1);
   EXPECT_EQ(XmlTreeGetRoot(node), root.get());

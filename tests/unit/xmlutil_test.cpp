@@ -27,7 +27,7 @@ struct Decoded {
   bool operator==(const Decoded&) const = default;
 };
 
-Decoded Decode(const std::string& source, int32_t size) {
+Decoded _Decode(const std::string& source, int32_t size) {
   std::string destination(static_cast<size_t>(size > 0 ? size : 0) + 1, '#');
   const bool valid = XmlUtf8DecodeString(destination.data(), size, HeapText(source));
   return {destination.c_str(), valid};
@@ -43,7 +43,7 @@ TEST(CharMaps, RomanUpperHalfDecodesToItsCodes) {
   for (int code = 0x80; code <= 0xFF; ++code) {
     if (code != 0xF0) codes += static_cast<char>(code);
   }
-  EXPECT_EQ(Decode(kRomanUpperHalf, 200), (Decoded{codes, true}));
+  EXPECT_EQ(_Decode(kRomanUpperHalf, 200), (Decoded{codes, true}));
 }
 
 TEST(CharMaps, EveryCodeRoundTrips) {
@@ -167,7 +167,7 @@ TEST(Utf8, DecodesText) {
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.name);
-    EXPECT_EQ(Decode(row.source, row.size), row.expected);
+    EXPECT_EQ(_Decode(row.source, row.size), row.expected);
     EXPECT_EQ(XmlUtf8StrLen(HeapText(row.source)), row.characters);
   }
 }

@@ -1,20 +1,8 @@
 #include "Filters/GX_StdCsv/ResultsJoin.h"
 
-namespace {
-
-uint64_t _Key(int32_t id) {
-  return static_cast<uint32_t>(id);
-}
-
-}  // namespace
-
 RosterIndex::RosterIndex(const std::vector<qz::StudentRecord>& students) : m_ids(students.size()) {
   m_numbers.reserve(students.size());
-  for (const qz::StudentRecord& student : students) m_numbers.push_back(m_ids.Add(_Key(student.id)));
-}
-
-size_t RosterIndex::NumberOf(const qz::ResultsRecord& results) const {
-  return m_ids.Find(_Key(results.studentID));
+  for (const qz::StudentRecord& student : students) m_numbers.push_back(m_ids.Add(Key(student.id)));
 }
 
 std::vector<const qz::ResultsRecord*> RosterIndex::FindResults(const qz::AssignmentRecord& assignment) const {

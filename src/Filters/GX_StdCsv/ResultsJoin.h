@@ -18,14 +18,17 @@ class RosterIndex {
 
   explicit RosterIndex(const std::vector<qz::StudentRecord>& students);
 
-  size_t Count() const { return m_ids.Count(); }            // of numbers, which are 0, 1, 2, ...
-  size_t NumberOf(const qz::ResultsRecord& results) const;  // kNone when they are nobody's
+  size_t Count() const { return m_ids.Count(); }  // of numbers, which are 0, 1, 2, ...
+  // kNone when they are nobody's.
+  size_t NumberOf(const qz::ResultsRecord& results) const { return m_ids.Find(Key(results.studentID)); }
   size_t NumberAt(size_t position) const { return m_numbers[position]; }  // in the roster
 
   // By position in the roster: the student's first results record on the assignment, or null.
   std::vector<const qz::ResultsRecord*> FindResults(const qz::AssignmentRecord& assignment) const;
 
  private:
+  static uint64_t Key(int32_t id) { return static_cast<uint32_t>(id); }
+
   KeyIndex<uint64_t> m_ids;
   std::vector<size_t> m_numbers;  // by position in the roster
 };

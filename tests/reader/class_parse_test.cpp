@@ -9,6 +9,7 @@
 #include <string>
 
 #include "tests/support/ClassDump.h"
+#include "tests/support/Exported.h"
 
 namespace {
 
@@ -18,72 +19,26 @@ struct Parsed {
   QZClassParseReport report;
 };
 
-Parsed Parse(const std::string& document) {
+Parsed _Parse(const std::string& document) {
   std::istringstream stream(document);
   Parsed parsed{};
   parsed.success = QZClassParse(&parsed.record, stream, &parsed.report);
   return parsed;
 }
 
-std::string InClass(const std::string& content) {
+std::string _InClass(const std::string& content) {
   return "<class>" + content + "</class>";
 }
-std::string InStudent(const std::string& content) {
-  return InClass("<student-list><student id='7'>" + content + "</student></student-list>");
+std::string _InStudent(const std::string& content) {
+  return _InClass("<student-list><student id='7'>" + content + "</student></student-list>");
 }
 
-const char kWhole[] = R"(<?xml version="1.0" encoding="UTF-8"?>
-<!DOCTYPE class [<!ENTITY school "Sch&#xF6;n"><!ATTLIST student id CDATA "8">]>
-<class>
-  <class-name>Biología <b/>中</class-name><class-name>other</class-name>
-  <preferences><custom-1>Canvas ID</custom-1><custom-2/><show-term>1</show-term></preferences>
-  <student-list>
-    <student xmlns:p="urn:p" unread="x" p:id="7" id="9">
-      <first-name>Ann</first-name><last-name> Smith&#10; </last-name><student-id>1001</student-id>
-      <alias>asmith</alias><password>secret</password><gender>F</gender><date-of-birth>2010-01-02</date-of-birth>
-      <grade-level>8</grade-level><sociological>s</sociological><race>r</race><other>&school;</other>
-      <custom-1>c1</custom-1><custom-2>c2</custom-2><custom-3>c3</custom-3><pad-id>p9</pad-id>
-    </student>
-    <student/>
-  </student-list>
-  <assignment-list>
-    <assignment id="3">
-      <assignment-name>Quiz <![CDATA[<1>]]></assignment-name><assignment-id>a3</assignment-id>
-      <category>Quiz</category><online-id>o3</online-id><assignment-date>2026-10-01</assignment-date>
-      <points-possible>12.5</points-possible><term>1</term>
-      <question-list>
-        <question number="1" type="mc" question-id="11" bank-id="2">
-          <num-choices>5</num-choices><answer>B</answer><reference>p. 3</reference>
-          <learning-objective>lo</learning-objective><state-standard>st</state-standard>
-          <points-possible>12.5</points-possible>
-        </question>
-        <question number="2" type="?" question-id="12" bank-id="2"/>
-      </question-list>
-      <results-list>
-        <results id="7"><num-attempts>1</num-attempts>
-          <response-list>
-            <response question-id="11" bank-id="2"><text>B</text><points-earned>2.5</points-earned></response>
-            <response question-id="12" bank-id="2"><text>ü中</text></response>
-          </response-list>
-        </results>
-        <results id="8"><response-list/></results>
-      </results-list>
-    </assignment>
-  </assignment-list>
-</class>)";
-
-const char kWholeDump[] =
-    "[Canvas ID][Custom 2][Custom 3]\n"
-    "student 7|Ann| Smith|1001|asmith|secret|p9|2010-01-02|8|Female|s|r|Sch\x9An|c1|c2|c3\n"
-    "student 8|||||||||||||||\n"
-    "assignment 3|Quiz <1>|a3|Quiz|o3|2026-10-01|0|0|12\n"
-    " question 2|1|11|2|5|B|p. 3|lo|st|12.5\n"
-    " question 13|2|12|2|0|||||0\n"
-    " results 7 (11|2|B|2.5) (12|2|\x9F?|0)\n"
-    " results 8\n";
+// A class file with every element that is read, and the record in words, as 8-bit text.
+const std::string kWhole = ReadFile(CLASS_FILES "/every-field.xml");
+const std::string kWholeDump = ReadFile(CLASS_FILES "/every-field.txt");
 
 TEST(ClassParse, ReadsEveryField) {
-  const Parsed parsed = Parse(kWhole);
+  const Parsed parsed = _Parse(kWhole);
   EXPECT_TRUE(parsed.success);
   EXPECT_EQ(parsed.report.reason, nullptr);
   EXPECT_EQ(parsed.report.className, "Biología 中");
@@ -119,14 +74,14 @@ TEST(ClassParse, DoesNotDependOnTheStreamsReads) {
 }
 
 TEST(ClassParse, EveryByteMayStraddleAChunk) {
-  const std::string document(kWhole);
+  const std::string& document = kWhole;
   const size_t prologEnd = document.find("<class>");
   for (size_t before = 0; before <= document.size() - prologEnd; ++before) {
     // Moves the byte at prologEnd + before to the start of the second chunk.
     const size_t padding = 4095 - prologEnd - before % 4095 - std::string("<!---->").size();
     std::string padded = document;
     padded.insert(prologEnd, "<!--" + std::string(padding, '.') + "-->");
-    ASSERT_EQ(Dump(Parse(padded).record), kWholeDump) << "cut before byte " << before;
+    ASSERT_EQ(Dump(_Parse(padded).record), kWholeDump) << "cut before byte " << before;
   }
 }
 
@@ -137,28 +92,28 @@ TEST(ClassParse, CountsWhatIsReplacedInKeptTexts) {
     std::string document;
     uint64_t replaced;
   } rows[] = {
-      {"none", InStudent("<alias>?é</alias>"), 0},
-      {"each one", InStudent("<alias>中?中</alias><race>Ω</race>"), 3},
-      {"a label", InClass("<preferences><custom-1>中</custom-1></preferences>"), 1},
-      {"not what is cut", InStudent("<alias>" + a199 + "中</alias>"), 0},
-      {"not what is repeated", InStudent("<alias/><alias>中</alias>"), 0},
-      {"not what no record holds", InClass("<city>中</city><x>中</x>"), 0},
+      {"none", _InStudent("<alias>?é</alias>"), 0},
+      {"each one", _InStudent("<alias>中?中</alias><race>Ω</race>"), 3},
+      {"a label", _InClass("<preferences><custom-1>中</custom-1></preferences>"), 1},
+      {"not what is cut", _InStudent("<alias>" + a199 + "中</alias>"), 0},
+      {"not what is repeated", _InStudent("<alias/><alias>中</alias>"), 0},
+      {"not what no record holds", _InClass("<city>中</city><x>中</x>"), 0},
       {"not in a number",
-       InClass("<assignment-list><assignment id='中'><points-possible>1中</points-possible></assignment>"
-               "</assignment-list>"),
+       _InClass("<assignment-list><assignment id='中'><points-possible>1中</points-possible></assignment>"
+                "</assignment-list>"),
        0},
       {"not in a second list",
-       InClass("<assignment-list><assignment><results-list/><results-list><results><response-list><response>"
-               "<text>中</text></response></response-list></results></results-list></assignment>"
-               "</assignment-list>"),
+       _InClass("<assignment-list><assignment><results-list/><results-list><results><response-list><response>"
+                "<text>中</text></response></response-list></results></results-list></assignment>"
+                "</assignment-list>"),
        0},
   };
   for (const auto& row : rows)
-    EXPECT_EQ(Parse(row.document).report.replacedCharacters, row.replaced) << row.what;
+    EXPECT_EQ(_Parse(row.document).report.replacedCharacters, row.replaced) << row.what;
 }
 
 TEST(ClassParse, RecordsThatAreFoundMayBeChanged) {
-  qz::ClassRecord record = Parse(kWhole).record;
+  qz::ClassRecord record = _Parse(kWhole).record;
   qz::AssignmentRecord& quiz = record.assignments.at(0);
   qz::ResultsRecord* results = quiz.FindResultsForStudent(7);
   ASSERT_EQ(results, &quiz.results.at(0));
@@ -197,7 +152,7 @@ TEST(ClassParse, TakesTextsAsWritten) {
       {"cut by characters, not bytes", "<first-name>" + a198 + "\xC3\xA9tail</first-name>", a198 + "\x8E"},
   };
   for (const StudentRow& row : rows) {
-    const Parsed parsed = Parse(InStudent(row.content));
+    const Parsed parsed = _Parse(_InStudent(row.content));
     ASSERT_TRUE(parsed.success) << row.what << ": " << parsed.report.reason;
     ASSERT_EQ(parsed.record.students.size(), 1U) << row.what;
     EXPECT_EQ(parsed.record.students[0].firstName, row.firstName) << row.what;
@@ -207,7 +162,7 @@ TEST(ClassParse, TakesTextsAsWritten) {
 TEST(ClassParse, WidensGenderExactly) {
   for (const auto& [text, gender] :
        {std::pair("M", "Male"), {"F", "Female"}, {"m", "m"}, {"Male", "Male"}, {"", ""}}) {
-    EXPECT_EQ(Parse(InStudent("<gender>" + std::string(text) + "</gender>")).record.students[0].gender,
+    EXPECT_EQ(_Parse(_InStudent("<gender>" + std::string(text) + "</gender>")).record.students[0].gender,
               gender);
   }
 }
@@ -215,14 +170,14 @@ TEST(ClassParse, WidensGenderExactly) {
 TEST(ClassParse, AppliesPreferencesInTurn) {
   const std::string long200(210, 'x');
   const Parsed parsed =
-      Parse(InClass("<preferences><custom-1>one</custom-1><custom-3>three</custom-3></preferences>"
-                    "<preferences><custom-1> </custom-1><custom-2>" +
-                    long200 + "</custom-2><custom-3>drei</custom-3></preferences>"));
+      _Parse(_InClass("<preferences><custom-1>one</custom-1><custom-3>three</custom-3></preferences>"
+                      "<preferences><custom-1> </custom-1><custom-2>" +
+                      long200 + "</custom-2><custom-3>drei</custom-3></preferences>"));
   EXPECT_EQ(Dump(parsed.record), "[one][" + long200.substr(0, 200) + "][drei]\n");
 }
 
 TEST(ClassParse, OnlyTheFirstListOfAKindCounts) {
-  const Parsed parsed = Parse(InClass(
+  const Parsed parsed = _Parse(_InClass(
       "<assignment-list><assignment id='1'>"
       "<question-list/><question-list><question number='1' type='MC' question-id='1' "
       "bank-id='1'/></question-list>"
@@ -265,12 +220,12 @@ const NumberRow kNumbers[] = {
     {"nan", 0, std::numeric_limits<double>::quiet_NaN()},
 };
 
-void ExpectNumbers() {
+void _ExpectNumbers() {
   for (const NumberRow& row : kNumbers) {
     const std::string points = "<points-possible>" + std::string(row.text) + "</points-possible>";
-    const Parsed parsed = Parse(InClass("<assignment-list><assignment id='" + std::string(row.text) + "'>" +
-                                        points + "<question-list><question>" + points +
-                                        "</question></question-list></assignment></assignment-list>"));
+    const Parsed parsed = _Parse(_InClass("<assignment-list><assignment id='" + std::string(row.text) + "'>" +
+                                          points + "<question-list><question>" + points +
+                                          "</question></question-list></assignment></assignment-list>"));
     ASSERT_EQ(parsed.record.assignments.size(), 1U) << row.text;
     EXPECT_EQ(parsed.record.assignments[0].id, row.whole) << row.text;
     EXPECT_EQ(parsed.record.assignments[0].pointsPossible, row.whole) << row.text;
@@ -280,10 +235,10 @@ void ExpectNumbers() {
 }
 
 TEST(ClassParse, ReadsNumbersInEveryLocale) {
-  ExpectNumbers();
+  _ExpectNumbers();
   if (std::setlocale(LC_ALL, "de_DE.UTF-8") == nullptr) GTEST_SKIP() << "no German locale on this machine";
   EXPECT_STREQ(std::localeconv()->decimal_point, ",");
-  ExpectNumbers();
+  _ExpectNumbers();
   std::setlocale(LC_ALL, "C");
 }
 
@@ -294,8 +249,9 @@ TEST(ClassParse, SkipsWhatIsTooDeep) {
     open += "<d>";
     close += "</d>";
   }
-  const Parsed parsed = Parse(InClass(open + "<student-list><student id='1'/></student-list>" + close +
-                                      "<student-list>" + open + close + "<student id='2'/></student-list>"));
+  const Parsed parsed =
+      _Parse(_InClass(open + "<student-list><student id='1'/></student-list>" + close + "<student-list>" +
+                      open + close + "<student id='2'/></student-list>"));
   ASSERT_TRUE(parsed.success);
   ASSERT_EQ(parsed.record.students.size(), 1U);
   EXPECT_EQ(parsed.record.students[0].id, 2);
@@ -304,7 +260,7 @@ TEST(ClassParse, SkipsWhatIsTooDeep) {
 TEST(ClassParse, AppendsToTheRecord) {
   qz::ClassRecord record;
   record.students.resize(2);
-  std::istringstream stream(InStudent(""));
+  std::istringstream stream(_InStudent(""));
   EXPECT_TRUE(QZClassParse(&record, stream));
   EXPECT_EQ(record.students.size(), 3U);
 }

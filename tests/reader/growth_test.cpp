@@ -20,7 +20,7 @@
 
 namespace {
 
-size_t LiveBytes() {
+size_t _LiveBytes() {
 #if defined(__SANITIZE_ADDRESS__)
   return __sanitizer_get_current_allocated_bytes();
 #else
@@ -34,7 +34,7 @@ struct Part {
   std::string text;
   bool repeated = false;
 };
-Part Many(const std::string& text) {
+Part _Many(const std::string& text) {
   return {text, true};
 }
 
@@ -48,7 +48,7 @@ class Document : public std::streambuf {
  protected:
   int_type underflow() override {
     constexpr size_t kBlockSize = 65536;
-    m_peakBytes = std::max(m_peakBytes, LiveBytes());
+    m_peakBytes = std::max(m_peakBytes, _LiveBytes());
     m_block.clear();
     while (m_block.size() < kBlockSize && m_part < m_parts.size()) AppendNext();
     setg(m_block.data(), m_block.data(), m_block.data() + m_block.size());
@@ -83,8 +83,8 @@ struct Cost {
   double bytes;
 };
 
-Cost CostOfReading(const std::vector<Part>& parts, size_t count, const char* expectedReason) {
-  const size_t before = LiveBytes();
+Cost _CostOfReading(const std::vector<Part>& parts, size_t count, const char* expectedReason) {
+  const size_t before = _LiveBytes();
   Document document(parts, count);
   std::istream stream(&document);
   qz::ClassRecord record;
@@ -94,7 +94,7 @@ Cost CostOfReading(const std::vector<Part>& parts, size_t count, const char* exp
   const std::clock_t end = std::clock();
   EXPECT_STREQ(report.reason, expectedReason);
   return {static_cast<double>(end - start) / CLOCKS_PER_SEC,
-          static_cast<double>(std::max(document.PeakBytes(), LiveBytes()) - before)};
+          static_cast<double>(std::max(document.PeakBytes(), _LiveBytes()) - before)};
 }
 
 enum Memory { kFlat, kLinear };  // linear: records, or a single token, of the document's size
@@ -107,7 +107,7 @@ struct Shape {
   const char* reason = nullptr;
 };
 
-std::string Declared(int count) {
+std::string _Declared(int count) {
   std::string text = "<!DOCTYPE class [<!ATTLIST student";
   for (int i = 0; i < count; ++i) text += " a" + std::to_string(i) + " CDATA 'x'";
   return text + ">]>";
@@ -123,80 +123,80 @@ const Shape kShapes[] = {
     {"students",
      5000,
      kLinear,
-     {kStudents, Many("<student id='$'><alias>a$</alias></student>"), kNoMoreStudents}},
+     {kStudents, _Many("<student id='$'><alias>a$</alias></student>"), kNoMoreStudents}},
     {"assignments",
      10000,
      kLinear,
-     {{"<class><assignment-list>"}, Many("<assignment/>"), {"</assignment-list></class>"}}},
+     {{"<class><assignment-list>"}, _Many("<assignment/>"), {"</assignment-list></class>"}}},
     {"attributes of a student, and its texts again and again",
      20000,
      kLinear,
      {kStudents,
       {"<student"},
-      Many(" a$=''"),
+      _Many(" a$=''"),
       {">"},
-      Many("<alias>x</alias>"),
+      _Many("<alias>x</alias>"),
       {"</student>"},
       kNoMoreStudents}},
     {"one attribute in many namespaces",
      10000,
      kLinear,
-     {kStudents, {"<student"}, Many(" xmlns:p$='u$' p$:id='$'"), {"/>"}, kNoMoreStudents}},
+     {kStudents, {"<student"}, _Many(" xmlns:p$='u$' p$:id='$'"), {"/>"}, kNoMoreStudents}},
     {"attributes by default",
      5000,
      kLinear,
-     {{Declared(100)}, kStudents, Many("<student/>"), kNoMoreStudents}},
+     {{_Declared(100)}, kStudents, _Many("<student/>"), kNoMoreStudents}},
     {"more of them",
      5000,
      kFlat,
      {{"<!DOCTYPE class ["},
-      Many("<!ATTLIST student a$ CDATA #IMPLIED>"),
+      _Many("<!ATTLIST student a$ CDATA #IMPLIED>"),
       {"]>"},
       kStudents,
-      Many("<student/>"),
+      _Many("<student/>"),
       kNoMoreStudents},
      "too many attribute declarations"},
     {"a long attribute by default",
      100000,
      kLinear,
      {{"<!DOCTYPE class [<!ATTLIST student id CDATA '"},
-      Many("x"),
+      _Many("x"),
       {"'>]>"},
       kStudents,
-      Many("<student/>"),
+      _Many("<student/>"),
       kNoMoreStudents},
      "the default value of an attribute is too long"},
     {"elements of a long namespace",
      20000,
      kFlat,
-     {{"<p:class xmlns:p='" + kLongName + "'>"}, Many("<p:student-list/>"), {"</p:class>"}}},
+     {{"<p:class xmlns:p='" + kLongName + "'>"}, _Many("<p:student-list/>"), {"</p:class>"}}},
     {"elements of a longer one",
      100000,
      kLinear,
-     {{"<p:class xmlns:p='"}, Many("u"), {"'>"}, Many("<p:x/>"), {"</p:class>"}},
+     {{"<p:class xmlns:p='"}, _Many("u"), {"'>"}, _Many("<p:x/>"), {"</p:class>"}},
      "the name of a namespace is too long"},
     {"lists of a class",
      40000,
      kFlat,
-     {{"<class>"}, Many("<student-list/><assignment-list/>"), {"</class>"}}},
+     {{"<class>"}, _Many("<student-list/><assignment-list/>"), {"</class>"}}},
     {"lists of an assignment",
      20000,
      kFlat,
      {kResults,
-      Many("<results-list><results><response-list><response><text>x</text></response>"
-           "</response-list></results></results-list><question-list><question/></question-list>"),
+      _Many("<results-list><results><response-list><response><text>x</text></response>"
+            "</response-list></results></results-list><question-list><question/></question-list>"),
       kNoMoreResults}},
     {"pieces of a text",
      100000,
      kFlat,
-     {kStudents, {"<student><alias>"}, Many("&#65;&amp;"), {"</alias></student>"}, kNoMoreStudents}},
+     {kStudents, {"<student><alias>"}, _Many("&#65;&amp;"), {"</alias></student>"}, kNoMoreStudents}},
     {"texts of a student, outside its elements",
      50000,
      kFlat,
-     {kStudents, {"<student>"}, Many("x<b/>"), {"</student>"}, kNoMoreStudents}},
-    {"elements in one another", 50000, kLinear, {{"<class>"}, Many("<d>"), Many("</d>"), {"</class>"}}},
-    {"element names", 20000, kLinear, {{"<class>"}, Many("<e$/>"), {"</class>"}}},
-    {"a comment", 1000000, kLinear, {{"<class><!--"}, Many("x"), {"--></class>"}}},
+     {kStudents, {"<student>"}, _Many("x<b/>"), {"</student>"}, kNoMoreStudents}},
+    {"elements in one another", 50000, kLinear, {{"<class>"}, _Many("<d>"), _Many("</d>"), {"</class>"}}},
+    {"element names", 20000, kLinear, {{"<class>"}, _Many("<e$/>"), {"</class>"}}},
+    {"a comment", 1000000, kLinear, {{"<class><!--"}, _Many("x"), {"--></class>"}}},
 };
 
 TEST(Growth, NeverFasterThanTheDocument) {
@@ -206,9 +206,9 @@ TEST(Growth, NeverFasterThanTheDocument) {
   for (const Shape& shape : kShapes) {
     std::array<Cost, 3> costs{};
     for (size_t i = 0; i < costs.size(); ++i) {
-      costs[i] = CostOfReading(shape.parts, kFactors[i] * shape.count, shape.reason);
+      costs[i] = _CostOfReading(shape.parts, kFactors[i] * shape.count, shape.reason);
       for (int again = 0; again < 2; ++again) {
-        const Cost cost = CostOfReading(shape.parts, kFactors[i] * shape.count, shape.reason);
+        const Cost cost = _CostOfReading(shape.parts, kFactors[i] * shape.count, shape.reason);
         costs[i].seconds = std::min(costs[i].seconds, cost.seconds);
       }
     }

@@ -34,7 +34,7 @@ const char* const kTexts[] = {
     "NAN(1)", "nan("};
 
 // The texts above, and plain decimals of every length up to a little more than a double holds.
-std::vector<std::string> SomeTexts() {
+std::vector<std::string> _SomeTexts() {
   std::vector<std::string> texts(std::begin(kTexts), std::end(kTexts));
   std::mt19937_64 random(20160502);
   for (size_t i = 0; i < 4000; ++i) {
@@ -46,7 +46,7 @@ std::vector<std::string> SomeTexts() {
   return texts;
 }
 
-std::vector<double> SomeDoubles() {
+std::vector<double> _SomeDoubles() {
   constexpr double kInfinity = std::numeric_limits<double>::infinity();
   std::vector<double> values = {0.0, -0.0, 2.5,          -0.1,    99.99995, 999999.5,
                                 1e6, 1e-4, 9.9999995e-5, DBL_MAX, DBL_MIN};
@@ -57,13 +57,13 @@ std::vector<double> SomeDoubles() {
   return values;
 }
 
-std::string Printed(const char* format, int decimals, double value) {
+std::string _Printed(const char* format, int decimals, double value) {
   char buffer[kFixedTextSize];
   std::snprintf(buffer, sizeof buffer, format, decimals, value);
   return buffer;
 }
 
-std::string Fixed(double value, int32_t decimals) {
+std::string _Fixed(double value, int32_t decimals) {
   char buffer[kFixedTextSize];
   const size_t length = FormatFixed(buffer, value, decimals);
   return {buffer, length};
@@ -75,8 +75,8 @@ class Reference {
   Reference() {
     for (const std::string& text : m_texts) m_parsed.push_back(std::strtod(text.c_str(), nullptr));
     for (const double value : m_doubles) {
-      m_general.push_back(Printed("%.*g", 6, value));
-      m_fixed.push_back(Printed("%.*f", 3, value));
+      m_general.push_back(_Printed("%.*g", 6, value));
+      m_fixed.push_back(_Printed("%.*f", 3, value));
     }
   }
 
@@ -90,13 +90,13 @@ class Reference {
       char general[32];
       EXPECT_EQ(FormatGeneral(general, m_doubles[i]), m_general[i].size());
       EXPECT_EQ(general, m_general[i]);
-      EXPECT_EQ(Fixed(m_doubles[i], 3), m_fixed[i]);
+      EXPECT_EQ(_Fixed(m_doubles[i], 3), m_fixed[i]);
     }
   }
 
  private:
-  std::vector<std::string> m_texts = SomeTexts();
-  std::vector<double> m_doubles = SomeDoubles();
+  std::vector<std::string> m_texts = _SomeTexts();
+  std::vector<double> m_doubles = _SomeDoubles();
   std::vector<double> m_parsed;
   std::vector<std::string> m_general;
   std::vector<std::string> m_fixed;
@@ -110,7 +110,7 @@ TEST(Number, DoesNotFollowTheLocale) {
   const Reference reference;
   for (const char* locale : {"de_DE.UTF-8", "de_DE.utf8", "de_DE"}) {
     if (std::setlocale(LC_ALL, locale) == nullptr) continue;
-    EXPECT_EQ(Printed("%.*f", 1, 2.5), "2,5");
+    EXPECT_EQ(_Printed("%.*f", 1, 2.5), "2,5");
     reference.Check();
     std::setlocale(LC_ALL, "C");
     return;
@@ -121,11 +121,11 @@ TEST(Number, DoesNotFollowTheLocale) {
 TEST(Number, FixedTakesAnyNumberOfDecimals) {
   for (const double value : {0.1, -2.5, -DBL_MAX, DBL_TRUE_MIN, -std::nan("")}) {
     for (const int32_t decimals : {0, 17, kMaxDecimals, -1}) {
-      EXPECT_EQ(Fixed(value, decimals), Printed("%.*f", decimals, value)) << value << ' ' << decimals;
+      EXPECT_EQ(_Fixed(value, decimals), _Printed("%.*f", decimals, value)) << value << ' ' << decimals;
     }
-    EXPECT_EQ(Fixed(value, kMax), Fixed(value, kMaxDecimals));
+    EXPECT_EQ(_Fixed(value, kMax), _Fixed(value, kMaxDecimals));
   }
-  EXPECT_EQ(Fixed(-DBL_MAX, kMaxDecimals).size(), kFixedTextSize - 1);
+  EXPECT_EQ(_Fixed(-DBL_MAX, kMaxDecimals).size(), kFixedTextSize - 1);
 }
 
 TEST(Number, ParsesIntegers) {

@@ -14,8 +14,8 @@
 #include <vector>
 
 #include "Common/QZXMLParse/QZClassParse.h"
+#include "Export/IdentifierCheck.h"
 #include "Filters/GX_StdCsv/FormatTable.h"
-#include "Filters/GX_StdCsv/RosterCheck.h"
 #include "Filters/GX_StdCsv/Session.h"
 #include "bench/ClassGenerator.h"
 
@@ -125,7 +125,7 @@ void BM_WriteFloor(benchmark::State& state, const FormatRow* format) {
 
 void BM_CheckIdentifiers(benchmark::State& state) {
   const qz::ClassRecord& record = _Class(state.range(0));
-  for (auto _ : state) benchmark::DoNotOptimize(CheckUserIDs(record, qz::kUserIDStudentID));
+  for (auto _ : state) benchmark::DoNotOptimize(CheckIdentifiers(record, qz::kUserIDStudentID));
   _ReportPerStudent(state);
 }
 

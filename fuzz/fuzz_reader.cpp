@@ -7,8 +7,8 @@
 #include <string>
 
 #include "Common/QZXMLParse/QZClassParse.h"
+#include "Export/IdentifierCheck.h"
 #include "Filters/GX_StdCsv/FormatTable.h"
-#include "Filters/GX_StdCsv/RosterCheck.h"
 #include "Filters/GX_StdCsv/Session.h"
 
 namespace {
@@ -50,7 +50,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   _Require(parsed == (report.reason == nullptr));
   _CheckRecord(record);
   for (qz::AssignmentRecord& assignment : record.assignments) assignment.selected = true;
-  CheckUserIDs(record, qz::kUserIDAlias);
+  CheckIdentifiers(record, qz::kUserIDAlias);
   _WriteEveryFormat(record, sink);
   return 0;
 }

@@ -3,7 +3,7 @@
 #include <iostream>
 
 #include "CommandLine/CommandError.h"
-#include "CommandLine/TextOut.h"
+#include "CommandLine/TerminalText.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 #ifndef GRADIX_COMMANDS_H
 #define GRADIX_COMMANDS_H
 
-#include "CommandLine/Options.h"
+#include "CommandLine/CommandOptions.h"
 
 void RunFormats(const FormatsOptions& options);
 void RunInspect(const InspectOptions& options);

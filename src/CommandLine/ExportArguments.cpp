@@ -5,12 +5,8 @@
 #include <system_error>
 
 #include "CommandLine/CommandError.h"
-#include "CommandLine/TextOut.h"
-#include "CommandLine/UserIDFields.h"
-#include "Filters/GX_StdCsv/ReportColumns.h"
-
-const char* const kDefaultReportFields = "first-name,last-name,student-id";
-const char* const kDefaultReportColumns = "responses";
+#include "CommandLine/TerminalText.h"
+#include "Common/QZData/StudentFields.h"
 
 namespace {
 
@@ -33,10 +29,12 @@ const FormatRow& _ParseFormat(const std::string& text) {
   return *format;
 }
 
-qz::UserIDField _ParseUserIDField(const std::string& text) {
-  const std::optional<qz::UserIDField> field = FindUserIDField(text);
-  if (!field) _Fail("unknown student field '" + text + "' for -u; the fields are " + UserIDFieldKeys());
-  return *field;
+qz::UserIDField _ParseIdentifier(const std::string& text) {
+  const qz::StudentField* field = qz::FindStudentField(text);
+  if (field == nullptr || !field->CanIdentify()) {
+    _Fail("unknown student field '" + text + "' for -u; the fields are " + IdentifierKeys());
+  }
+  return field->userIDField;
 }
 
 std::vector<int32_t> _ParseAssignments(const std::vector<std::string>& texts) {
@@ -50,9 +48,8 @@ std::vector<int32_t> _ParseAssignments(const std::vector<std::string>& texts) {
 }
 
 uint32_t _ParseReportField(std::string_view key) {
-  for (const ReportColumn& column : ReportColumns()) {
-    if (column.key == key) return column.mask;
-  }
+  const qz::StudentField* field = qz::FindStudentField(key);
+  if (field != nullptr) return field->reportBit;
   _Fail("unknown student field '" + std::string(key) + "' for --fields; the fields are " + ReportFieldKeys() +
         "; or it is one of the words all and none");
 }
@@ -61,7 +58,7 @@ uint32_t _ParseReportFields(std::string_view list) {
   uint32_t mask = 0;
   if (list == "none") return mask;
   if (list == "all") {
-    for (const ReportColumn& column : ReportColumns()) mask |= column.mask;
+    for (const qz::StudentField& field : qz::kStudentFields) mask |= field.reportBit;
     return mask;
   }
   for (;;) {
@@ -72,37 +69,46 @@ uint32_t _ParseReportFields(std::string_view list) {
   }
 }
 
-void _ParseReportColumns(const std::string& text, ReportOptions* report) {
-  report->responses = text == "responses" || text == "both";
-  report->pointsEarned = text == "points" || text == "both";
-  if (report->responses || report->pointsEarned) return;
+struct ReportColumns {
+  const char* key;
+  bool responses;
+  bool points;
+};
+constexpr ReportColumns kReportColumns[] = {
+    {"responses", true, false}, {"points", false, true}, {"both", true, true}};
+
+const ReportColumns& _ParseReportColumns(const std::string& text) {
+  for (const ReportColumns& columns : kReportColumns) {
+    if (columns.key == text) return columns;
+  }
   _Fail("unknown value '" + text + "' for --columns; it takes responses, points or both");
 }
 
-ReportOptions _MakeReportOptions(const ExportArguments& arguments) {
-  ReportOptions report;
-  _ParseReportColumns(arguments.columns, &report);
-  if (arguments.answerKey && !report.responses) {
+ReportChoices _MakeReportChoices(const ExportArguments& arguments) {
+  const ReportColumns& columns = _ParseReportColumns(arguments.columns);
+  if (arguments.answerKey && !columns.responses) {
     Warn("--answer-key has no effect without the responses; see --columns");
   }
-  if (arguments.pointsPossible && !report.pointsEarned) {
+  if (arguments.pointsPossible && !columns.points) {
     Warn("--points-possible has no effect without the points; see --columns");
   }
-  report.fieldMask = _ParseReportFields(arguments.fields);
-  report.answerKey = arguments.answerKey;
-  report.pointsPossible = arguments.pointsPossible;
-  report.asterisks = report.responses && !arguments.noAsterisks;
+  ReportChoices report;
+  report.fields = _ParseReportFields(arguments.fields);
+  report.options[qz::kReportResponses] = columns.responses;
+  report.options[qz::kReportPointsEarned] = columns.points;
+  report.options[qz::kReportAnswerKey] = arguments.answerKey;
+  report.options[qz::kReportPointsPossible] = arguments.pointsPossible;
+  report.options[qz::kReportAsterisks] = columns.responses && !arguments.noAsterisks;
   return report;
 }
 
 // Refuses the report's options with other formats; only warns of general ones that a format has no use for.
 void _CheckApplicability(const ExportArguments& arguments, const FormatRow& format) {
-  const bool isDetailed = format.index == kDetailedResultsFormat;
-  if (!isDetailed && !arguments.reportOptions.empty()) {
+  if (!format.IsReport() && !arguments.reportOptions.empty()) {
     _Fail(arguments.reportOptions.front() + " applies to the format " +
           FindFormat(kDetailedResultsFormat)->key + " only");
   }
-  if (isDetailed && arguments.userIDField) {
+  if (format.IsReport() && arguments.identifier) {
     Warn("-u has no effect on the detailed report, which has no user identifier; see --fields");
   }
   if (arguments.noQuotes && !format.hasUnquotedVariant) {
@@ -111,48 +117,68 @@ void _CheckApplicability(const ExportArguments& arguments, const FormatRow& form
   }
 }
 
-template <typename Rows, typename KeyOf>
-std::string _JoinKeys(const Rows& rows, KeyOf keyOf) {
+// The keys of the rows that are `wanted`.
+template <typename Rows, typename Wanted>
+std::string _JoinKeys(const Rows& rows, std::string_view separator, Wanted wanted) {
   std::vector<std::string> keys;
-  keys.reserve(rows.size());
-  for (const auto& row : rows) keys.emplace_back(keyOf(row));
-  return Join(keys, ", ");
+  for (const auto& row : rows) {
+    if (wanted(row)) keys.emplace_back(row.key);
+  }
+  return Join(keys, separator);
 }
+
+template <typename Row>
+bool _Any(const Row& /*row*/) {
+  return true;
+}
+
+constexpr const char* kListed = ", ";
 
 }  // namespace
 
 ExportOptions MakeExportOptions(const ExportArguments& arguments) {
   ExportOptions options;
-  options.format = &_ParseFormat(arguments.format);
-  _CheckApplicability(arguments, *options.format);
+  ExportChoices& choices = options.choices;
+  choices.format = &_ParseFormat(arguments.format);
+  _CheckApplicability(arguments, *choices.format);
   if (arguments.output.empty()) _Fail("-o needs the name of a file");
   options.classFile = arguments.classFile;
   options.outputFile = arguments.output;
-  options.assignmentIDs = _ParseAssignments(arguments.assignments);
-  options.userIDField =
-      arguments.userIDField ? _ParseUserIDField(*arguments.userIDField) : options.format->defaultUserIDField;
-  options.useQuotes = !arguments.noQuotes;
   options.force = arguments.force;
-  options.report = _MakeReportOptions(arguments);
+  choices.assignmentIDs = _ParseAssignments(arguments.assignments);
+  choices.identifier =
+      arguments.identifier ? _ParseIdentifier(*arguments.identifier) : choices.format->defaultUserIDField;
+  choices.useQuotes = !arguments.noQuotes;
+  choices.report = _MakeReportChoices(arguments);
   return options;
 }
 
 std::string FormatKeys() {
-  return _JoinKeys(FormatTable(), [](const FormatRow& row) { return row.key; });
+  return _JoinKeys(FormatTable(), kListed, _Any<FormatRow>);
 }
 
 std::string UnquotedFormatKeys() {
-  std::vector<FormatRow> rows;
-  for (const FormatRow& row : FormatTable()) {
-    if (row.hasUnquotedVariant) rows.push_back(row);
-  }
-  return _JoinKeys(rows, [](const FormatRow& row) { return row.key; });
+  return _JoinKeys(FormatTable(), kListed, [](const FormatRow& row) { return row.hasUnquotedVariant; });
 }
 
-std::string UserIDFieldKeys() {
-  return _JoinKeys(UserIDFields(), [](const NamedUserIDField& row) { return row.column->key; });
+std::string IdentifierKeys() {
+  return _JoinKeys(qz::kStudentFields, kListed,
+                   [](const qz::StudentField& row) { return row.CanIdentify(); });
 }
 
 std::string ReportFieldKeys() {
-  return _JoinKeys(ReportColumns(), [](const ReportColumn& column) { return column.key; });
+  return _JoinKeys(qz::kStudentFields, kListed, _Any<qz::StudentField>);
+}
+
+std::string DefaultReportFields() {
+  return _JoinKeys(qz::kStudentFields, ",", [](const qz::StudentField& row) {
+    return (row.reportBit & qz::kDefaultReportFields) != 0;
+  });
+}
+
+std::string DefaultReportColumns() {
+  const auto& options = qz::kDefaultReportOptions;
+  return _JoinKeys(kReportColumns, kListed, [&options](const ReportColumns& row) {
+    return row.responses == options[qz::kReportResponses] && row.points == options[qz::kReportPointsEarned];
+  });
 }

@@ -6,13 +6,13 @@
 #include <string>
 #include <vector>
 
-#include "CommandLine/Options.h"
+#include "CommandLine/CommandOptions.h"
 
 struct ExportArguments {
   std::string classFile;
   std::string format;
   std::vector<std::string> assignments;
-  std::optional<std::string> userIDField;
+  std::optional<std::string> identifier;
   std::string output;  // has a default, as all that follow
   bool noQuotes = false;
   bool force = false;
@@ -24,17 +24,17 @@ struct ExportArguments {
   std::vector<std::string> reportOptions;  // names of the given options that only the detailed report has
 };
 
-// The defaults of --fields and --columns.
-extern const char* const kDefaultReportFields;
-extern const char* const kDefaultReportColumns;
-
 // Throws CommandError for values that do not exist or do not go together.
 ExportOptions MakeExportOptions(const ExportArguments& arguments);
 
 // The names there are, separated by commas.
 std::string FormatKeys();
 std::string UnquotedFormatKeys();  // of the formats that have an unquoted variant
-std::string UserIDFieldKeys();
+std::string IdentifierKeys();      // of the student fields that can be the identifier
 std::string ReportFieldKeys();
+
+// The defaults of --fields and --columns.
+std::string DefaultReportFields();
+std::string DefaultReportColumns();
 
 #endif  // GRADIX_EXPORTARGUMENTS_H

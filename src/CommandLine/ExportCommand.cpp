@@ -1,14 +1,14 @@
-#include <algorithm>
+#include <cstdio>
 #include <memory>
 #include <string>
 
 #include "CommandLine/ClassInput.h"
 #include "CommandLine/CommandError.h"
 #include "CommandLine/Commands.h"
-#include "CommandLine/IdentifierCheck.h"
+#include "CommandLine/IdentifierMessages.h"
 #include "CommandLine/OutputFile.h"
-#include "CommandLine/TextOut.h"
-#include "Filters/GX_StdCsv/Session.h"
+#include "CommandLine/TerminalText.h"
+#include "Export/ExportWriter.h"
 
 namespace {
 
@@ -30,76 +30,45 @@ std::string _AssignmentList(const qz::ClassRecord& record) {
   return text;
 }
 
-void _RequireAssignment(const qz::ClassRecord& record, int32_t id) {
-  const bool known =
-      std::any_of(record.assignments.begin(), record.assignments.end(),
-                  [id](const qz::AssignmentRecord& assignment) { return assignment.id == id; });
-  if (!known)
-    _Fail("there is no assignment with the id " + std::to_string(id) + ". " + _AssignmentList(record));
+// The report is about the first selected assignment.
+void _WarnOfTwins(const ExportChoices& choices, const AppliedChoices& applied) {
+  if (!choices.format->IsReport() || applied.selected < 2) return;
+  Warn("several assignments have this id; the report is about the first of them");
 }
 
-void _SelectAssignments(qz::ClassRecord* record, const std::vector<int32_t>& ids) {
-  for (const int32_t id : ids) _RequireAssignment(*record, id);
-  for (qz::AssignmentRecord& assignment : record->assignments) {
-    assignment.selected = ids.empty() || std::find(ids.begin(), ids.end(), assignment.id) != ids.end();
+void _ApplyChoices(const ExportChoices& choices, Session* session) {
+  const qz::ClassRecord& record = *session->GetClass();
+  const AppliedChoices applied = Apply(choices, session);
+  switch (applied.fault) {
+    case ChoiceFault::kNone: return _WarnOfTwins(choices, applied);
+    case ChoiceFault::kUnknownAssignment:
+      _Fail("there is no assignment with the id " + std::to_string(applied.unknownID) + ". " +
+            _AssignmentList(record));
+    case ChoiceFault::kNotOneAssignment:
+      _Fail("the detailed report is about one assignment; name it with -a. " + _AssignmentList(record));
   }
 }
 
-// The report is about the first selected assignment. Ids are not necessarily unique.
-void _WarnOfTwins(const qz::ClassRecord& record) {
-  const auto selected =
-      std::count_if(record.assignments.begin(), record.assignments.end(),
-                    [](const qz::AssignmentRecord& assignment) { return assignment.selected; });
-  if (selected > 1) Warn("several assignments have this id; the report is about the first of them");
+void _CheckClass(const ExportOptions& options, const qz::ClassRecord& record) {
+  const ExportChoices& choices = options.choices;
+  if (choices.format->IsReport()) return;
+  if (record.assignments.empty()) Warn("the class has no assignments; the file will hold the students only");
+  RequireIdentifiers(record, *choices.format, choices.identifier, options.force);
 }
 
-void _SetUpReport(const ExportOptions& options, qz::ClassRecord* record) {
-  const size_t count =
-      options.assignmentIDs.empty() ? record->assignments.size() : options.assignmentIDs.size();
-  if (count != 1)
-    _Fail("the detailed report is about one assignment; name it with -a. " + _AssignmentList(*record));
-  _WarnOfTwins(*record);
-  const ReportOptions& report = options.report;
-  record->optionValue = static_cast<int32_t>(report.fieldMask);
-  record->options[qz::kReportAnswerKey] = report.answerKey;
-  record->options[qz::kReportResponses] = report.responses;
-  record->options[qz::kReportPointsEarned] = report.pointsEarned;
-  record->options[qz::kReportPointsPossible] = report.pointsPossible;
-  record->options[qz::kReportAsterisks] = report.asterisks;
-}
-
-void _SetUpGradebook(const ExportOptions& options, Session* session) {
-  qz::ClassRecord* record = session->GetClass();
-  if (record->assignments.empty()) Warn("the class has no assignments; the file will hold the students only");
-  CheckIdentifiers(*record, *options.format, options.userIDField, options.force);
-  record->userIDField = options.userIDField;
-  session->m_bUseQuotes = options.useQuotes;
-}
-
-void _SetUp(const ExportOptions& options, Session* session) {
-  _SelectAssignments(session->GetClass(), options.assignmentIDs);
-  if (options.format->index == kDetailedResultsFormat) {
-    _SetUpReport(options, session->GetClass());
-  } else {
-    _SetUpGradebook(options, session);
-  }
-}
-
-std::unique_ptr<Session> _MakeSession(const FormatRow& format) {
-  QZEXPORTBEGIN begin{};
-  begin.formatIndex = format.index;
-  return format.make(&begin);
+FileOutcome _Write(const std::string& path, Session* session) {
+  constexpr TextEncoding kEncoding = TextEncoding::kMacRoman;
+  return IsStandardOutput(path) ? WriteExport(session, stdout, kEncoding)
+                                : WriteExport(session, path, kEncoding);
 }
 
 }  // namespace
 
 void RunExport(const ExportOptions& options) {
   _RefuseToOverwrite(options);
-  const std::unique_ptr<Session> session = _MakeSession(*options.format);
+  const std::unique_ptr<Session> session = MakeSession(*options.choices.format);
   *session->GetClass() = ReadClassInput(options.classFile).record;
-  _SetUp(options, session.get());
-  WriteOutput(options.outputFile, [&session](std::FILE* stream) {
-    session->ExportTo(stream);
-    return session->WriteError();
-  });
+  _ApplyChoices(options.choices, session.get());
+  _CheckClass(options, *session->GetClass());
+  TellOutcome(options.outputFile, _Write(options.outputFile, session.get()));
 }

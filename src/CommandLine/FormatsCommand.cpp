@@ -2,8 +2,8 @@
 
 #include "CommandLine/Commands.h"
 #include "CommandLine/OutputFile.h"
-#include "CommandLine/TextOut.h"
-#include "CommandLine/UserIDFields.h"
+#include "CommandLine/TerminalText.h"
+#include "Common/QZData/StudentFields.h"
 
 namespace {
 
@@ -11,7 +11,7 @@ using Json = nlohmann::ordered_json;
 
 // The key of the field proposed for the identifier, null when the format has none.
 const char* _DefaultFieldKey(const FormatRow& row) {
-  return row.idName == nullptr ? nullptr : ColumnOf(row.defaultUserIDField).key;
+  return row.idName == nullptr ? nullptr : qz::FindStudentField(row.defaultUserIDField).key;
 }
 
 Json _OrNull(const char* text) {

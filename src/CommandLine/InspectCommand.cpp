@@ -3,9 +3,10 @@
 #include "CommandLine/ClassInput.h"
 #include "CommandLine/Commands.h"
 #include "CommandLine/OutputFile.h"
-#include "CommandLine/TextOut.h"
-#include "CommandLine/UserIDFields.h"
-#include "Filters/GX_StdCsv/RosterCheck.h"
+#include "CommandLine/TerminalText.h"
+#include "Common/QZData/StudentFields.h"
+#include "Common/RomanText.h"
+#include "Export/IdentifierCheck.h"
 
 namespace {
 
@@ -14,23 +15,25 @@ using Rows = std::vector<std::vector<std::string>>;
 
 // How well a student field serves as the identifier, in numbers of students.
 struct FieldUse {
-  const ReportColumn* column;
+  const qz::StudentField* field;
   size_t empty = 0;
   size_t shared = 0;  // with an identifier that another student has, too
 };
 
-FieldUse _UseOf(const qz::ClassRecord& record, const NamedUserIDField& row) {
-  const RosterCheck check = CheckUserIDs(record, row.field);
-  FieldUse use{row.column, check.empty.size()};
+FieldUse _UseOf(const qz::ClassRecord& record, const qz::StudentField& field) {
+  const IdentifierCheck check = CheckIdentifiers(record, field.userIDField);
+  FieldUse use{&field, check.empty.size()};
   for (const std::vector<size_t>& group : check.duplicates) {
-    if (!record.students[group.front()].GetUserID(row.field).empty()) use.shared += group.size();
+    if (!field.Value(record.students[group.front()]).empty()) use.shared += group.size();
   }
   return use;
 }
 
 std::vector<FieldUse> _FieldUses(const qz::ClassRecord& record) {
   std::vector<FieldUse> uses;
-  for (const NamedUserIDField& row : UserIDFields()) uses.push_back(_UseOf(record, row));
+  for (const qz::StudentField& field : qz::kStudentFields) {
+    if (field.CanIdentify()) uses.push_back(_UseOf(record, field));
+  }
   return uses;
 }
 
@@ -46,7 +49,7 @@ std::string _StudentTable(const qz::ClassRecord& record) {
 std::string _FieldTable(const qz::ClassRecord& record) {
   Rows rows = {{"  FIELD", "TITLE", "EMPTY", "SHARED"}};
   for (const FieldUse& use : _FieldUses(record)) {
-    rows.push_back({std::string("  ") + use.column->key, PrintableRoman(use.column->Title(record)),
+    rows.push_back({std::string("  ") + use.field->key, PrintableRoman(use.field->Title(record)),
                     std::to_string(use.empty), std::to_string(use.shared)});
   }
   return AlignColumns(rows);
@@ -76,21 +79,13 @@ Json _Texts(const std::array<std::string, 3>& texts) {
   return array;
 }
 
-// Whoever may see the class need not see the passwords.
 Json _StudentJson(const qz::StudentRecord& student) {
-  return {{"id", student.id},
-          {"firstName", Utf8FromRoman(student.firstName)},
-          {"lastName", Utf8FromRoman(student.lastName)},
-          {"studentID", Utf8FromRoman(student.studentID)},
-          {"alias", Utf8FromRoman(student.alias)},
-          {"padID", Utf8FromRoman(student.padID)},
-          {"gender", Utf8FromRoman(student.gender)},
-          {"dateOfBirth", Utf8FromRoman(student.dateOfBirth)},
-          {"gradeLevel", Utf8FromRoman(student.gradeLevel)},
-          {"sociological", Utf8FromRoman(student.sociological)},
-          {"race", Utf8FromRoman(student.race)},
-          {"other", Utf8FromRoman(student.other)},
-          {"custom", _Texts(student.custom)}};
+  Json json = {{"id", student.id}};
+  for (const qz::StudentField& field : qz::kStudentFields) {
+    if (field.recordName != nullptr) json[field.recordName] = Utf8FromRoman(field.Value(student));
+  }
+  json["custom"] = _Texts(student.custom);
+  return json;
 }
 
 Json _AssignmentJson(const qz::AssignmentRecord& assignment) {
@@ -106,8 +101,8 @@ Json _AssignmentJson(const qz::AssignmentRecord& assignment) {
 }
 
 Json _FieldJson(const qz::ClassRecord& record, const FieldUse& use) {
-  return {{"field", use.column->key},
-          {"title", Utf8FromRoman(use.column->Title(record))},
+  return {{"field", use.field->key},
+          {"title", Utf8FromRoman(use.field->Title(record))},
           {"empty", use.empty},
           {"shared", use.shared}};
 }

@@ -1,116 +1,72 @@
 #include "CommandLine/OutputFile.h"
 
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
-#include <cstring>
-#include <filesystem>
-#include <optional>
+#include <cstdio>
 #include <system_error>
 
 #include "CommandLine/ClassInput.h"
 #include "CommandLine/CommandError.h"
-#include "CommandLine/TemporaryFile.h"
-#include "CommandLine/TextOut.h"
+#include "CommandLine/TerminalText.h"
 
 namespace {
 
-namespace fs = std::filesystem;
-
-[[noreturn]] void _Fail(int error) {
-  throw std::system_error(error, std::generic_category());
+std::string _ReasonOf(int error) {
+  return std::generic_category().message(error);
 }
 
-// The state of the file, behind symbolic links; none when there is no such file.
-std::optional<struct stat> _StateOf(const std::string& path) {
-  struct stat state {};
-  if (stat(path.c_str(), &state) == 0) return state;
-  if (errno != ENOENT) _Fail(errno);
-  return std::nullopt;
+// The file's state, behind symbolic links; that of the open stream for "-". False when there is none.
+bool _GetState(const std::string& path, int standardStream, struct stat* state) {
+  return (path == kStandardStream ? fstat(standardStream, state) : stat(path.c_str(), state)) == 0;
 }
 
 bool _IsSame(const struct stat& a, const struct stat& b) {
   return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
 }
 
-bool _IsStandardOutput(const struct stat& state) {
-  struct stat standardOutput {};
-  return fstat(STDOUT_FILENO, &standardOutput) == 0 && _IsSame(state, standardOutput);
-}
-
-// The file that a chain of symbolic links ends at, which need not exist. The system has followed the chain
-// before, so it does end.
-fs::path _FollowLinks(fs::path path) {
-  while (fs::is_symlink(fs::symlink_status(path))) path = path.parent_path() / fs::read_symlink(path);
-  return path;
-}
-
-void _Write(std::FILE* stream, const OutputWriter& write) {
-  const int error = write(stream);
-  if (error != 0) _Fail(error);
-}
-
-void _WriteDirectly(const std::string& path, const OutputWriter& write) {
-  const int descriptor = open(path.c_str(), O_WRONLY | O_NOCTTY | O_CLOEXEC);
-  std::FILE* stream = descriptor < 0 ? nullptr : fdopen(descriptor, "w");
-  if (stream == nullptr) _Fail(errno);
-  const int error = write(stream);
-  if (std::fclose(stream) != 0 && error == 0) _Fail(errno);
-  if (error != 0) _Fail(error);
-}
-
-void _Replace(const std::string& path, const std::optional<struct stat>& old, const OutputWriter& write) {
-  // Renaming needs no permission to write the old file, so a protected one would be lost.
-  if (old && access(path.c_str(), W_OK) != 0) _Fail(errno);
-  const fs::path target = _FollowLinks(path);
-  TemporaryFile file(target.parent_path(), old);
-  _Write(file.Stream(), write);
-  file.Rename(target);
-}
-
-void _WriteFile(const std::string& path, const OutputWriter& write) {
-  const std::optional<struct stat> old = _StateOf(path);
-  if (old && _IsStandardOutput(*old)) return _Write(stdout, write);
-  if (old && S_ISDIR(old->st_mode)) _Fail(EISDIR);
-  if (old && !S_ISREG(old->st_mode)) return _WriteDirectly(path, write);
-  _Replace(path, old, write);
+std::string _InPlaceText(const FileOutcome& outcome) {
+  const std::string reason = " (" + _ReasonOf(outcome.inPlaceError) + ")";
+  return outcome.inPlace == InPlace::kNoSecondFile ? "its folder takes no second file" + reason
+                                                   : "no other file can take its place" + reason;
 }
 
 }  // namespace
 
-void WriteOutput(const std::string& path, const OutputWriter& write) {
-  const bool standardOutput = path == kStandardStream;
-  try {
-    if (standardOutput) {
-      _Write(stdout, write);
-    } else {
-      _WriteFile(path, write);
+bool IsStandardOutput(const std::string& path) {
+  struct stat state {};
+  struct stat standardOutput {};
+  return path == kStandardStream ||
+         (_GetState(path, STDOUT_FILENO, &state) && fstat(STDOUT_FILENO, &standardOutput) == 0 &&
+          _IsSame(state, standardOutput));
+}
+
+void TellOutcome(const std::string& path, const FileOutcome& outcome) {
+  // Whoever reads from the pipe has seen enough.
+  if (outcome.error == EPIPE) throw CommandError(kExitOutput, "");
+  const std::string name = path == kStandardStream ? "(standard output)" : PrintableUtf8(path);
+  if (outcome.error != 0) {
+    std::string text = "cannot write " + name + ": " + _ReasonOf(outcome.error);
+    if (outcome.incomplete) {
+      text += "\nThe file is incomplete: it was written in place, because " + _InPlaceText(outcome) + ".";
     }
-  } catch (const std::system_error& error) {
-    // Whoever reads from the pipe has seen enough.
-    if (error.code().value() == EPIPE) throw CommandError(kExitOutput, "");
-    throw CommandError(kExitOutput, "cannot write " +
-                                        (standardOutput ? "(standard output)" : PrintableUtf8(path)) + ": " +
-                                        std::strerror(error.code().value()));
+    throw CommandError(kExitOutput, text);
   }
+  if (outcome.inPlace != InPlace::kNo) Warn(name + " was written in place, because " + _InPlaceText(outcome));
 }
 
 void WriteStandardOutput(const std::string& text) {
-  WriteOutput(kStandardStream, [&text](std::FILE* stream) {
-    errno = 0;
-    const bool written = std::fwrite(text.data(), 1, text.size(), stream) == text.size();
-    return std::fflush(stream) == 0 && written ? 0 : errno != 0 ? errno : EIO;
-  });
+  errno = 0;
+  const bool written = std::fwrite(text.data(), 1, text.size(), stdout) == text.size();
+  FileOutcome outcome;
+  if (std::fflush(stdout) != 0 || !written) outcome.error = errno != 0 ? errno : EIO;
+  TellOutcome(kStandardStream, outcome);
 }
 
 bool IsSameFile(const std::string& inputPath, const std::string& outputPath) {
   struct stat input {};
   struct stat output {};
-  const int inputResult =
-      inputPath == kStandardStream ? fstat(STDIN_FILENO, &input) : stat(inputPath.c_str(), &input);
-  const int outputResult =
-      outputPath == kStandardStream ? fstat(STDOUT_FILENO, &output) : stat(outputPath.c_str(), &output);
-  return inputResult == 0 && outputResult == 0 && S_ISREG(input.st_mode) && _IsSame(input, output);
+  return _GetState(inputPath, STDIN_FILENO, &input) && _GetState(outputPath, STDOUT_FILENO, &output) &&
+         S_ISREG(input.st_mode) && _IsSame(input, output);
 }

@@ -1,19 +1,17 @@
-// The destination of a command's data: a file that is replaced as a whole or not at all, or a stream.
+// Where a command's data goes, and what is told when it does not get there.
 #ifndef GRADIX_OUTPUTFILE_H
 #define GRADIX_OUTPUTFILE_H
 
-#include <cstdio>
-#include <functional>
 #include <string>
 
-// Writes the data to the stream and returns 0, or the errno value of what went wrong.
-using OutputWriter = std::function<int(std::FILE*)>;
+#include "Common/AtomicFile.h"
 
-// Has `write` fill the destination. A file is written under a temporary name in its own folder and takes its
-// place once it is complete, with the permissions of the file it replaces; a symbolic link stays and the file
-// behind it is replaced. Devices and pipes are written directly, "-" is standard output. Throws CommandError
-// when the output was not completely written; an old file is then untouched. One call at a time.
-void WriteOutput(const std::string& path, const OutputWriter& write);
+// True of "-" and of any other name of standard output.
+bool IsStandardOutput(const std::string& path);
+
+// Throws CommandError when the output was not completely written. Warns of a file that had to be written in
+// place.
+void TellOutcome(const std::string& path, const FileOutcome& outcome);
 
 // Writes the text to standard output, with the same failures.
 void WriteStandardOutput(const std::string& text);

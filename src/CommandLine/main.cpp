@@ -8,10 +8,10 @@
 #include <variant>
 
 #include "CommandLine/CommandError.h"
+#include "CommandLine/CommandOptions.h"
 #include "CommandLine/Commands.h"
-#include "CommandLine/Options.h"
 #include "CommandLine/OutputFile.h"
-#include "CommandLine/TextOut.h"
+#include "CommandLine/TerminalText.h"
 
 namespace {
 

@@ -13,7 +13,6 @@
 #include "Filters/GX_StdCsv/CommaSeparatedLine.h"
 #include "Filters/GX_StdCsv/FilterState.h"
 #include "Filters/GX_StdCsv/ResultsJoin.h"
-#include "Filters/GX_StdCsv/RosterCheck.h"
 #include "Filters/GX_StdCsv/SessionMgr.h"
 #include "Filters/GX_StdCsv/formats/Canvas.h"
 #include "tests/support/Exported.h"
@@ -158,40 +157,6 @@ TEST(Session, TellsWhyItsFileIsNotThere) {
     EXPECT_EQ(session->Export("/dev/full"), QZFILTER_SUCCESS) << "the host is told no more";
     EXPECT_EQ(session->WriteError(), ENOSPC) << format.key;
     Exported(session.get());  // and the next export starts afresh
-  }
-}
-
-qz::ClassRecord ClassWithIDs(const std::vector<std::string>& identifiers) {
-  qz::ClassRecord record;
-  for (const std::string& identifier : identifiers) record.students.emplace_back().alias = identifier;
-  return record;
-}
-
-TEST(RosterCheck, FindsEmptyAndRepeatedIdentifiers) {
-  using Groups = std::vector<std::vector<size_t>>;
-  const struct {
-    const char* what;
-    std::vector<std::string> identifiers;
-    bool someEmpty, allEmpty;
-    Groups duplicates;
-  } rows[] = {
-      {"no students", {}, false, true, {}},
-      {"all different, case and blanks count", {"a", "A", "a "}, false, false, {}},
-      {"one empty", {"a", "", "b"}, true, false, {}},
-      {"two empty are equal", {"", "a", ""}, true, false, {{0, 2}}},
-      {"one student, empty", {""}, false, true, {}},
-      {"groups in order of their second student",
-       {"x", "y", "y", "x", "y", "z"},
-       false,
-       false,
-       {{1, 2, 4}, {0, 3}}},
-  };
-  for (const auto& row : rows) {
-    const RosterCheck check = CheckUserIDs(ClassWithIDs(row.identifiers), qz::kUserIDAlias);
-    EXPECT_EQ(check.studentCount, row.identifiers.size()) << row.what;
-    EXPECT_EQ(check.SomeEmpty(), row.someEmpty) << row.what;
-    EXPECT_EQ(check.AllEmpty(), row.allEmpty) << row.what;
-    EXPECT_EQ(check.duplicates, row.duplicates) << row.what;
   }
 }
 

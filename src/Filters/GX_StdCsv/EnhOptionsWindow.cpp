@@ -3,6 +3,7 @@
 #include "Common/Language.h"
 #include "Common/QZData/StudentFields.h"
 #include "Common/help.h"
+#include "Export/AssignmentSelection.h"
 #include "Filters/GX_StdCsv/DialogSession.h"
 #include "Filters/GX_StdCsv/QZLoadString.h"
 #include "Toolkit/Buttons.h"
@@ -153,9 +154,8 @@ uint32_t _CheckedFields(DLGRecord* dialog) {
 void _StoreAssignment(DLGRecord* dialog) {
   const int32_t row = CBGetSelect(dialog, kAssignment);
   if (row < 0) return;
-  for (size_t i = 0; i < m_pntClass->assignments.size(); ++i) {
-    m_pntClass->assignments[i].selected = static_cast<int32_t>(i) == row;
-  }
+  SelectAssignments(m_pntClass,
+                    [row](size_t i, const qz::AssignmentRecord&) { return static_cast<int32_t>(i) == row; });
 }
 
 void _StoreSwitches(DLGRecord* dialog) {

@@ -3,11 +3,12 @@
 #include "Common/Language.h"
 #include "Common/QZData/StudentFields.h"
 #include "Common/help.h"
+#include "Export/AssignmentSelection.h"
+#include "Export/IdentifierCheck.h"
 #include "Filters/GX_StdCsv/DialogMessages.h"
 #include "Filters/GX_StdCsv/DialogSession.h"
 #include "Filters/GX_StdCsv/FormatTable.h"
 #include "Filters/GX_StdCsv/QZLoadString.h"
-#include "Filters/GX_StdCsv/RosterCheck.h"
 #include "Toolkit/Alert.h"
 #include "Toolkit/Buttons.h"
 #include "Toolkit/CBCombo.h"
@@ -145,7 +146,7 @@ qz::UserIDField _ChosenField(DLGRecord* dialog) {
 
 // Warns of students without an identifier. False when the export cannot go on; the dialog may be gone.
 bool _CheckIdentifiers(DLGRecord* dialog, qz::UserIDField field) {
-  const RosterCheck check = CheckUserIDs(*m_ptClass, field);
+  const IdentifierCheck check = CheckIdentifiers(*m_ptClass, field);
   const DLGWatch watch(dialog);
   if (check.SomeEmpty()) {
     ErrorAlert(kText, Utf8Text{SomeEmptyMessage(_Format(), check.empty.size(), check.studentCount)});
@@ -158,9 +159,9 @@ bool _CheckIdentifiers(DLGRecord* dialog, qz::UserIDField field) {
 
 void _StoreChoices(DLGRecord* dialog, qz::UserIDField field, const std::string& path) {
   m_ptClass->exportPath = path;
-  for (size_t i = 0; i < m_ptClass->assignments.size(); ++i) {
-    m_ptClass->assignments[i].selected = LBGetCheck(dialog, kAssignments, static_cast<int32_t>(i)) == 1;
-  }
+  SelectAssignments(m_ptClass, [dialog](size_t i, const qz::AssignmentRecord&) {
+    return LBGetCheck(dialog, kAssignments, static_cast<int32_t>(i)) == 1;
+  });
   s_nUserIDField = field;
   m_ptClass->userIDField = field;
 }

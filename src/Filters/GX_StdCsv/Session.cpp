@@ -2,13 +2,8 @@
 
 #include <cerrno>
 #include <cstring>
-#include <memory>
 
 namespace {
-
-struct FileCloser {
-  void operator()(std::FILE* file) const { std::fclose(file); }
-};
 
 // The reason for a failed stream operation; streams do not always leave one.
 int _StreamError() {
@@ -20,22 +15,19 @@ int _StreamError() {
 Session::Session(const QZEXPORTBEGIN* begin) : m_begin(*begin) {}
 
 uint32_t Session::Export(const char* path) {
-  std::unique_ptr<std::FILE, FileCloser> file(std::fopen(path, "wt"));
-  if (file == nullptr) {
-    m_writeError = _StreamError();
-    return QZFILTER_FILE_NOT_CREATED;
-  }
-  ExportTo(file.get());
-  errno = 0;
-  if (std::fclose(file.release()) != 0 && m_writeError == 0) m_writeError = _StreamError();
-  return QZFILTER_SUCCESS;
+  m_outcome = WriteAtomicFile(path == nullptr ? "" : path, [this](std::FILE* file) {
+    ExportTo(file);
+    return WriteError();
+  });
+  return m_outcome.begun ? QZFILTER_SUCCESS : QZFILTER_FILE_NOT_CREATED;
 }
 
 void Session::ExportTo(std::FILE* file) {
-  m_writeError = 0;
+  m_outcome = {};
+  m_outcome.begun = true;
   errno = 0;  // afterwards the reason of the last write that failed
   Write(file);
-  if (std::fflush(file) != 0 || std::ferror(file) != 0) m_writeError = _StreamError();
+  if (std::fflush(file) != 0 || std::ferror(file) != 0) m_outcome.error = _StreamError();
 }
 
 void Session::WriteSafeCSVString(std::FILE* file, const char* text) {

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <cstdio>
 
+#include "Common/AtomicFile.h"
 #include "Common/QZData/QZClass.h"
 #include "gradix/QZFilter.h"
 
@@ -15,8 +16,8 @@ class Session {
   Session(const Session&) = delete;
   Session& operator=(const Session&) = delete;
 
-  // Writes the whole file. Returns QZFILTER_SUCCESS, or QZFILTER_FILE_NOT_CREATED when the file cannot be
-  // created. A disk that fills up later does not change the status: WriteError tells.
+  // Writes the whole file, as WriteAtomicFile does. Returns QZFILTER_SUCCESS, or QZFILTER_FILE_NOT_CREATED
+  // when the file cannot be created. A disk that fills up later does not change the status: WriteError tells.
   virtual uint32_t Export(const char* path);
 
   // Writes the same bytes to an open stream, which stays open.
@@ -24,7 +25,10 @@ class Session {
 
   // Why the last Export or ExportTo did not write and close its file completely: an errno value, 0 when it
   // did.
-  int WriteError() const { return m_writeError; }
+  int WriteError() const { return m_outcome.error; }
+
+  // The same in full.
+  const FileOutcome& Outcome() const { return m_outcome; }
 
   QZEXPORTBEGIN GetExportInfo() const { return m_begin; }
   qz::ClassRecord* GetClass() { return &m_class; }
@@ -45,7 +49,7 @@ class Session {
 
   QZEXPORTBEGIN m_begin;
   qz::ClassRecord m_class;
-  int m_writeError = 0;
+  FileOutcome m_outcome;
 };
 
 #endif  // GRADIX_SESSION_H

@@ -5,6 +5,7 @@
 
 #include "Common/Language.h"
 #include "Common/QZXMLParse/QZClassParse.h"
+#include "Export/AssignmentSelection.h"
 #include "Filters/GX_StdCsv/DialogSession.h"
 #include "Filters/GX_StdCsv/EnhOptionsWindow.h"
 #include "Filters/GX_StdCsv/FilterState.h"
@@ -52,7 +53,7 @@ bool _ReadClassFile(const FSRef* file, qz::ClassRecord* record) {
 }
 
 void _SelectAssignment(qz::ClassRecord* record, int32_t id) {
-  for (qz::AssignmentRecord& assignment : record->assignments) assignment.selected = assignment.id == id;
+  SelectAssignments(record, [id](size_t, const qz::AssignmentRecord& row) { return row.id == id; });
 }
 
 uint32_t _ExportFile(void* hostWindow, const QZEXPORTFILE* file) {

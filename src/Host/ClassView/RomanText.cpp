@@ -2,21 +2,13 @@
 
 #include <algorithm>
 
+#include "Common/RomanText.h"
 #include "Common/number.h"
-#include "Common/xmlcharmaps.h"
 
 namespace host {
 
 QString FromRoman(std::string_view text) {
-  QString decoded;
-  decoded.reserve(static_cast<qsizetype>(text.size()));
-  for (const char character : text) {
-    const auto code = static_cast<uint8_t>(character);
-    const int32_t codePoint = code < 0x80 ? code : XmlMapToUnicodeChar(code);
-    const bool known = code < 0x80 || codePoint != 0;
-    decoded.append(known ? QChar(static_cast<char16_t>(codePoint)) : QChar(QChar::ReplacementCharacter));
-  }
-  return decoded;
+  return QString::fromStdU16String(Utf16FromRoman(text));
 }
 
 QString LineFromRoman(std::string_view text) {

@@ -4,25 +4,15 @@
 #include <limits>
 #include <optional>
 
+#include "Common/RomanText.h"
 #include "Common/xmlcharmaps.h"
 #include "Common/xmlutil.h"
 
 namespace {
 
-constexpr char32_t kReplacement = 0xFFFD;
 constexpr char32_t kMalformed = 0xFFFFFFFF;
-constexpr uint8_t kAppleLogo = 0xF0;  // the byte that the character map leaves out
-constexpr char16_t kAppleLogoCharacter = 0xF8FF;
-
-char16_t _RomanToUnicode(char character) {
-  const auto code = static_cast<uint8_t>(character);
-  if (code == kAppleLogo) return kAppleLogoCharacter;
-  const int32_t codePoint = XmlMapToUnicodeChar(code);
-  return codePoint == 0 && code != 0 ? char16_t{kReplacement} : static_cast<char16_t>(codePoint);
-}
 
 std::optional<char> _UnicodeToRoman(char32_t character) {
-  if (character == kAppleLogoCharacter) return static_cast<char>(kAppleLogo);
   if (character > 0xFFFF) return std::nullopt;
   const uint8_t code = XmlMapFromUnicodeChar(static_cast<int32_t>(character));
   if (code == 0 && character != 0) return std::nullopt;
@@ -175,23 +165,17 @@ std::string CFStringGetUTF8(CFStringRef string) {
   std::string bytes;
   for (std::u16string_view text = CFStringGetText(string); !text.empty();) {
     const char32_t character = _TakeUTF16(&text);
-    _AppendUTF8(&bytes, character == kMalformed ? kReplacement : character);
+    _AppendUTF8(&bytes, character == kMalformed ? kReplacementCharacter : character);
   }
   return bytes;
 }
 
 std::u16string MacRomanToUTF16(std::string_view text) {
-  std::u16string result;
-  result.reserve(text.size());
-  for (const char character : text) result += _RomanToUnicode(character);
-  return result;
+  return Utf16FromRoman(text);
 }
 
 std::string MacRomanToUTF8(std::string_view text) {
-  std::string result;
-  result.reserve(text.size());
-  for (const char character : text) _AppendUTF8(&result, _RomanToUnicode(character));
-  return result;
+  return Utf8FromRoman(text);
 }
 
 std::string UTF8ToMacRoman(std::string_view text) {

@@ -44,7 +44,7 @@ CFStringRef CFStringCreateWithReplacedUTF8(std::string_view text);  // each malf
 std::u16string_view CFStringGetText(CFStringRef string);            // lives as long as the string
 std::string CFStringGetUTF8(CFStringRef string);                    // lone surrogates become U+FFFD
 
-// Mac OS Roman to UTF-16 and to UTF-8; every byte has a character, 0xF0 the private U+F8FF.
+// Mac OS Roman to UTF-16 and to UTF-8; a byte without a character becomes U+FFFD.
 std::u16string MacRomanToUTF16(std::string_view text);
 std::string MacRomanToUTF8(std::string_view text);
 // UTF-8 to Mac OS Roman; "?" for what Roman lacks and for malformed bytes.

@@ -1,11 +1,11 @@
-#include "CommandLine/IdentifierCheck.h"
+#include "CommandLine/IdentifierMessages.h"
 
 #include <string>
 
 #include "CommandLine/CommandError.h"
-#include "CommandLine/TextOut.h"
-#include "CommandLine/UserIDFields.h"
-#include "Filters/GX_StdCsv/RosterCheck.h"
+#include "CommandLine/TerminalText.h"
+#include "Common/QZData/StudentFields.h"
+#include "Export/IdentifierCheck.h"
 
 namespace {
 
@@ -29,14 +29,14 @@ std::string _StudentTexts(const qz::ClassRecord& record, const std::vector<size_
   return Join(texts, ", ");
 }
 
-std::string _SomeEmptyText(const Identifier& id, const RosterCheck& check) {
+std::string _SomeEmptyText(const Identifier& id, const IdentifierCheck& check) {
   return "the field " + id.fieldTitle + ", taken as the " + id.name + ", is empty for " +
          std::to_string(check.empty.size()) + " of " + std::to_string(check.studentCount) +
          " students. Without a valid " + id.name + " they will not be imported:\n  " +
          _StudentTexts(id.record, check.empty);
 }
 
-std::string _AllEmptyText(const Identifier& id, const RosterCheck& check) {
+std::string _AllEmptyText(const Identifier& id, const IdentifierCheck& check) {
   if (check.studentCount == 0) return "the class has no students, so there are no results to export.";
   return "the field " + id.fieldTitle + ", taken as the " + id.name +
          ", is empty for all students, so no results could be imported. Choose another field with -u:\n  " +
@@ -50,7 +50,7 @@ std::string _SharedText(const std::string& identifier) {
   return text;
 }
 
-std::string _DuplicatesText(const Identifier& id, const RosterCheck& check) {
+std::string _DuplicatesText(const Identifier& id, const IdentifierCheck& check) {
   std::string text = "students have a missing or non-unique " + id.name + ":";
   for (const std::vector<size_t>& group : check.duplicates) {
     const std::string& shared = id.record.students[group.front()].GetUserID(id.field);
@@ -68,10 +68,11 @@ void _Refuse(const std::string& text, bool force) {
 
 }  // namespace
 
-void CheckIdentifiers(const qz::ClassRecord& record, const FormatRow& format, qz::UserIDField field,
-                      bool force) {
-  const RosterCheck check = CheckUserIDs(record, field);
-  const Identifier id{record, field, format.idName, PrintableRoman(ColumnOf(field).Title(record))};
+void RequireIdentifiers(const qz::ClassRecord& record, const FormatRow& format, qz::UserIDField field,
+                        bool force) {
+  const IdentifierCheck check = CheckIdentifiers(record, field);
+  const Identifier id{record, field, format.idName,
+                      PrintableRoman(qz::FindStudentField(field).Title(record))};
   if (check.AllEmpty()) return _Refuse(_AllEmptyText(id, check), force);
   if (check.SomeEmpty()) Warn(_SomeEmptyText(id, check));
   if (check.HasDuplicates()) _Refuse(_DuplicatesText(id, check), force);

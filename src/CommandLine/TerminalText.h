@@ -1,15 +1,13 @@
 // Text for people: class data and names from the command line, made fit for a terminal and for JSON.
-#ifndef GRADIX_TEXTOUT_H
-#define GRADIX_TEXTOUT_H
+#ifndef GRADIX_TERMINALTEXT_H
+#define GRADIX_TERMINALTEXT_H
 
 #include <string>
 #include <string_view>
 #include <vector>
 
-// The UTF-8 form of a class file's text (Mac OS Roman). A code without a character becomes U+FFFD.
-std::string Utf8FromRoman(std::string_view text);
-
-// The same with control characters as "?", so that no name breaks a line or controls a terminal.
+// A class file's text as UTF-8 with control characters as "?", so that no name breaks a line or controls a
+// terminal.
 std::string PrintableRoman(std::string_view text);
 
 // A file name, an argument or a message that quotes one: well-formed UTF-8 with control characters as "?".
@@ -29,4 +27,4 @@ std::string Join(const std::vector<std::string>& texts, std::string_view separat
 void Say(const std::string& text);
 void Warn(const std::string& text);
 
-#endif  // GRADIX_TEXTOUT_H
+#endif  // GRADIX_TERMINALTEXT_H

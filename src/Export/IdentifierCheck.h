@@ -1,6 +1,6 @@
 // Checks that every student can be told apart by the identifier that an export will write.
-#ifndef GRADIX_ROSTERCHECK_H
-#define GRADIX_ROSTERCHECK_H
+#ifndef GRADIX_EXPORT_IDENTIFIERCHECK_H
+#define GRADIX_EXPORT_IDENTIFIERCHECK_H
 
 #include <cstddef>
 #include <vector>
@@ -8,7 +8,7 @@
 #include "Common/QZData/QZClass.h"
 
 // Students are given by their position in ClassRecord::students.
-struct RosterCheck {
+struct IdentifierCheck {
   size_t studentCount = 0;
   std::vector<size_t> empty;  // students without an identifier
 
@@ -20,6 +20,6 @@ struct RosterCheck {
   bool HasDuplicates() const { return !duplicates.empty(); }
 };
 
-RosterCheck CheckUserIDs(const qz::ClassRecord& record, qz::UserIDField field);
+IdentifierCheck CheckIdentifiers(const qz::ClassRecord& record, qz::UserIDField field);
 
-#endif  // GRADIX_ROSTERCHECK_H
+#endif  // GRADIX_EXPORT_IDENTIFIERCHECK_H

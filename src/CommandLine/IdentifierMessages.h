@@ -1,13 +1,13 @@
 // Tells the user about students whom the learning system could not recognise.
-#ifndef GRADIX_IDENTIFIERCHECK_H
-#define GRADIX_IDENTIFIERCHECK_H
+#ifndef GRADIX_IDENTIFIERMESSAGES_H
+#define GRADIX_IDENTIFIERMESSAGES_H
 
 #include "Common/QZData/QZClass.h"
 #include "Filters/GX_StdCsv/FormatTable.h"
 
 // Warns of students without an identifier. Refuses, by throwing CommandError, a class in which nobody has one
 // or in which students share one; `force` makes these warnings, too. Names the students concerned.
-void CheckIdentifiers(const qz::ClassRecord& record, const FormatRow& format, qz::UserIDField field,
-                      bool force);
+void RequireIdentifiers(const qz::ClassRecord& record, const FormatRow& format, qz::UserIDField field,
+                        bool force);
 
-#endif  // GRADIX_IDENTIFIERCHECK_H
+#endif  // GRADIX_IDENTIFIERMESSAGES_H

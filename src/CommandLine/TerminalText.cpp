@@ -1,4 +1,4 @@
-#include "CommandLine/TextOut.h"
+#include "CommandLine/TerminalText.h"
 
 #include <algorithm>
 #include <array>
@@ -6,7 +6,7 @@
 #include <cstdio>
 #include <sstream>
 
-#include "Common/xmlcharmaps.h"
+#include "Common/RomanText.h"
 #include "Common/xmlutil.h"
 
 namespace {
@@ -49,21 +49,6 @@ void _WriteMessage(const std::string& text) {
 }
 
 }  // namespace
-
-std::string Utf8FromRoman(std::string_view text) {
-  std::string utf8;
-  utf8.reserve(text.size());
-  for (const char character : text) {
-    const auto code = static_cast<uint8_t>(character);
-    if (code < 0x80) {
-      utf8.push_back(character);
-    } else {
-      const int32_t codePoint = XmlMapToUnicodeChar(code);
-      _AppendUtf8(&utf8, codePoint == 0 ? -1 : codePoint);
-    }
-  }
-  return utf8;
-}
 
 std::string PrintableRoman(std::string_view text) {
   return PrintableUtf8(Utf8FromRoman(text));

@@ -1,12 +1,12 @@
-#include "Filters/GX_StdCsv/RosterCheck.h"
+#include "Export/IdentifierCheck.h"
 
 #include <algorithm>
 #include <string_view>
 
 #include "Common/KeyIndex.h"
 
-RosterCheck CheckUserIDs(const qz::ClassRecord& record, qz::UserIDField field) {
-  RosterCheck check;
+IdentifierCheck CheckIdentifiers(const qz::ClassRecord& record, qz::UserIDField field) {
+  IdentifierCheck check;
   check.studentCount = record.students.size();
 
   KeyIndex<std::string_view> identifiers(check.studentCount);

@@ -1,4 +1,4 @@
-#include "CommandLine/Options.h"
+#include "CommandLine/CommandOptions.h"
 
 #include <CLI/CLI.hpp>
 #include <sstream>
@@ -6,8 +6,8 @@
 #include "CommandLine/ClassInput.h"
 #include "CommandLine/CommandError.h"
 #include "CommandLine/ExportArguments.h"
-#include "CommandLine/TextOut.h"
-#include "CommandLine/UserIDFields.h"
+#include "CommandLine/TerminalText.h"
+#include "Common/QZData/StudentFields.h"
 
 namespace {
 
@@ -73,12 +73,12 @@ std::string _IndentedList(const std::string& list) {
 std::string _ExportFooter() {
   std::vector<std::vector<std::string>> formats;
   for (const FormatRow& row : FormatTable()) {
-    const char* field = row.idName == nullptr ? "" : ColumnOf(row.defaultUserIDField).key;
+    const char* field = row.idName == nullptr ? "" : qz::FindStudentField(row.defaultUserIDField).key;
     formats.push_back({"  " + std::string(row.key), row.name, field});
   }
   return "Formats, with the student field that is used without -u:\n" + AlignColumns(formats) +
-         "\nStudent fields for -u:\n" + _IndentedList(UserIDFieldKeys()) +
-         "\nStudent fields for --fields:\n" + _IndentedList(ReportFieldKeys()) + "\n" + kExportExamples;
+         "\nStudent fields for -u:\n" + _IndentedList(IdentifierKeys()) + "\nStudent fields for --fields:\n" +
+         _IndentedList(ReportFieldKeys()) + "\n" + kExportExamples;
 }
 
 void _DefineClassFile(CLI::App* command, std::string* classFile) {
@@ -113,7 +113,7 @@ void _DefineGradebookOptions(CLI::App* command, ExportArguments* arguments) {
       ->type_name("ID")
       ->allow_extra_args(false);
   command
-      ->add_option("-u,--user-id", arguments->userIDField,
+      ->add_option("-u,--user-id", arguments->identifier,
                    "The student field that holds the name or number by which the learning system knows a "
                    "student.")
       ->type_name("FIELD");
@@ -133,12 +133,12 @@ void _DefineReportOptions(CLI::App* command, ExportArguments* arguments) {
   command
       ->add_option("--fields", arguments->fields,
                    "The student fields to write, separated by commas; or all, or none. Without it: " +
-                       std::string(kDefaultReportFields) + ".")
+                       DefaultReportFields() + ".")
       ->type_name("LIST");
   command
       ->add_option("--columns", arguments->columns,
                    "What to write of each question: responses, points, or both. Without it: " +
-                       std::string(kDefaultReportColumns) + ".")
+                       DefaultReportColumns() + ".")
       ->type_name("WHAT");
   command->add_flag("--answer-key", arguments->answerKey, "Add a line with the correct answers.");
   command->add_flag("--points-possible", arguments->pointsPossible,
@@ -150,8 +150,8 @@ void _DefineReportOptions(CLI::App* command, ExportArguments* arguments) {
 CLI::App* _DefineExport(CLI::App* app, ExportArguments* arguments) {
   CLI::App* command = app->add_subcommand("export", "Writes a gradebook file or the detailed report.");
   arguments->output = kStandardStream;
-  arguments->fields = kDefaultReportFields;
-  arguments->columns = kDefaultReportColumns;
+  arguments->fields = DefaultReportFields();
+  arguments->columns = DefaultReportColumns();
   _DefineClassFile(command, &arguments->classFile);
   _DefineGradebookOptions(command, arguments);
   _DefineReportOptions(command, arguments);

@@ -164,8 +164,6 @@ class TemporaryFile {
     if (unnamed >= 0) {
       if (access(_PathOfDescriptor(unnamed).c_str(), F_OK) == 0) return unnamed;
       close(unnamed);  // it could never be given a name
-    } else if (errno != EOPNOTSUPP && errno != EISDIR && errno != EINVAL) {
-      return unnamed;
     }
     auto [descriptor, name] = _WithHiddenName([folder, mode](const char* hidden) {
       return openat(folder, hidden, O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, mode);

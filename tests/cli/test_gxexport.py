@@ -102,6 +102,8 @@ class Reading(FolderTest):
             "cut short": (SAMPLE.read_bytes()[:3000], ": no element found"),
             "empty": (b"", ":1:1: no element found"),
             "another document": (b"<html/>", "not class"),
+            "two bytes per character": ("<class/>".encode("utf-16"), "the encoding UTF-16 is not supported"),
+            "unknown encoding": (b"<?xml version='1.0' encoding='windows-1252'?><class/>", ":1:31: the encoding windows-"),
         }
         for name, (data, message) in rows.items():
             path = self.folder / "bad.xml"
@@ -362,15 +364,75 @@ class Output(FolderTest):
         questions = [("A", 1)] * 2000
         source = self.write_class([student(i, "Name") for i in range(4000)], [assignment(1, "Long", questions)])
         self.output.write_bytes(b"old")
-        for number in (signal.SIGINT, signal.SIGTERM, signal.SIGHUP):
+        for number in (signal.SIGINT, signal.SIGTERM, signal.SIGHUP, signal.SIGKILL):
             with self.subTest(number.name):
                 process = subprocess.Popen([GXEXPORT, "export", "-f", "detailed", "-o", self.output, source])
-                while process.poll() is None and len(os.listdir(self.folder)) < 3:
+                while process.poll() is None and not self.is_writing(process):
                     time.sleep(0.0005)
                 process.send_signal(number)
                 self.assertEqual(process.wait(), -number)
                 self.assertEqual(self.written(), b"old")
                 self.assert_only("out.csv", "class.xml")
+
+    def is_writing(self, process):
+        """Whether it has an unnamed file in the folder, with text in it."""
+        folder = f"/proc/{process.pid}/fd"
+        try:
+            paths = [os.path.join(folder, name) for name in os.listdir(folder)]
+            return any(os.readlink(path).startswith(f"{self.folder}/#") and os.stat(path).st_size for path in paths)
+        except OSError:  # closed, or gone
+            return False
+
+    def test_what_cannot_be_replaced_is_written_in_place(self):
+        source = self.folder / "class.xml"
+        source.write_bytes(SAMPLE.read_bytes())
+        closed = self.folder / "closed"
+        closed.mkdir()
+        output = closed / "out.csv"
+        output.write_bytes(b"old" * 10000)
+        output.chmod(0o666)
+        closed.chmod(0o555)
+        self.addCleanup(closed.chmod, 0o755)
+        self.folder.chmod(0o755)
+        number = output.stat().st_ino
+        result = self.export(output, source=source, **UNPRIVILEGED)
+        self.check(result, DONE, f"warning: {output} was written in place", "no second file (Permission denied)\n")
+        self.assertEqual(result.stderr.count(b"\n"), 1)
+        self.assertEqual((self.written(output), output.stat().st_ino), (self.expected, number))
+        limit = lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (100, 100))  # noqa: E731
+        self.check(self.export(output, source=source, preexec_fn=limit, **UNPRIVILEGED), OUTPUT, "File too large",
+                   "The file is incomplete: it was written in place")
+        self.assertEqual(self.written(output), self.expected[:100])
+
+    def mount(self, *args):
+        """Mounts onto args[-1] until the end of the test."""
+        if os.geteuid() != 0 or subprocess.run(["mount", *args], capture_output=True).returncode != 0:
+            self.skipTest("NOT TESTED: nothing can be mounted here")
+        self.addCleanup(subprocess.run, ["umount", args[-1]], check=True)
+
+    def test_a_mounted_file_is_written_in_place(self):
+        behind = self.folder / "behind.csv"
+        for path in (behind, self.output):
+            path.write_bytes(b"old")
+        self.mount("--bind", behind, self.output)
+        self.check(self.export(self.output), DONE, "written in place", "no other file can take its place (Device or")
+        self.assertEqual(self.written(behind), self.expected)
+        self.assert_only("behind.csv", "out.csv")
+
+    def test_a_full_disk_leaves_the_old_file(self):
+        disk = self.folder / "disk"
+        disk.mkdir()
+        self.mount("-t", "tmpfs", "-o", "size=16k", "none", disk)
+        output = disk / "out.csv"
+        output.write_bytes(b"old" * 1000)
+        filler = disk / "filler"
+        filler.write_bytes(b"x" * 12288)  # the rest of it
+        self.check(self.export(output), OUTPUT, f"cannot write {output}: No space left on device\n")
+        self.assertEqual(self.written(output), b"old" * 1000)
+        self.assertEqual(sorted(os.listdir(disk)), ["filler", "out.csv"])
+        filler.unlink()
+        self.check(self.export(output), DONE)
+        self.assertEqual(self.written(output), self.expected)
 
 
 if __name__ == "__main__":

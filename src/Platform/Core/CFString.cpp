@@ -80,7 +80,7 @@ std::u16string _UTF8ToUTF16(std::string_view text, size_t* malformed) {
   while (!text.empty()) {
     const char32_t character = _TakeUTF8(&text);
     if (character == kMalformed) ++*malformed;
-    _AppendUTF16(&result, character == kMalformed ? kReplacement : character);
+    _AppendUTF16(&result, character == kMalformed ? kReplacementCharacter : character);
   }
   return result;
 }

@@ -110,7 +110,7 @@ TEST_F(AtomicFile, IsCompleteOrTheOldOne) {
       {"the same, hidden name", EISDIR, EROFS, 0, 0, {0, true, false, InPlace::kNoSecondFile, EROFS}, "new"},
       {"the same, full disk",
        EACCES,
-       0,
+       EACCES,
        0,
        ENOSPC,
        {ENOSPC, true, true, InPlace::kNoSecondFile, EACCES},

@@ -54,6 +54,7 @@ void _Export(Session* session, QZEXPORTOUTCOME* outcome) {
   outcome->error = ENOMEM;  // should writing throw
   const uint32_t status = session->Export(session->GetClass()->exportPath.c_str());
   outcome->error = session->WriteError();
+  outcome->incomplete = session->Outcome().incomplete ? 1 : 0;
   if (status == QZFILTER_SUCCESS && outcome->error == 0) outcome->state = QZFILTER_WRITTEN;
 }
 

@@ -3,6 +3,7 @@
 #include <sys/resource.h>
 
 #include <QDialog>
+#include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -264,7 +265,7 @@ class RealFilterTest : public MainWindowTest {
 };
 
 // From the menu to what the user reads in the end.
-TEST_F(RealFilterTest, TheUserReadsOfAFullDisk) {
+TEST_F(RealFilterTest, AFullDiskLeavesTheOldFile) {
   ASSERT_TRUE(OpenSample());
   WriteFile(PathOf("out.csv"), "old");
   QWidget* dialog = nullptr;
@@ -297,6 +298,8 @@ TEST_F(RealFilterTest, TheUserReadsOfAFullDisk) {
   EXPECT_EQ(alert, QStringLiteral("Assignment results have been saved in %1.").arg(PathOf("out.csv")));
   EXPECT_EQ(message->text(), Text(TextID::kNotWritten).arg(PathOf("out.csv")));
   EXPECT_TRUE(message->informativeText().contains(QString::fromLocal8Bit(std::strerror(EFBIG))));
+  EXPECT_EQ(ReadFile(PathOf("out.csv")), "old");
+  EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList("out.csv"));
 }
 
 }  // namespace

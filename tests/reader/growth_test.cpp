@@ -15,7 +15,7 @@
 
 #include "Common/QZXMLParse/QZClassParse.h"
 #if defined(__SANITIZE_ADDRESS__)
-#include <sanitizer/allocator_interface.h>
+extern "C" size_t __sanitizer_get_current_allocated_bytes();
 #endif
 
 namespace {

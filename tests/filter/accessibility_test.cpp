@@ -40,8 +40,7 @@ TEST_F(AccessibilityTest, EveryControlHasAName) {
 TEST_F(AccessibilityTest, PopupsAndListsHaveTheirTextAsLabel) {
   const struct {
     uint32_t format;
-    int item;
-    int label;
+    int item, label;
   } rows[] = {{kCanvas, kFieldPopup, kPopupLabel},
               {kCanvas, kAssignments, kAssignmentsLabel},
               {kDetailed, kReportAssignment, 3},

@@ -34,8 +34,7 @@ TEST_F(ChecksTest, AsksForAnAssignmentWhenNoneIsChecked) {
 
 TEST_F(ChecksTest, ChecksTheIdentifiersOfTheClass) {
   const struct {
-    std::vector<std::string> studentIDs;
-    std::vector<std::string> messages;
+    std::vector<std::string> studentIDs, messages;
     bool goesOn;
   } rows[] = {
       {{"1", "2", "3"}, {}, true},
@@ -127,10 +126,7 @@ TEST_F(ChecksTest, ShowsEveryPathAsItIs) {
 }
 
 TEST_F(ChecksTest, CutsLongAssignmentNames) {
-  const struct {
-    size_t length;
-    size_t kept;
-  } rows[] = {{29, 29}, {31, 31}, {32, 31}, {45, 31}};
+  const struct { size_t length, kept; } rows[] = {{29, 29}, {31, 31}, {32, 31}, {45, 31}};
   for (const auto& row : rows) {
     std::string name(row.length, 'n');
     name.front() = 'A';

@@ -10,8 +10,7 @@ namespace {
 
 struct FormatCase {
   uint32_t index;
-  const char* key;
-  const char* title;
+  const char *key, *title;
   int fieldRow;  // of the popup, selected at first
   const char* idName;
   int helpTopic;
@@ -208,8 +207,7 @@ TEST_F(EndToEnd, WritesBlackboardFilesWithAndWithoutQuotes) {
 class DetailedReport : public EndToEnd {
  protected:
   struct Box {
-    bool enabled;
-    bool checked;
+    bool enabled, checked;
     bool operator==(const Box&) const = default;
   };
   static std::vector<Box> Boxes(QWidget* dialog) {

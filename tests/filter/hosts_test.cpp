@@ -185,8 +185,7 @@ TEST_F(HostsTest, TellsWhatBecameOfAnExport) {
     uint32_t format;
     std::string path;
     uint32_t state;
-    int32_t error;
-    int32_t field;
+    int32_t error, field;
     uint32_t assignments, withoutIdentifier;
   } rows[] = {
       {kCanvas, PathOf("a.csv"), QZFILTER_WRITTEN, 0, 3, 2, 1},

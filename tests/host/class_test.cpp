@@ -108,8 +108,7 @@ TEST_F(ClassTest, HistogramIsDrawnInThePalette) {
 
 TEST_F(ClassTest, NameOfTheClass) {
   struct Case {
-    const char* text;
-    const char* name;
+    const char *text, *name;
   };
   const Case cases[] = {
       {"<class><class-name> A &amp;\n B </class-name></class>", "A & B"},

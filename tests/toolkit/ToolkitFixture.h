@@ -49,8 +49,8 @@ inline constexpr int32_t kDemoDialog = 500;
 class ToolkitTest : public testing::Test {
  protected:
   void SetUp() override {
-    static const bool s_started = Start();
-    ASSERT_TRUE(s_started);
+    static const bool gStarted = Start();
+    ASSERT_TRUE(gStarted);
     ActiveTest() = this;
   }
 
@@ -110,8 +110,8 @@ class ToolkitTest : public testing::Test {
 
  private:
   static ToolkitTest*& ActiveTest() {
-    static ToolkitTest* s_active = nullptr;
-    return s_active;
+    static ToolkitTest* gActive = nullptr;
+    return gActive;
   }
 
   static intptr_t RecordHit(DLGRecord* dialog, int32_t item) {

@@ -7,8 +7,7 @@
 namespace {
 
 struct Row {
-  const char* name;
-  const char* format;
+  const char *name, *format;
   std::vector<AlertArgument> arguments;
   const char* expected;
 };

@@ -177,14 +177,14 @@ std::vector<std::string>& _Log() {
   static std::vector<std::string> log;
   return log;
 }
-int32_t s_failingItem = 0;
+int32_t gFailingItem = 0;
 
 intptr_t _LoggingProc(DLGRecord* dialog, int32_t item, int32_t message, intptr_t param1, intptr_t) {
   std::ostringstream line;
   line << item << ":" << message;
   if (message == kDLGCreate) line << "(" << DLGDataLeft(dialog, reinterpret_cast<const char*>(param1)) << ")";
   _Log().push_back(line.str());
-  return message == kDLGCreate && item == s_failingItem ? -1 : 0;
+  return message == kDLGCreate && item == gFailingItem ? -1 : 0;
 }
 
 class MessageOrder : public Creation {
@@ -195,7 +195,7 @@ class MessageOrder : public Creation {
     Creation::SetUp();
     DLGRegisterItem(kType, _LoggingProc);
     _Log().clear();
-    s_failingItem = 0;
+    gFailingItem = 0;
     std::string& descriptions = m_changed.Data("luDI", kNoTabStops);
     const std::string item = BigEndian(kType, 4) + BigEndian(kDLGEnabled | kDLGVisible, 4);
     descriptions = BigEndian(2, 4) + item + item;
@@ -214,7 +214,7 @@ TEST_F(MessageOrder, CreationAndDisposal) {
 }
 
 TEST_F(MessageOrder, AnItemThatFailsTakesTheDialogWithIt) {
-  s_failingItem = 2;
+  gFailingItem = 2;
   EXPECT_EQ(GetDialogResource(nullptr, kDLGModeless, nullptr, kNoTabStops, 0, nullptr, nullptr, nullptr),
             nullptr);
   EXPECT_EQ(_Log(), (std::vector<std::string>{"1:1(8)", "2:1(0)", "1:2", "2:2"}));

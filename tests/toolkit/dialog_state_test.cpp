@@ -94,28 +94,28 @@ TEST_F(State, ItemFields) {
 }
 
 TEST_F(State, ANewRectangleIsTold) {
-  static intptr_t s_size;
-  s_size = 0;
+  static intptr_t gSize;
+  gSize = 0;
   DLGRecord* dialog = Open(kFields, kDLGModeless);
   SetItemProc(dialog, kFirst,
               [](DLGRecord*, int32_t, int32_t message, intptr_t param1, intptr_t) -> intptr_t {
-                if (message == kDLGResize) s_size = param1;
+                if (message == kDLGResize) gSize = param1;
                 return 0;
               });
   SizeDLGItem(dialog, kFirst, {10, 20, 40, 220});
-  EXPECT_EQ(s_size, (30 << 16) | 200);
+  EXPECT_EQ(gSize, (30 << 16) | 200);
   EXPECT_EQ(Widget(dialog, kFirst)->geometry(), QRect(20, 10, 200, 30));
 }
 
 TEST_F(State, GlobalHooks) {
-  static std::vector<std::string> s_calls;
-  s_calls.clear();
-  DLGSetGlobalOpenProc([](DLGRecord* d) { s_calls.push_back("open " + std::to_string(d->resourceID)); });
-  DLGSetGlobalCloseProc([](DLGRecord* d) { s_calls.push_back("close " + std::to_string(d->resourceID)); });
+  static std::vector<std::string> gCalls;
+  gCalls.clear();
+  DLGSetGlobalOpenProc([](DLGRecord* d) { gCalls.push_back("open " + std::to_string(d->resourceID)); });
+  DLGSetGlobalCloseProc([](DLGRecord* d) { gCalls.push_back("close " + std::to_string(d->resourceID)); });
   MyCloseDialog(Open(kFields, kDLGModeless));
   DLGSetGlobalOpenProc(nullptr);
   DLGSetGlobalCloseProc(nullptr);
-  EXPECT_EQ(s_calls, (std::vector<std::string>{"open 501", "close 501"}));
+  EXPECT_EQ(gCalls, (std::vector<std::string>{"open 501", "close 501"}));
 }
 
 TEST_F(State, ASecondStartKeepsWhatTheFirstRegistered) {
@@ -173,19 +173,19 @@ TEST_F(State, TextIsMeasuredInTheItemsFont) {
 }
 
 TEST_F(State, AListDrawsByItsOwnProcedure) {
-  static std::vector<int32_t> s_drawn;
-  s_drawn.clear();
+  static std::vector<int32_t> gDrawn;
+  gDrawn.clear();
   DLGRecord* dialog = Open(kDemoDialog);
   for (const char* text : {"a", "b"}) LBInsertItem(dialog, kDemoList, text, kRowLast);
   LBSetDrawProc(dialog, kDemoList,
                 [](DrawContext*, DLGRecord*, int32_t item, int32_t row, const Rect& bounds, bool, bool) {
                   EXPECT_EQ(item, kDemoList);
                   EXPECT_GT(RectHeight(bounds), 10);
-                  s_drawn.push_back(row);
+                  gDrawn.push_back(row);
                 });
   LBSetRedraw(dialog, kDemoList, true);
   Widget(dialog, kDemoList)->grab();
-  EXPECT_EQ(s_drawn, (std::vector<int32_t>{0, 1}));
+  EXPECT_EQ(gDrawn, (std::vector<int32_t>{0, 1}));
 }
 
 }  // namespace

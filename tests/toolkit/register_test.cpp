@@ -29,9 +29,7 @@ TEST(Register, RefusesBadIdsRepeatedIdsAndAFullTable) {
 }
 
 struct Walk {
-  int32_t from;
-  int32_t direction;
-  int32_t expected;
+  int32_t from, direction, expected;
 };
 
 TEST(TabOrder, WrapsAndPassesOverWhatTakesNoFocus) {

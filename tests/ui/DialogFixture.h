@@ -130,7 +130,7 @@ using EventLog = std::vector<std::string>;
 class DialogTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    s_test = this;
+    gTest = this;
     InstallDialogEventHandlers({OnMouseDown, OnKey, OnAction, OnFocus, OnClose, OnActivate});
     m_fork = std::make_unique<OpenFork>(AllKinds());
     m_dialog = GetNewDialog(128);
@@ -141,7 +141,7 @@ class DialogTest : public ::testing::Test {
   void TearDown() override {
     while (GetWindowList() != nullptr) DisposeWindow(GetWindowList());
     RunEventPass(0);
-    s_test = nullptr;
+    gTest = nullptr;
     InstallDialogEventHandlers({});
   }
 
@@ -197,37 +197,37 @@ class DialogTest : public ::testing::Test {
   }
 
   static void OnMouseDown(WindowRef window, const MouseEvent& event) {
-    s_test->m_log.push_back(event.doubleClick ? "double" : "down");
-    if (s_test->m_onMouseDown) return s_test->m_onMouseDown(window, event);
+    gTest->m_log.push_back(event.doubleClick ? "double" : "down");
+    if (gTest->m_onMouseDown) return gTest->m_onMouseDown(window, event);
     const ControlRef control = ControlAt(window, event.where);
     if (!HandleControlPress(control, event.where)) return;
     while (StillDown()) RunEventPass(1);
     if (!HandleControlRelease(control, GetMouse(window))) return;
-    s_test->m_log.push_back("hit " + NameOf(control));
-    if (s_test->m_onHit) s_test->m_onHit();
+    gTest->m_log.push_back("hit " + NameOf(control));
+    if (gTest->m_onHit) gTest->m_onHit();
   }
 
   static bool OnKey(WindowRef /*window*/, uint16_t character, uint16_t modifiers) {
-    s_test->m_log.push_back("key " + std::to_string(character) + " " + std::to_string(modifiers));
-    if (s_test->m_keyReceiver == nullptr) return false;
-    const bool changed = HandleControlKey(s_test->m_keyReceiver, character, modifiers);
-    s_test->m_log.push_back(changed ? "changed" : "unchanged");
+    gTest->m_log.push_back("key " + std::to_string(character) + " " + std::to_string(modifiers));
+    if (gTest->m_keyReceiver == nullptr) return false;
+    const bool changed = HandleControlKey(gTest->m_keyReceiver, character, modifiers);
+    gTest->m_log.push_back(changed ? "changed" : "unchanged");
     return changed;
   }
 
   static void OnAction(WindowRef /*window*/, ControlRef control) {
-    s_test->m_log.push_back("action " + NameOf(control));
-    if (s_test->m_onAction) s_test->m_onAction();
+    gTest->m_log.push_back("action " + NameOf(control));
+    if (gTest->m_onAction) gTest->m_onAction();
   }
 
   static void OnFocus(WindowRef /*window*/, ControlRef control) {
-    s_test->m_log.push_back("focus " + NameOf(control));
+    gTest->m_log.push_back("focus " + NameOf(control));
   }
 
-  static void OnClose(WindowRef /*window*/) { s_test->m_log.push_back("close"); }
-  static void OnActivate(WindowRef window) { s_test->m_log.push_back("activate " + GetWTitle(window)); }
+  static void OnClose(WindowRef /*window*/) { gTest->m_log.push_back("close"); }
+  static void OnActivate(WindowRef window) { gTest->m_log.push_back("activate " + GetWTitle(window)); }
 
-  static inline DialogTest* s_test = nullptr;
+  static inline DialogTest* gTest = nullptr;
 };
 
 #endif  // GRADIX_DIALOG_FIXTURE_H

@@ -203,7 +203,7 @@ TEST_F(DialogTest, TextsAreMeasuredByLinesAndFont) {
 }
 
 // Opens the dialog with one resource replaced.
-void ExpectNoDialog(const std::string& type, int16_t id, const std::string& data, const std::string& name) {
+void _ExpectNoDialog(const std::string& type, int16_t id, const std::string& data, const std::string& name) {
   TestTypes types = AllKinds();
   for (auto& [typeName, resources] : types) {
     for (TestResource& resource : resources) {
@@ -226,7 +226,7 @@ TEST_F(DamagedDialogTest, IsRefusedAtEveryLength) {
       for (size_t length = 0; length < resource.data.size(); ++length) {
         const std::string name =
             type + " " + std::to_string(resource.id) + " cut to " + std::to_string(length);
-        ExpectNoDialog(type, resource.id, resource.data.substr(0, length), name);
+        _ExpectNoDialog(type, resource.id, resource.data.substr(0, length), name);
       }
     }
   }
@@ -238,12 +238,12 @@ TEST_F(DamagedDialogTest, IsRefusedForWhatDoesNotExist) {
   const std::string button = ItemListData({{{0, 0, 9, 9}, 4, "OK"}}).substr(2);
   std::string many;
   for (int i = 0; i < 1001; ++i) many += button;
-  ExpectNoDialog("DLOG", 128, DialogData("x", 5, 999), "missing item list");
-  ExpectNoDialog("DITL", 100, ItemListData({{{0, 0, 9, 9}, 7, BigEndian(999, 2)}}), "missing control");
-  ExpectNoDialog("DITL", 100, ItemListData({{{0, 0, 9, 9}, 7, "\1"}}), "short control id");
-  ExpectNoDialog("CNTL", 352, ControlData(352, "", 999), "missing list description");
-  ExpectNoDialog("DITL", 100, BigEndian(1000, 2) + many, "too many items");
-  ExpectNoDialog("DITL", 100, BigEndian(0x8000, 2) + many, "negative count");
+  _ExpectNoDialog("DLOG", 128, DialogData("x", 5, 999), "missing item list");
+  _ExpectNoDialog("DITL", 100, ItemListData({{{0, 0, 9, 9}, 7, BigEndian(999, 2)}}), "missing control");
+  _ExpectNoDialog("DITL", 100, ItemListData({{{0, 0, 9, 9}, 7, "\1"}}), "short control id");
+  _ExpectNoDialog("CNTL", 352, ControlData(352, "", 999), "missing list description");
+  _ExpectNoDialog("DITL", 100, BigEndian(1000, 2) + many, "too many items");
+  _ExpectNoDialog("DITL", 100, BigEndian(0x8000, 2) + many, "negative count");
   EXPECT_EQ(GetNewDialog(4711), nullptr);
 }
 

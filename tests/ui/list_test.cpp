@@ -16,8 +16,8 @@ class ListTest : public DialogTest {
     DialogTest::SetUp();
     m_list = GetControlList(Item(kList));
     ASSERT_NE(m_list, nullptr);
-    s_checked.clear();
-    s_drawn.clear();
+    gChecked.clear();
+    gDrawn.clear();
   }
   void TearDown() override {
     RegisterListDefinition(kListDefinitionID, {});
@@ -43,9 +43,9 @@ class ListTest : public DialogTest {
     gestures::ClickRow(View(), row, modifiers);
   }
 
-  static bool IsChecked(ListRef /*list*/, int32_t row) { return s_checked.contains(row); }
+  static bool IsChecked(ListRef /*list*/, int32_t row) { return gChecked.contains(row); }
   static void SetChecked(ListRef /*list*/, int32_t row, bool on) {
-    on ? static_cast<void>(s_checked.insert(row)) : static_cast<void>(s_checked.erase(row));
+    on ? static_cast<void>(gChecked.insert(row)) : static_cast<void>(gChecked.erase(row));
   }
   static void Draw(DrawContext* context, ListRef list, int32_t row, const Rect& bounds, bool selected,
                    bool hasFocus) {
@@ -53,14 +53,14 @@ class ListTest : public DialogTest {
     DrawThemeRow(context, bounds, state);
     DrawThemeCheckBox(context, {bounds.top, bounds.left, bounds.bottom, 20}, IsChecked(list, row), state);
     DrawThemeText(context, LGetCell(list, row), bounds, state);
-    s_drawn.insert(row);
-    s_drawnBounds = bounds;
+    gDrawn.insert(row);
+    gDrawnBounds = bounds;
   }
 
   ListRef m_list = nullptr;
-  static inline std::set<int32_t> s_checked;
-  static inline std::set<int32_t> s_drawn;
-  static inline Rect s_drawnBounds;
+  static inline std::set<int32_t> gChecked;
+  static inline std::set<int32_t> gDrawn;
+  static inline Rect gDrawnBounds;
 };
 
 TEST_F(ListTest, SelectionStaysWithItsRows) {
@@ -165,25 +165,25 @@ TEST_F(ListTest, DefinitionsDrawRowsAndKeepTheChecks) {
   LSetCell(m_list, LAddRow(m_list, 1), "Ben\tB");
   Show();
   View()->grab();
-  EXPECT_EQ(s_drawn, (std::set<int32_t>{0, 1}));
-  EXPECT_EQ(RectHeight(s_drawnBounds), RectHeight(LGetRowBounds(m_list, 1)));
+  EXPECT_EQ(gDrawn, (std::set<int32_t>{0, 1}));
+  EXPECT_EQ(RectHeight(gDrawnBounds), RectHeight(LGetRowBounds(m_list, 1)));
 
   QAbstractItemModel& model = *View()->model();
   const QModelIndex second = model.index(1, 0);
   EXPECT_EQ(second.data(Qt::AccessibleTextRole).toString(), "Ben, B");
   EXPECT_TRUE(model.setData(second, Qt::Checked, Qt::CheckStateRole));
-  EXPECT_EQ(s_checked, std::set<int32_t>{1});
+  EXPECT_EQ(gChecked, std::set<int32_t>{1});
   QAccessibleInterface* const rows = QAccessible::queryAccessibleInterface(View());
   EXPECT_EQ(rows->child(1)->text(QAccessible::Name), "Ben, B");
   EXPECT_TRUE(rows->child(1)->state().checked);
   EXPECT_FALSE(rows->child(0)->state().checked);
 
   QTest::mouseClick(View()->viewport(), Qt::LeftButton, {}, QPoint(8, 8));
-  EXPECT_EQ(s_checked, std::set<int32_t>{1}) << "a press checks nothing by itself";
-  s_drawn.clear();
+  EXPECT_EQ(gChecked, std::set<int32_t>{1}) << "a press checks nothing by itself";
+  gDrawn.clear();
   LSetCell(m_list, 0, "Zoe");
   RunEventPass(2);
-  EXPECT_TRUE(s_drawn.contains(0));
+  EXPECT_TRUE(gDrawn.contains(0));
 }
 
 TEST_F(ListTest, ACutRowHasAToolTip) {

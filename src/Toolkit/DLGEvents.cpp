@@ -43,13 +43,14 @@ bool _ClickReachesItems(WindowRef window) {
   return false;
 }
 
-// The last item under the point that is enabled and visible; 0 for none.
+// The last item under the point that is enabled and visible; 0 for none, and when the dialog goes meanwhile.
 int32_t _HitItem(DLGRecord* dialog, intptr_t point) {
+  const DLGWatch watch(dialog);
   for (int32_t item = dialog->itemCount; item > 0; --item) {
-    if (IsItemEnabled(dialog, item) && IsItemVisible(dialog, item) &&
-        SendDLGItemMessage(dialog, item, kDLGHitTest, point) != 0) {
-      return item;
-    }
+    if (!IsItemEnabled(dialog, item) || !IsItemVisible(dialog, item)) continue;
+    const bool isHit = SendDLGItemMessage(dialog, item, kDLGHitTest, point) != 0;
+    if (!watch.IsLive()) return 0;
+    if (isHit) return item;
   }
   return 0;
 }
@@ -57,30 +58,50 @@ int32_t _HitItem(DLGRecord* dialog, intptr_t point) {
 // Moves the focus to an item that a press is for. False when it stays with another.
 bool _FocusByMouse(DLGRecord* dialog, int32_t item) {
   if ((GetItemFlags(dialog, item) & kDLGTabStop) == 0 || dialog->focusItem == item) return true;
-  const DLGWatch watch(dialog);
-  focusType = kFocusByMouse;
-  SetFocusDLG(dialog, item);
-  focusType = 0;
-  return watch.IsLive() && dialog->focusItem == item;
+  return DLGMoveFocus(dialog, item, kFocusByMouse) && dialog->focusItem == item;
 }
+
+// Whether the item takes the press. False when the dialog goes meanwhile.
+bool _TakesPress(DLGRecord* dialog, int32_t item, bool doubleClick) {
+  if (!doubleClick) return true;
+  const DLGWatch watch(dialog);
+  const intptr_t capabilities = SendDLGItemMessage(dialog, item, kDLGDoubleClick);
+  return watch.IsLive() && (capabilities & kDLGTakesDoubleClicks) != 0;
+}
+
+// While one exists, its item is the one that the mouse is followed in.
+class Tracking {
+ public:
+  Tracking(DLGRecord* dialog, int32_t item) : m_dialog(dialog), m_watch(dialog) {
+    dialog->trackingItem = item;
+  }
+  ~Tracking() {
+    if (m_watch.IsLive()) m_dialog->trackingItem = -1;
+  }
+  Tracking(const Tracking&) = delete;
+  Tracking& operator=(const Tracking&) = delete;
+
+  bool IsLive() const { return m_watch.IsLive(); }
+
+ private:
+  DLGRecord* m_dialog;
+  DLGWatch m_watch;
+};
 
 // Follows the mouse from the press on. Gives the item's last answer; 0 when the dialog went meanwhile.
 intptr_t _Track(DLGRecord* dialog, int32_t item, intptr_t point, bool doubleClick) {
-  const DLGWatch watch(dialog);
   const WindowRef window = dialog->window;
-  dialog->trackingItem = item;
+  const Tracking tracking(dialog, item);
   intptr_t answer = SendDLGItemMessage(dialog, item, kDLGMouseDown, point, doubleClick ? 1 : 0);
-  if (watch.IsLive() && answer == kTrack) {
+  if (tracking.IsLive() && answer == kTrack) {
     while (StillDown()) {
       SendDLGItemMessage(dialog, item, kDLGMouseStillDown, DLGPackPoint(GetMouse(window)));
       RunEventPass(kTrackingPass);
-      if (!watch.IsLive()) return 0;
+      if (!tracking.IsLive()) return 0;
     }
     answer = SendDLGItemMessage(dialog, item, kDLGMouseUp, DLGPackPoint(GetMouse(window)));
   }
-  if (!watch.IsLive()) return 0;
-  dialog->trackingItem = -1;
-  return answer;
+  return tracking.IsLive() ? answer : 0;
 }
 
 }  // namespace
@@ -91,10 +112,7 @@ void DLGHandleMouseDown(WindowRef window, const MouseEvent& event) {
   const DLGWatch watch(dialog);
   const intptr_t point = DLGPackPoint(event.where);
   const int32_t item = _HitItem(dialog, point);
-  if (item == 0 || !_FocusByMouse(dialog, item)) return;
-  if (event.doubleClick && (SendDLGItemMessage(dialog, item, kDLGDoubleClick) & kDLGTakesDoubleClicks) == 0) {
-    return;
-  }
+  if (item == 0 || !_FocusByMouse(dialog, item) || !_TakesPress(dialog, item, event.doubleClick)) return;
   const int32_t resourceID = dialog->resourceID;
   const intptr_t answer = _Track(dialog, item, point, event.doubleClick);
   if (answer == kChanged && DLGIsOpen(resourceID) && watch.IsLive()) DLGNotifyChange(dialog, item);

@@ -1,5 +1,6 @@
 #include "Toolkit/DLGFocus.h"
 
+#include "Toolkit/Buttons.h"
 #include "Toolkit/DLGItems.h"
 #include "Toolkit/DLGLive.h"
 #include "Toolkit/DLGManager.h"
@@ -40,9 +41,20 @@ bool SetFocusDLG(DLGRecord* dialog, int32_t item) {
   if (!watch.IsLive()) return false;
   dialog->focusItem = item;
   if (item == oldItem) return true;
+  BTShowDefButton(dialog);
   if (item == 0) SetKeyboardFocus(dialog->window, nullptr);
   _AnnounceFocus(dialog, oldItem, item);
   return true;
+}
+
+bool DLGMoveFocus(DLGRecord* dialog, int32_t item, int32_t type) {
+  struct FocusType {
+    explicit FocusType(int32_t how) { focusType = how; }
+    ~FocusType() { focusType = 0; }
+  };
+  const DLGWatch watch(dialog);
+  const FocusType scope(type);
+  return SetFocusDLG(dialog, item) && watch.IsLive();
 }
 
 int32_t DLGNextTabStop(const DLGItem* items, int32_t count, int32_t from, int32_t direction) {
@@ -64,9 +76,6 @@ bool DoTabKey(DLGRecord* dialog, int32_t from, int32_t direction) {
   const int32_t before = dialog->focusItem;
   const int32_t next = DLGNextTabStop(DLGItemRow(dialog, 0), dialog->itemCount, from, direction);
   if (next == from) return false;
-  const DLGWatch watch(dialog);
-  focusType = direction == 1 ? kFocusForward : kFocusBackward;
-  SetFocusDLG(dialog, next);
-  focusType = 0;
-  return watch.IsLive() && dialog->focusItem != before;
+  return DLGMoveFocus(dialog, next, direction == 1 ? kFocusForward : kFocusBackward) &&
+         dialog->focusItem != before;
 }

@@ -8,6 +8,9 @@
 extern int32_t focusType;
 enum { kFocusBackward = 1, kFocusByMouse = 2, kFocusForward = 3 };
 
+// Moves the focus with that focusType. False when it stays or the dialog goes.
+bool DLGMoveFocus(DLGRecord* dialog, int32_t item, int32_t type);
+
 // Moves the focus; a negative item means 0, none. False when the item cannot take it or the one that has it
 // does not let go.
 bool SetFocusDLG(DLGRecord* dialog, int32_t item);

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <cstring>
 
+#include "Toolkit/Buttons.h"
 #include "Toolkit/DLGManager.h"
+#include "Toolkit/ItemControls.h"
 
 intptr_t SendDLGItemMessage(DLGRecord* dialog, int32_t item, int32_t message, intptr_t param1,
                             intptr_t param2) {
@@ -62,13 +64,27 @@ bool IsItemVisible(DLGRecord* dialog, int32_t item) {
          (row->flags & kDLGVisible) != 0;
 }
 
+namespace {
+
+// The focus item has the keyboard whenever it can have it.
+void _ReactsAgain(DLGRecord* dialog, int32_t item) {
+  const DLGItem* row = DLGFindItem(dialog, item);
+  if (item == dialog->focusItem && ItemReacts(*row) && row->control != nullptr) {
+    SetKeyboardFocus(dialog->window, row->control);
+  }
+}
+
+}  // namespace
+
 void EnableDLGItem(DLGRecord* dialog, int32_t item, bool on) {
   DLGItem* row = DLGFindItem(dialog, item);
   if (row == nullptr || ((row->flags & kDLGEnabled) != 0) == on) return;
   row->flags ^= kDLGEnabled;
+  BTShowDefButton(dialog);
   if (row->control == nullptr) return;
   if (on) {
     ActivateControl(row->control);
+    _ReactsAgain(dialog, item);
   } else {
     DeactivateControl(row->control);
   }
@@ -81,9 +97,11 @@ void _SetVisible(DLGRecord* dialog, int32_t item, bool on, bool redraw) {
   DLGItem* row = DLGFindItem(dialog, item);
   if (row == nullptr) return;
   row->flags = on ? row->flags | kDLGVisible : row->flags & ~static_cast<uint32_t>(kDLGVisible);
+  BTShowDefButton(dialog);
   if (row->control != nullptr) {
     if (on) {
       ShowControl(row->control);
+      _ReactsAgain(dialog, item);
     } else {
       HideControl(row->control);
     }

@@ -62,12 +62,12 @@ void DLGSetGlobalCloseProc(void (*proc)(DLGRecord*));
 // Remembers a record across calls that may dispose it.
 class DLGWatch {
  public:
-  explicit DLGWatch(DLGRecord* dialog) : dialog_(dialog), serial_(dialog->serial) {}
-  bool IsLive() const { return DialogIsValid(dialog_) && dialog_->serial == serial_; }
+  explicit DLGWatch(DLGRecord* dialog) : m_dialog(dialog), m_serial(dialog->serial) {}
+  bool IsLive() const { return DialogIsValid(m_dialog) && m_dialog->serial == m_serial; }
 
  private:
-  DLGRecord* dialog_;
-  uint64_t serial_;
+  DLGRecord* m_dialog;
+  uint64_t m_serial;
 };
 
 #endif  // GRADIX_DLGMANAGER_H

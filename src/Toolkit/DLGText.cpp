@@ -31,28 +31,32 @@ const char* GetText(DLGRecord* dialog, int32_t item) {
 void SetText(DLGRecord* dialog, int32_t item, const char* text, bool redraw) {
   if (DLGFindItem(dialog, item) == nullptr) return;
   if (text == nullptr) text = "";
+  const DLGWatch watch(dialog);
   char current[kMaxText + 1] = "";
   _FetchText(dialog, item, current);
+  if (!watch.IsLive()) return;
   if (std::strcmp(current, text) != 0) {
     SendDLGItemMessage(dialog, item, kDLGSetText, reinterpret_cast<intptr_t>(text), redraw ? 1 : 0);
   }
-  if (item == dialog->focusItem) {
+  if (watch.IsLive() && item == dialog->focusItem) {
     std::memset(dialog->focusText, 0, sizeof dialog->focusText);
     std::strncpy(dialog->focusText, text, DLGRecord::kFocusTextSize);
   }
 }
 
 int32_t DLGMeasureItem(DLGRecord* dialog, int32_t item, const char* text) {
-  const DLGItem* row = DLGFindItem(dialog, item);
-  if (row == nullptr) return 0;
+  if (DLGFindItem(dialog, item) == nullptr) return 0;
   char own[kMaxText + 1];
   if (text == nullptr) {
+    const DLGWatch watch(dialog);
     _FetchText(dialog, item, own);
+    if (!watch.IsLive()) return 0;
     text = own;
   }
-  const ControlFontStyle style = GetControlFontStyle(row->control);
+  const ControlRef control = DLGGetChildControl(dialog, item);
+  const ControlFontStyle style = GetControlFontStyle(control);
   const Point size = style.size < 1 ? GetThemeTextDimensions(text, static_cast<int16_t>(-style.size),
-                                                             IsControlActive(row->control))
+                                                             IsControlActive(control))
                                     : MeasurePortText(dialog->window, text, style.font, style.size);
   return static_cast<int32_t>(DLGPackPoint(size));
 }

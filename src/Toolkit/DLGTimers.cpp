@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <vector>
 
 #include "Platform/Ui/Events.h"
 #include "Toolkit/DLGItems.h"
@@ -45,14 +46,13 @@ bool DLGServeTimers(DLGRecord* dialog) {
 
 namespace {
 
+// May come again while a notified item runs the event loop.
 void _ServeAllTimers(void* /*data*/) {
-  bool waiting = false;
   for (DLGRecord* dialog : DLGLiveRecords()) {
-    if (!DialogIsValid(dialog)) continue;
-    DLGServeTimers(dialog);
-    waiting = waiting || (DialogIsValid(dialog) && dialog->timerCount > 0);
+    if (DialogIsValid(dialog)) DLGServeTimers(dialog);
   }
-  if (waiting) return;
+  const std::vector<DLGRecord*> live = DLGLiveRecords();
+  if (std::any_of(live.begin(), live.end(), [](const DLGRecord* d) { return d->timerCount > 0; })) return;
   RemoveEventLoopTimer(gEventLoopTimer);
   gEventLoopTimer = nullptr;
 }

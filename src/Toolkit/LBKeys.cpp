@@ -139,13 +139,11 @@ intptr_t LBHandleKey(const LBView& view, DLGKeyPress key) {
     return _Navigate(view, key);
   }
   if (!_IsTyped(key)) return kKeyNotUsed;
-  if (key.character == ' ' && gTypeAhead.empty()) {
-    return view.HasChecks() ? _ToggleSelected(view) : kKeyNotUsed;
-  }
+  if (key.character == ' ' && gTypeAhead.empty() && view.HasChecks()) return _ToggleSelected(view);
   return _TypeAhead(view, key.character);
 }
 
 bool LBUsesReturn(DLGRecord* dialog, int32_t item) {
   const LBView view = LBView::OfItem(dialog, item);
-  return view && !view.IsMultiple();
+  return view && !view.IsMultiple() && view.Reacts();
 }

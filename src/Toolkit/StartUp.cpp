@@ -9,7 +9,7 @@
 #include "Toolkit/DLGRegister.h"
 #include "Toolkit/LBList.h"
 #include "Toolkit/OtherItems.h"
-#include "Toolkit/Texts.h"
+#include "Toolkit/TextItems.h"
 #include "Toolkit/Toolkit.h"
 
 namespace {

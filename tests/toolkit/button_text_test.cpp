@@ -9,7 +9,7 @@
 #include "Toolkit/CBCombo.h"
 #include "Toolkit/LBList.h"
 #include "Toolkit/OtherItems.h"
-#include "Toolkit/Texts.h"
+#include "Toolkit/TextItems.h"
 #include "tests/toolkit/ToolkitFixture.h"
 
 namespace {

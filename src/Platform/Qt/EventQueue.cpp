@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QChildEvent>
 #include <QWindow>
+#include <new>
 #include <utility>
 
 #include "Platform/Qt/QtHelpTags.h"
@@ -15,6 +16,18 @@ int _WakeUpType() {
   static const int type = QEvent::registerEventType();
   return type;
 }
+
+// Counts while it exists.
+class Counted {
+ public:
+  explicit Counted(int* count) : m_count(count) { ++*m_count; }
+  ~Counted() { --*m_count; }
+  Counted(const Counted&) = delete;
+  Counted& operator=(const Counted&) = delete;
+
+ private:
+  int* m_count;
+};
 
 }  // namespace
 
@@ -39,23 +52,30 @@ void EventQueue::Watch(QWidget* widget) {
   }
 }
 
-void EventQueue::WakeUp() {
+void EventQueue::WakeUp() noexcept {
   if (m_wakeUpPosted || QCoreApplication::instance() == nullptr) return;
-  m_wakeUpPosted = true;
-  QCoreApplication::postEvent(this, new QEvent(static_cast<QEvent::Type>(_WakeUpType())));
+  try {
+    QCoreApplication::postEvent(this, new QEvent(static_cast<QEvent::Type>(_WakeUpType())));
+    m_wakeUpPosted = true;
+  } catch (const std::bad_alloc&) {
+    return;
+  }
 }
 
-void EventQueue::customEvent(QEvent* event) {
+void EventQueue::customEvent(QEvent* event) noexcept {
   if (event->type() != _WakeUpType()) return;
   m_wakeUpPosted = false;
-  HandlePresses();
+  try {
+    HandlePresses();
+  } catch (...) {
+    WakeUp();  // for the presses behind the one that is lost
+  }
   FreeRemovedWidgets();
 }
 
 void EventQueue::Send(QWidget* widget, QEvent* event) {
-  ++m_sending;
+  const Counted sending(&m_sending);
   QCoreApplication::sendEvent(widget, event);
-  --m_sending;
 }
 
 void EventQueue::Acted(ControlRef ref) {
@@ -76,7 +96,17 @@ void EventQueue::Acted(ControlRef ref) {
   CallHandler(window, m_handlers.action, window, ref);
 }
 
-bool EventQueue::eventFilter(QObject* object, QEvent* event) {
+// Without memory, a press or key is lost: no exception may go to Qt.
+bool EventQueue::eventFilter(QObject* object, QEvent* event) noexcept {
+  try {
+    return Filter(object, event);
+  } catch (...) {
+    WakeUp();  // for what waits behind it
+    return event->isInputEvent();
+  }
+}
+
+bool EventQueue::Filter(QObject* object, QEvent* event) {
   if (object->isWindowType()) {
     m_windowHasPress =
         event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
@@ -103,6 +133,17 @@ bool _IsOfKind(const QWidget* widget, ControlKind kind) {
 
 }  // namespace
 
+// Not every window system has a popup take the keyboard from the window that it belongs to.
+bool EventQueue::SendToPopup(const QWidget* widget, QEvent* event) {
+  QWidget* const popup = QApplication::activePopupWidget();
+  if (popup == nullptr || popup == widget->window()) return false;
+  QWidget* const focus = popup->focusWidget();
+  const std::unique_ptr<QEvent> copy(event->clone());
+  Send(focus != nullptr ? focus : popup, copy.get());
+  event->accept();
+  return true;
+}
+
 bool EventQueue::FilterInput(WindowRecord& window, QWidget* widget, QEvent* event) {
   switch (event->type()) {
     case QEvent::MouseButtonPress:
@@ -112,6 +153,7 @@ bool EventQueue::FilterInput(WindowRecord& window, QWidget* widget, QEvent* even
     case QEvent::MouseMove: return OnMove(widget, *static_cast<QMouseEvent*>(event));
     case QEvent::MouseButtonRelease: return OnRelease(widget, *static_cast<QMouseEvent*>(event));
     case QEvent::KeyPress:
+      if (SendToPopup(widget, event)) return true;
       event->accept();
       return OnKeyPress(window, widget, *static_cast<QKeyEvent*>(event));
     case QEvent::KeyRelease: return OnKeyRelease(widget, *static_cast<QKeyEvent*>(event));
@@ -171,9 +213,8 @@ void EventQueue::SetFocus(WindowRecord& window, ControlRecord* control) {
   QWidget* const widget = control != nullptr ? control->widget.data() : window.widget.data();
   window.focus = control != nullptr ? control->ref : nullptr;
   window.widget->setAttribute(Qt::WA_KeyboardFocusChange);
-  ++m_settingFocus;
+  const Counted setting(&m_settingFocus);
   if (!widget->hasFocus()) widget->setFocus(reason);
-  --m_settingFocus;
 }
 
 }  // namespace ui

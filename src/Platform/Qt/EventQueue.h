@@ -13,6 +13,8 @@
 #include <deque>
 #include <map>
 #include <memory>
+#include <type_traits>
+#include <utility>
 #include <vector>
 
 #include "Platform/Qt/QtKeys.h"
@@ -30,7 +32,8 @@ class EventQueue : public QObject {
 
   void Connect();               // to the application that there is now
   void Watch(QWidget* widget);  // and every widget in it, now and later
-  void WakeUp();                // handle what waits in the next turn of the event loop
+  // Handles what waits in the next turn of the event loop; without memory, when the next press or key comes.
+  void WakeUp() noexcept;
 
   // A control's widget did what it is there for: noted for the press or key under way, or reported.
   void Acted(ControlRef ref);
@@ -43,10 +46,10 @@ class EventQueue : public QObject {
   bool SendKey(ControlRef ref, KeyStroke stroke);
   void SetFocus(WindowRecord& window, ControlRecord* control);
 
-  bool eventFilter(QObject* object, QEvent* event) override;
+  bool eventFilter(QObject* object, QEvent* event) noexcept override;
 
  protected:
-  void customEvent(QEvent* event) override;
+  void customEvent(QEvent* event) noexcept override;
 
  private:
   using MouseCopy = std::unique_ptr<QMouseEvent>;
@@ -71,7 +74,6 @@ class EventQueue : public QObject {
   };
 
   struct KeyUnderWay {
-    QPointer<QWidget> target;
     std::unique_ptr<QKeyEvent> event;
     KeyStroke stroke;
   };
@@ -81,9 +83,26 @@ class EventQueue : public QObject {
     bool acted;
   };
 
+  // While it exists, its value is the last one of the stack.
+  template <typename Value>
+  class Innermost {
+   public:
+    Innermost(std::vector<Value>* stack, std::type_identity_t<Value> value) : m_stack(stack) {
+      m_stack->push_back(std::move(value));
+    }
+    ~Innermost() { m_stack->pop_back(); }
+    Innermost(const Innermost&) = delete;
+    Innermost& operator=(const Innermost&) = delete;
+
+   private:
+    std::vector<Value>* m_stack;
+  };
+
   EventQueue();
 
+  bool Filter(QObject* object, QEvent* event);
   bool FilterInput(WindowRecord& window, QWidget* widget, QEvent* event);
+  bool SendToPopup(const QWidget* widget, QEvent* event);
   bool OnPress(WindowRecord& window, QWidget* widget, const QMouseEvent& event);
   bool OnMove(QWidget* widget, const QMouseEvent& event);
   bool OnRelease(QWidget* widget, const QMouseEvent& event);

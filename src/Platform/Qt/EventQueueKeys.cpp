@@ -33,17 +33,14 @@ bool _IsUnwantedRepeat(const QKeyEvent& event, const QWidget* widget) {
 bool EventQueue::OnKeyPress(WindowRecord& window, QWidget* widget, const QKeyEvent& event) {
   HelpTags::Get().Cancel();
   const WindowRef ref = window.ref;
-  KeyUnderWay key{widget, std::unique_ptr<QKeyEvent>(event.clone()), {}};
   const std::optional<KeyStroke> stroke = KeyStrokeOf(event);
   if (!stroke || _IsUnwantedRepeat(event, widget)) return true;
   if (!CanHandle(ref)) return true;
   HandlePresses();
   const WindowRecord* const record = FindWindow(ref);
   if (record == nullptr || record->blocked > 0) return true;
-  key.stroke = *stroke;
-  m_keys.push_back(std::move(key));
+  const Innermost key(&m_keys, {std::unique_ptr<QKeyEvent>(event.clone()), *stroke});
   CallHandler(ref, m_handlers.key, ref, stroke->character, stroke->modifiers);
-  m_keys.pop_back();
   return true;
 }
 
@@ -77,7 +74,7 @@ bool EventQueue::SendKey(ControlRef ref, KeyStroke stroke) {
   const QPointer<QWidget> widget = control->widget;
   const auto* const combo = qobject_cast<const QComboBox*>(widget);
   const int row = combo != nullptr ? combo->currentIndex() : 0;
-  m_keyReceivers.push_back({ref, false});
+  const Innermost receiver(&m_keyReceivers, {ref, false});
   if (!m_keys.empty() && m_keys.back().stroke == stroke) {
     const std::unique_ptr<QKeyEvent> event(m_keys.back().event->clone());
     m_keysDown[event->key()] = widget;
@@ -88,9 +85,7 @@ bool EventQueue::SendKey(ControlRef ref, KeyStroke stroke) {
     Send(widget, &press);
     if (!widget.isNull()) Send(widget, &release);
   }
-  const bool acted = m_keyReceivers.back().acted;
-  m_keyReceivers.pop_back();
-  return combo != nullptr ? !widget.isNull() && combo->currentIndex() != row : acted;
+  return combo != nullptr ? !widget.isNull() && combo->currentIndex() != row : m_keyReceivers.back().acted;
 }
 
 }  // namespace ui

@@ -82,8 +82,7 @@ bool EventQueue::OnRelease(QWidget* widget, const QMouseEvent& event) {
   m_lastPosition = event.globalPosition().toPoint();
   if (!m_queue.empty()) {
     Press& press = *m_queue.back();
-    if (!press.released) press.trailing.push_back(_Copy(event));
-    press.released = true;
+    if (!std::exchange(press.released, true)) press.trailing.push_back(_Copy(event));
     HandlePresses();
     return true;
   }
@@ -135,11 +134,10 @@ void EventQueue::HandlePress(std::unique_ptr<Press> pressUnderWay) {
   event.doubleClick = press.event->type() == QEvent::MouseButtonDblClick;
   const WindowRef ref = press.window;
 
-  m_handling.push_back(std::move(pressUnderWay));
+  const Innermost handling(&m_handling, std::move(pressUnderWay));
   CallHandler(ref, m_handlers.mouseDown, ref, event);
   if (press.tracking) CancelTracking(press);
   if (!press.released && press.control != nullptr) m_openPress = press.receiver;
-  m_handling.pop_back();
   if (!m_queue.empty()) WakeUp();
 }
 

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCursor>
+#include <QPointer>
 #include <QTimer>
 #include <algorithm>
 #include <chrono>
@@ -104,25 +105,21 @@ void InitCursor() {
 }
 
 struct OpaqueEventLoopTimer : QTimer {
-  bool firing = false;
+  int firing = 0;  // calls of the procedure under way
   bool removed = false;
 };
 
 namespace {
 
 void _Fire(EventLoopTimerRef timer, void (*proc)(void* data), void* data) {
-  if (timer->firing || timer->removed) return;
-  timer->firing = true;
+  if (timer == nullptr || timer->removed) return;
+  ++timer->firing;
   try {
     proc(data);
   } catch (...) {
-    timer->removed = true;
+    // The procedure is called again when its time comes; nothing may unwind through the event loop.
   }
-  timer->firing = false;
-  if (timer->removed) {
-    timer->stop();
-    timer->deleteLater();
-  }
+  if (--timer->firing == 0 && timer->removed) delete timer;
 }
 
 }  // namespace
@@ -131,7 +128,10 @@ EventLoopTimerRef InstallEventLoopTimer(uint32_t milliseconds, void (*proc)(void
   constexpr uint32_t kLongest = std::numeric_limits<int>::max();
   if (proc == nullptr || !InitApplication()) return nullptr;
   auto* const timer = new OpaqueEventLoopTimer;
-  QObject::connect(timer, &QTimer::timeout, timer, [timer, proc, data] { _Fire(timer, proc, data); });
+  // Queued: Qt calls no timer whose call is under way, and the procedure may run the event loop.
+  QObject::connect(
+      timer, &QTimer::timeout, &ui::EventQueue::Get(),
+      [guarded = QPointer(timer), proc, data] { _Fire(guarded, proc, data); }, Qt::QueuedConnection);
   timer->start(static_cast<int>(std::min(milliseconds, kLongest)));
   return timer;
 }
@@ -139,7 +139,7 @@ EventLoopTimerRef InstallEventLoopTimer(uint32_t milliseconds, void (*proc)(void
 void RemoveEventLoopTimer(EventLoopTimerRef timer) {
   if (timer == nullptr) return;
   timer->stop();
-  if (timer->firing) {
+  if (timer->firing > 0) {
     timer->removed = true;  // freed when its procedure has returned
   } else {
     delete timer;

@@ -140,7 +140,7 @@ void _Connect(QWidget* widget, ControlRef ref) {
   } else if (auto* const edit = qobject_cast<QLineEdit*>(widget)) {
     QObject::connect(edit, &QLineEdit::textChanged, edit, acted);
   } else if (auto* const combo = qobject_cast<QComboBox*>(widget)) {
-    QObject::connect(combo, &QComboBox::activated, combo, acted);
+    QObject::connect(combo, &QComboBox::currentIndexChanged, combo, acted);
   } else if (auto* const list = dynamic_cast<QtListView*>(widget)) {
     list->SetControl(ref);
     QObject::connect(list->selectionModel(), &QItemSelectionModel::selectionChanged, list, acted);

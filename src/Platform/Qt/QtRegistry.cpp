@@ -23,7 +23,7 @@ struct Registry {
   std::unordered_map<const QWidget*, WindowRef> windowOfWidget;
   std::vector<WindowRef> order;
   std::vector<WindowRef> inUse;
-  std::vector<RemovedWidget> removed;
+  std::vector<RemovedWidget> removed;  // has room for all there are
   uintptr_t lastNumber = 0;
 };
 
@@ -82,7 +82,19 @@ std::vector<WindowRef>& WindowOrder() {
   return _Registry().order;
 }
 
+namespace {
+
+// Removing a widget then needs no memory.
+void _MakeRoomToRemove() {
+  Registry& registry = _Registry();
+  const size_t widgets = registry.removed.size() + registry.windows.size() + registry.controls.size() + 1;
+  if (registry.removed.capacity() < widgets) registry.removed.reserve(2 * widgets);
+}
+
+}  // namespace
+
 WindowRecord* AddWindowRecord(QWidget* widget) {
+  _MakeRoomToRemove();
   auto record = std::make_unique<WindowRecord>();
   WindowRecord* const window = record.get();
   window->ref = _NewRef<WindowRef>();
@@ -94,6 +106,7 @@ WindowRecord* AddWindowRecord(QWidget* widget) {
 }
 
 ControlRecord* AddControlRecord(WindowRecord* window, QWidget* widget, ControlKind kind) {
+  _MakeRoomToRemove();
   auto record = std::make_unique<ControlRecord>();
   ControlRecord* const control = record.get();
   control->ref = _NewRef<ControlRef>();
@@ -153,15 +166,19 @@ void RemoveWindowRecord(WindowRef ref) {
   _Remove(ref, widget);
 }
 
-void FreeRemovedWidgets() {
+// One by one: what a widget's end sets off may remove others.
+void FreeRemovedWidgets() noexcept {
   Registry& registry = _Registry();
-  const auto isInUse = [&registry](const RemovedWidget& removed) {
-    return std::find(registry.inUse.begin(), registry.inUse.end(), removed.window) != registry.inUse.end();
+  const auto isFree = [&registry](const RemovedWidget& removed) {
+    return std::find(registry.inUse.begin(), registry.inUse.end(), removed.window) == registry.inUse.end();
   };
-  const auto firstFree = std::stable_partition(registry.removed.begin(), registry.removed.end(), isInUse);
-  const std::vector<RemovedWidget> free(firstFree, registry.removed.end());
-  registry.removed.erase(firstFree, registry.removed.end());
-  for (const RemovedWidget& removed : free) delete removed.widget.data();
+  while (true) {
+    const auto found = std::find_if(registry.removed.begin(), registry.removed.end(), isFree);
+    if (found == registry.removed.end()) return;
+    const QPointer<QWidget> widget = found->widget;
+    registry.removed.erase(found);
+    delete widget.data();
+  }
 }
 
 WindowInUse::WindowInUse(WindowRef window) {

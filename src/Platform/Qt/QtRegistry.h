@@ -77,7 +77,7 @@ void RemoveWindowRecord(WindowRef ref);
 void RemoveControlRecord(ControlRef ref);
 
 // Frees what was removed. Called from the event loop.
-void FreeRemovedWidgets();
+void FreeRemovedWidgets() noexcept;
 
 // While one exists, code of the window's widgets may be on the stack.
 class WindowInUse {
@@ -101,12 +101,13 @@ class Quiet {
   static int m_depth;
 };
 
-// Calls a handler on behalf of the window; gives false when there is none or it fails.
+// Calls a handler on behalf of the window; gives false when there is none or it fails. Nothing may unwind
+// through the event loop.
 template <typename... Parameters, typename... Arguments>
-bool CallHandler(WindowRef window, bool (*handler)(Parameters...), Arguments&&... arguments) {
+bool CallHandler(WindowRef window, bool (*handler)(Parameters...), Arguments&&... arguments) noexcept {
   if (handler == nullptr) return false;
-  const WindowInUse inUse(window);
   try {
+    const WindowInUse inUse(window);
     return handler(std::forward<Arguments>(arguments)...);
   } catch (...) {
     return false;
@@ -114,13 +115,13 @@ bool CallHandler(WindowRef window, bool (*handler)(Parameters...), Arguments&&..
 }
 
 template <typename... Parameters, typename... Arguments>
-void CallHandler(WindowRef window, void (*handler)(Parameters...), Arguments&&... arguments) {
+void CallHandler(WindowRef window, void (*handler)(Parameters...), Arguments&&... arguments) noexcept {
   if (handler == nullptr) return;
-  const WindowInUse inUse(window);
   try {
+    const WindowInUse inUse(window);
     handler(std::forward<Arguments>(arguments)...);
   } catch (...) {
-    return;  // nothing may unwind through the event loop
+    return;
   }
 }
 

@@ -23,11 +23,12 @@ void QtWindow::setVisible(bool visible) {
 }
 
 void QtWindow::closeEvent(QCloseEvent* event) {
-  event->ignore();
   const WindowRecord* const window = FindWindowOf(this);
-  if (window == nullptr || window->blocked > 0) return;
-  const WindowRef ref = window->ref;
-  CallHandler(ref, EventQueue::Get().handlers().close, ref);
+  const WindowRef ref = window == nullptr ? nullptr : window->ref;
+  if (window != nullptr && window->blocked == 0) {
+    CallHandler(ref, EventQueue::Get().handlers().close, ref);
+  }
+  event->setAccepted(FindWindow(ref) == nullptr);  // a window that stays would keep the host from quitting
 }
 
 void QtWindow::keyPressEvent(QKeyEvent* event) {

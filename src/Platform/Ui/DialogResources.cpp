@@ -1,5 +1,6 @@
 #include "Platform/Ui/DialogResources.h"
 
+#include <algorithm>
 #include <span>
 
 #include "Platform/Core/BigEndian.h"
@@ -56,6 +57,19 @@ int16_t _ReadPosition(BigEndianReader& reader) {
   return reader.ReadI16(&position) ? position : int16_t{0};
 }
 
+// Of a window or an item: no larger than a screen, however damaged the resource is.
+Rect _ReadBounds(BigEndianReader& reader) {
+  constexpr int16_t kFarthest = 4000;
+  const auto clamp = [](int16_t* first, int16_t* last) {
+    *first = std::clamp<int16_t>(*first, -kFarthest, kFarthest);
+    *last = std::clamp<int16_t>(*last, *first, static_cast<int16_t>(*first + kFarthest));
+  };
+  Rect rect = _ReadRect(reader);
+  clamp(&rect.top, &rect.bottom);
+  clamp(&rect.left, &rect.right);
+  return rect;
+}
+
 }  // namespace
 
 std::optional<DialogTemplate> ReadDialogTemplate(int16_t id) {
@@ -63,7 +77,7 @@ std::optional<DialogTemplate> ReadDialogTemplate(int16_t id) {
   DialogTemplate dialog;
   uint8_t goAway = 0;
   uint32_t refCon = 0;
-  dialog.bounds = _ReadRect(reader);
+  dialog.bounds = _ReadBounds(reader);
   reader.ReadI16(&dialog.procID);
   reader.Skip(2);  // visible at once, filler
   reader.Read8(&goAway);
@@ -158,7 +172,7 @@ bool _ReadResourceControl(std::span<const char> data, ItemTemplate* item) {
 bool _ReadItem(BigEndianReader& reader, ItemTemplate* item) {
   uint8_t type = 0;
   reader.Skip(4);  // placeholder
-  item->bounds = _ReadRect(reader);
+  item->bounds = _ReadBounds(reader);
   reader.Read8(&type);
   const std::string_view data = reader.TakePascalString();
   reader.AlignToWord();

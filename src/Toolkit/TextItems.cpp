@@ -1,4 +1,4 @@
-#include "Toolkit/Texts.h"
+#include "Toolkit/TextItems.h"
 
 #include <limits>
 #include <string>

@@ -1,41 +1,257 @@
-"""An X server without a screen, and keys and clicks for its windows from outside of their processes."""
+"""A desktop without a screen, X11 or Wayland, and keys and clicks for its windows from outside of their processes.
+
+The Wayland compositor runs inside of the X server, so that both get their input in the same way. What the windows
+do is seen without asking their process: the X server tells it, and the Wayland client library writes down what is
+said on its connection."""
 import os
+import re
 import subprocess
+import tempfile
 import time
 
-LIMIT = 20  # seconds until something that should happen counts as not happening
+LIMIT = 30  # seconds until something that should happen counts as not happening
+WIDTH, HEIGHT = 1000, 800  # a dialog covers the middle, wherever it is put
 
 
-class Display:
+def wait_for(condition, what):
+    """Waits until the condition gives something true, and gives that."""
+    end = time.monotonic() + LIMIT
+    while not (result := condition()):
+        if time.monotonic() > end:
+            raise AssertionError(f"did not happen: {what}")
+        time.sleep(0.03)
+    return result
+
+
+class X11:
+    """Windows as the X server tells them."""
+
     def __init__(self):
         read, write = os.pipe()
         self.server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write), "-screen", "0", "1280x1024x24", "-nolisten", "tcp"],
+            ["Xvfb", "-displayfd", str(write), "-screen", "0", f"{WIDTH}x{HEIGHT}x24", "-nolisten", "tcp"],
             pass_fds=[write], stderr=subprocess.DEVNULL)
         os.close(write)
+        self.folder = tempfile.TemporaryDirectory()
         with os.fdopen(read) as pipe:
-            self.environment = dict(os.environ, DISPLAY=":" + pipe.readline().strip(), QT_QPA_PLATFORM="xcb",
-                                    QT_SCALE_FACTOR="1", QT_ACCESSIBILITY="0")
+            self.environment = dict(
+                os.environ, DISPLAY=":" + pipe.readline().strip(), HOME=self.folder.name, LC_ALL="C.UTF-8",
+                XDG_CONFIG_HOME=self.folder.name, XDG_RUNTIME_DIR=self.folder.name, QT_ACCESSIBILITY="0",
+                QT_SCALE_FACTOR="1", QT_FONT_DPI="96")
+        self.programs = []
 
-    def xdotool(self, *arguments):
-        subprocess.run(["xdotool", *map(str, arguments)], env=self.environment, check=True, timeout=30,
-                       stdout=subprocess.DEVNULL)
-
-    def key(self, *keys):
-        self.xdotool("key", "--delay", 30, *keys)
-
-    def wait_for_window(self, name):
-        """Waits until a window of that name shows, and has had time for its keyboard."""
-        end = time.monotonic() + LIMIT
-        while time.monotonic() < end:
-            found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", name], env=self.environment,
-                                   stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, timeout=30, check=False)
-            if found.stdout.strip():
-                time.sleep(0.7)
-                return
-            time.sleep(0.1)
-        raise AssertionError(f"no window {name}")
+    def start(self, *command):
+        environment = dict(self.environment, QT_QPA_PLATFORM="xcb")
+        self.programs.append(subprocess.Popen(command, env=environment))
+        window = wait_for(self._visible, "a window").pop()
+        self.xdotool("windowfocus", "--sync", window)  # as a window manager does
 
     def close(self):
-        self.server.terminate()
-        self.server.wait()
+        for program in [*self.programs, self.server]:
+            program.terminate()
+            program.wait()
+        self.folder.cleanup()
+
+    def xdotool(self, *arguments):
+        return subprocess.run(["xdotool", *map(str, arguments)], env=self.environment, timeout=LIMIT,
+                              stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True, check=False).stdout
+
+    def key(self, *keys):
+        self.xdotool("key", "--delay", 20, *keys)
+
+    def type(self, text):
+        self.xdotool("type", "--delay", 5, text)
+
+    def move(self, point):
+        self.xdotool("mousemove", "--sync", *map(int, point))
+
+    def press(self, point):
+        self.move(point)
+        self.xdotool("mousedown", 1)
+
+    def release(self):
+        self.xdotool("mouseup", 1)
+
+    def click(self, point):
+        self.press(point)
+        self.release()
+
+    def wait_for_window(self, title):
+        """Waits until a window with that in its title has the keyboard."""
+        def has_keyboard():
+            self._hand_keyboard_on(title)
+            return title in self.active_title()
+        wait_for(has_keyboard, f"the window {title}")
+
+    def _hand_keyboard_on(self, title):
+        """As a window manager does when the window with the keyboard goes."""
+        if self.active_window() is None:
+            self.xdotool("search", "--onlyvisible", "--name", title, "windowfocus")
+
+    def active_title(self):
+        window = self.active_window()
+        return self.xdotool("getwindowname", window).strip() if window else ""
+
+    def active_window(self):
+        """Of the window with the keyboard, what tells it from others; None while there is none."""
+        window = self.xdotool("getwindowfocus", "-f").strip()
+        return window if window in self._visible() else None
+
+    def active_parent(self):
+        """The window that the one with the keyboard belongs to."""
+        told = subprocess.run(["xprop", "-id", self.active_window(), "WM_TRANSIENT_FOR"], env=self.environment,
+                              timeout=LIMIT, stdout=subprocess.PIPE, text=True, check=True).stdout
+        number = re.search(r"# (0x[0-9a-f]+)", told)
+        return number and str(int(number[1], 16))
+
+    def active_bounds(self):
+        """Left, top, width, height on the screen."""
+        return self._bounds(self.active_window())
+
+    def _bounds(self, window):
+        values = dict(line.split("=") for line in self.xdotool("getwindowgeometry", "--shell", window).split())
+        return tuple(int(values[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
+
+    def _visible(self):
+        return set(self.xdotool("search", "--onlyvisible", "--class", ".").split())
+
+    def open_popup(self, action, window):
+        """Does what opens a list of the window at those bounds, waits for it, and gives its bounds."""
+        before = self._visible()
+        action()
+        self.popup = wait_for(lambda: self._visible() - before, "a list that opens").pop()
+        return self._bounds(self.popup)
+
+    def wait_for_popup_to_close(self):
+        wait_for(lambda: self.popup not in self._visible(), "the list that closes")
+
+
+class Wayland(X11):
+    """Windows as they are talked about on the program's connection."""
+
+    EVENTS = {name: re.compile(pattern) for name, pattern in {
+        "surface": r"get_xdg_surface\(new id (xdg_surface@\d+), (wl_surface@\d+)\)",
+        "toplevel": r"(xdg_surface@\d+)\.get_toplevel\(new id (xdg_toplevel@\d+)\)",
+        "title": r'(xdg_toplevel@\d+)\.set_title\("(.*)"\)$',
+        "size": r"(xdg_surface@\d+)\.set_window_geometry\(0, 0, (\d+), (\d+)\)",
+        "parent": r"(xdg_toplevel@\d+)\.set_parent\((.*)\)",
+        "keyboard": r"wl_keyboard@\d+\.enter\(\d+, (wl_surface@\d+)",
+        "entered": r"wl_pointer@\d+\.enter\(\d+, (wl_surface@\d+), ([\d.-]+), ([\d.-]+)\)",
+        "moved": r"wl_pointer@\d+\.motion\(\d+, ([\d.-]+), ([\d.-]+)\)",
+        "popup": r"(xdg_popup@\d+)\.configure\((-?\d+), (-?\d+), (\d+), (\d+)\)",
+        "closed": r"(xdg_popup@\d+)\.destroy\(\)",
+    }.items()}
+
+    def __init__(self):
+        super().__init__()
+        socket = os.path.join(self.folder.name, "wayland-test")
+        log = os.path.join(self.folder.name, "weston.log")
+        self.programs.append(subprocess.Popen(
+            ["weston", "--backend=x11-backend.so", f"--width={WIDTH}", f"--height={HEIGHT}", "--no-config",
+             "--socket=wayland-test", "--idle-time=0", f"--log={log}"], env=self.environment,
+            stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL))
+        wait_for(lambda: os.path.exists(socket), "a Wayland compositor")
+        self.move((WIDTH // 2, HEIGHT // 2))
+        self.talk = os.path.join(self.folder.name, "talk")
+        self.windows, self.titles, self.sizes, self.parents, self.popups = {}, {}, {}, {}, {}
+        self.keyboard = self.pointer = None
+
+    def start(self, *command):
+        environment = dict(self.environment, QT_QPA_PLATFORM="wayland", WAYLAND_DISPLAY="wayland-test",
+                           WAYLAND_DEBUG="1", QT_WAYLAND_DISABLE_WINDOWDECORATION="1")
+        del environment["DISPLAY"]
+        with open(self.talk, "w", encoding="utf-8") as talk:
+            self.programs.insert(0, subprocess.Popen(command, env=environment, stderr=talk))
+        self.lines = open(self.talk, encoding="utf-8", errors="replace")
+
+    def close(self):
+        self.lines.close()
+        super().close()
+
+    def move(self, point):
+        super().move(point)
+        self.position = tuple(map(int, point))
+
+    def _listen(self):
+        while True:
+            start = self.lines.tell()
+            line = self.lines.readline()
+            if not line.endswith("\n"):
+                self.lines.seek(start)
+                return
+            for name, pattern in self.EVENTS.items():
+                if match := pattern.search(line):
+                    self._note(name, *match.groups())
+
+    def _note(self, name, *values):
+        if name == "surface":
+            self.windows[values[1]] = values[0]
+            self.titles.pop(values[0], None)
+        elif name == "toplevel":
+            self.titles[values[1]] = ""
+            self.windows[values[0]] = values[1]
+            self.parents.pop(values[1], None)
+        elif name == "title":
+            self.titles[values[0]] = values[1]
+        elif name == "size":
+            self.sizes[values[0]] = tuple(map(int, values[1:]))
+        elif name == "parent":
+            self.parents[values[0]] = values[1]
+        elif name == "keyboard":
+            self.keyboard = values[0]
+        elif name == "entered":
+            self.pointer = tuple(map(float, values[1:]))
+        elif name == "moved":
+            self.pointer = tuple(map(float, values))
+        elif name == "popup":
+            self.popups[values[0]] = tuple(map(int, values[1:]))
+        elif name == "closed":
+            self.popups.pop(values[0], None)
+
+    def active_window(self):
+        self._listen()
+        return self.windows.get(self.windows.get(self.keyboard))
+
+    def active_title(self):
+        return self.titles.get(self.active_window(), "")
+
+    def _hand_keyboard_on(self, title):
+        pass  # the compositor does
+
+    def active_parent(self):
+        return self.parents.get(self.active_window())
+
+    def active_bounds(self):
+        """Moves the mouse in the window: what it is told tells where the window is."""
+        def told():
+            self._listen()
+            return self.pointer
+
+        for step in 1, 0:
+            self._listen()
+            self.pointer = None
+            self.move((WIDTH // 2 + step, HEIGHT // 2))
+            at = wait_for(told, "a mouse that moves in the window")
+        left, top = (int(screen - inside) for screen, inside in zip(self.position, at))
+        return left, top, *self.sizes[self.windows[self.keyboard]]
+
+    def open_popup(self, action, window):
+        self._listen()
+        before = set(self.popups)
+        action()
+
+        def opened():
+            self._listen()
+            return set(self.popups) - before
+        self.popup = wait_for(opened, "a list that opens").pop()
+        left, top, width, height = self.popups[self.popup]
+        return window[0] + left, window[1] + top, width, height
+
+    def wait_for_popup_to_close(self):
+        def closed():
+            self._listen()
+            return self.popup not in self.popups
+        wait_for(closed, "the list that closes")
+
+
+DESKTOPS = {"x11": X11, "wayland": Wayland}

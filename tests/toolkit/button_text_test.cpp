@@ -1,5 +1,6 @@
 #include <QLineEdit>
 #include <QPushButton>
+#include <QWindow>
 #include <array>
 #include <cstring>
 #include <string>
@@ -24,6 +25,16 @@ class ItemsTest : public ToolkitTest {
 
   bool Claims(int32_t item, uint16_t character, uint16_t modifiers = 0) {
     return SendDLGItemMessage(m_dialog, item, kDLGHotKey, DLGPackKey(character, modifiers)) != 0;
+  }
+
+  // The push button that is drawn as the one that Return presses; 0 for none, -1 for several.
+  int32_t MarkedItem() {
+    int32_t marked = 0;
+    for (int32_t item = 1; item <= m_dialog->itemCount; ++item) {
+      const auto* const button = qobject_cast<QPushButton*>(Widget(m_dialog, item));
+      if (button != nullptr && button->isDefault()) marked = marked == 0 ? item : -1;
+    }
+    return marked;
   }
 
   DLGRecord* m_dialog = nullptr;
@@ -64,12 +75,14 @@ TEST_F(ItemsTest, ReturnBelongsToAListThatUsesIt) {
     std::vector<int32_t> hits;
   } rows[] = {
       {kDemoEdit, {kDemoOK}},   {kDemoCombo, {kDemoOK}},    {kDemoCheckList, {kDemoCheckList}},
-      {kDemoList, {kDemoList}}, {kDemoMultiple, {kDemoOK}}, {kDemoHelp, {kDemoOK}},
+      {kDemoList, {kDemoList}}, {kDemoMultiple, {kDemoOK}}, {kDemoHelp, {kDemoHelp}},
   };
   LBInsertItem(m_dialog, kDemoCheckList, "row", kRowLast);
   LBSetSelect(m_dialog, kDemoCheckList, 0);
   for (const auto& row : rows) {
     ASSERT_TRUE(SetFocusDLG(m_dialog, row.focus));
+    const bool byButton = row.hits.front() == kDemoOK || row.hits.front() == kDemoHelp;
+    EXPECT_EQ(MarkedItem(), byButton ? row.hits.front() : 0) << row.focus;
     EXPECT_TRUE(Key(m_dialog, kReturnChar));
     EXPECT_EQ(TakeHits(), row.hits) << row.focus;
     EXPECT_TRUE(Key(m_dialog, kEnterChar));
@@ -78,19 +91,19 @@ TEST_F(ItemsTest, ReturnBelongsToAListThatUsesIt) {
 }
 
 TEST_F(ItemsTest, TheDefaultMarkingMoves) {
-  const auto marked = [this](int32_t item) {
-    return qobject_cast<QPushButton*>(Widget(m_dialog, item))->isDefault();
-  };
-  EXPECT_TRUE(marked(kDemoOK));
+  EXPECT_EQ(MarkedItem(), kDemoOK);
+  EnableDLGItem(m_dialog, kDemoOK, false);
+  EXPECT_EQ(MarkedItem(), 0);
+  EnableDLGItem(m_dialog, kDemoOK, true);
+  EXPECT_EQ(MarkedItem(), kDemoOK);
   BTSetDefButton(m_dialog, kDemoHelp);
-  EXPECT_FALSE(marked(kDemoOK));
-  EXPECT_TRUE(marked(kDemoHelp));
+  EXPECT_EQ(MarkedItem(), kDemoHelp);
   EXPECT_TRUE(Claims(kDemoHelp, kReturnChar));
   EXPECT_FALSE(Claims(kDemoOK, kReturnChar));
   BTSetDefButton(m_dialog, 99);
   EXPECT_EQ(m_dialog->defaultButton, kDemoHelp);
   BTSetDefButton(m_dialog, -1);
-  EXPECT_FALSE(marked(kDemoHelp));
+  EXPECT_EQ(MarkedItem(), 0);
   EXPECT_FALSE(Claims(kDemoHelp, kReturnChar));
   BTSetCancelItem(m_dialog, kDemoHelp);
   EXPECT_TRUE(Claims(kDemoHelp, kEscapeChar));
@@ -121,10 +134,58 @@ TEST_F(ItemsTest, ClicksAndTheSpaceBarPress) {
       EXPECT_EQ(CKGetCheck(m_dialog, row.item), row.after) << row.item;
     }
   }
-  EXPECT_EQ(ItemKey(m_dialog, kDemoHelp, kReturnChar), 0);
+  EXPECT_EQ(ItemKey(m_dialog, kDemoHelp, kReturnChar), 1);
+  EXPECT_EQ(ItemKey(m_dialog, kDemoHelp, kReturnChar, shiftKey), 0);
   EXPECT_EQ(ItemKey(m_dialog, kDemoHelp, ' ', cmdKey), 0);
   EXPECT_EQ(ItemKey(m_dialog, kDemoHelp, ' ', shiftKey), 1);
   EXPECT_EQ(ItemKey(m_dialog, kDemoDisabledCheck, ' '), 0);
+}
+
+TEST_F(ItemsTest, TheSecondClickOfADoubleClickCountsInBoxes) {
+  const struct {
+    int32_t item;
+    std::vector<int32_t> hits;
+    int16_t value;
+  } rows[] = {{kDemoCheck, {kDemoCheck, kDemoCheck}, 0},
+              {kDemoRadio2, {kDemoRadio2}, 1},
+              {kDemoHelp, {kDemoHelp}, 0}};
+  for (const auto& row : rows) {
+    const QPoint where = Widget(m_dialog, row.item)->geometry().topLeft() + QPoint(10, 10);
+    QTest::mouseDClick(Window(m_dialog)->windowHandle(), Qt::LeftButton, {}, where);
+    RunEventPass(0);
+    EXPECT_EQ(TakeHits(), row.hits);
+    EXPECT_EQ(CKGetCheck(m_dialog, row.item), row.value) << row.item;
+  }
+}
+
+TEST_F(ItemsTest, ArrowKeysGoAroundAGroupOfRadioButtons) {
+  onHit = [](DLGRecord* dialog, int32_t item) {  // as its owner excludes them from each other
+    for (const int32_t radio : {kDemoRadio1, kDemoRadio2}) CKSetCheck(dialog, radio, radio == item, 0, false);
+  };
+  SetFocusDLG(m_dialog, kDemoRadio1);
+  Key(m_dialog, ' ');
+  TakeHits();
+  const struct {
+    uint16_t character;
+    uint16_t modifiers;
+    bool otherIsDisabled;
+    int32_t focus;
+    std::vector<int32_t> hits;
+  } steps[] = {
+      {kDownArrowChar, 0, false, kDemoRadio2, {kDemoRadio2}},
+      {kRightArrowChar, 0, false, kDemoRadio1, {kDemoRadio1}},
+      {kUpArrowChar, 0, false, kDemoRadio2, {kDemoRadio2}},
+      {kLeftArrowChar, 0, false, kDemoRadio1, {kDemoRadio1}},
+      {kLeftArrowChar, cmdKey, false, kDemoRadio1, {}},
+      {kDownArrowChar, 0, true, kDemoRadio1, {}},
+  };
+  for (const auto& step : steps) {
+    EnableDLGItem(m_dialog, kDemoRadio2, !step.otherIsDisabled);
+    Key(m_dialog, step.character, step.modifiers);
+    EXPECT_EQ(m_dialog->focusItem, step.focus) << step.character;
+    EXPECT_EQ(TakeHits(), step.hits) << step.character;
+    EXPECT_EQ(CKGetCheck(m_dialog, step.focus), 1) << step.character;
+  }
 }
 
 TEST_F(ItemsTest, CheckValueMarksTheDialogChangedWhenAsked) {

@@ -165,6 +165,33 @@ TEST_F(ComboTest, OpensItsRowsByKeyAndReportsTheChoice) {
   }
 }
 
+TEST_F(ComboTest, AnOpenListHasTheKeysOfItsDialog) {
+  for (const char* text : {"Alpha", "Beta", "Gamma"}) Insert(text);
+  CBSetSelect(m_dialog, kDemoCombo, 1);
+  SetFocusDLG(m_dialog, kDemoCombo);
+  const struct {
+    std::vector<Qt::Key> keys;
+    int32_t selected;
+    std::vector<int32_t> hits;
+  } rows[] = {
+      {{Qt::Key_Return}, 1, {}},  // the row that is chosen already
+      {{Qt::Key_Down, Qt::Key_Return}, 2, {kDemoCombo}},
+      {{Qt::Key_Up, Qt::Key_Escape}, 2, {}},
+      {{Qt::Key_Home, Qt::Key_Enter}, 0, {kDemoCombo}},
+  };
+  for (const auto& row : rows) {
+    KeyAnswer(' ');
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+    for (const Qt::Key key : row.keys) QTest::keyClick(Window(m_dialog), key);
+    RunEventPass(1);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    EXPECT_EQ(CBGetSelect(m_dialog, kDemoCombo), row.selected);
+    EXPECT_EQ(TakeHits(), row.hits);
+  }
+  QTest::keyClick(Window(m_dialog), Qt::Key_Escape);
+  EXPECT_EQ(TakeHits(), std::vector<int32_t>{kDemoCancel}) << "the dialog's again";
+}
+
 TEST_F(ComboTest, IsOnlyWhatHasAMenu) {
   for (const int32_t item : {0, -1, 99, int32_t{kDemoEdit}, int32_t{kDemoList}, int32_t{kDemoEditLabel}}) {
     EXPECT_EQ(CBInsertItem(m_dialog, item, "a", kRowTop), -1) << item;

@@ -189,6 +189,27 @@ TEST_F(Events, ShortenedTexts) {
   EXPECT_EQ(DLGMeasureItem(dialog, 0, "x"), 0);
 }
 
+TEST_F(Events, TheFocusReturnsToAnItemThatReturns) {
+  DLGRecord* dialog = Open(kFields, kDLGModeless);
+  const auto typed = [&](const char* text) {
+    QTest::keyClicks(Window(dialog)->focusWidget(), text);
+    return std::string(GetText(dialog, kFirst));
+  };
+  SetFocusDLG(dialog, kFirst);
+  EXPECT_EQ(typed("a"), "a");
+  EnableDLGItem(dialog, kFirst, false);
+  EXPECT_EQ(typed("b"), "a");
+  HideDLGItem(dialog, kFirst, true);
+  EnableDLGItem(dialog, kFirst, true);
+  EXPECT_EQ(typed("c"), "a");
+  ShowDLGItem(dialog, kFirst, true);
+  EXPECT_EQ(typed("d"), "ad");
+  HideDLGItem(dialog, kFirst, true);
+  SetFocusDLG(dialog, kSecond);
+  ShowDLGItem(dialog, kFirst, true);
+  EXPECT_EQ(typed("e"), "ad") << "it went elsewhere meanwhile";
+}
+
 TEST_F(Events, RedrawMarks) {
   DLGRecord* dialog =
       GetDialogResource(nullptr, kDLGModeless, nullptr, kFields, 0, nullptr, nullptr, nullptr);
@@ -307,9 +328,76 @@ TEST_F(Events, ClosingAllStopsAtTheFirstRefusal) {
 
 TEST_F(Events, ClosingTheWindowPressesCancel) {
   DLGRecord* dialog = Open(kFields, kDLGModeless);
-  Widget(dialog, 1)->window()->close();
+  EXPECT_FALSE(Window(dialog)->close());
   EXPECT_EQ(TakeHits(), Hits{kFieldsCancel});
   EXPECT_TRUE(DialogIsValid(dialog)) << "the owner decides";
+  onHit = [](DLGRecord* d, int32_t) { MyCloseDialog(d); };
+  EXPECT_TRUE(Window(dialog)->close()) << "nothing keeps the application from quitting";
+  EXPECT_FALSE(DialogIsValid(dialog));
+}
+
+// An item that ends its dialog, or throws, when it gets a certain message.
+class Unruly : public Events {
+ protected:
+  static void Teach(DLGRecord* dialog, int32_t item, int32_t message, void (*act)(DLGRecord* dialog)) {
+    gMessage = message;
+    gAct = act;
+    gOriginal = DLGFindItem(dialog, item)->procedure;
+    SetItemProc(dialog, item, [](DLGRecord* d, int32_t i, int32_t m, intptr_t a, intptr_t b) -> intptr_t {
+      if (m != gMessage) return gOriginal(d, i, m, a, b);
+      gAct(d);
+      return kDLGTakesDoubleClicks;  // "yes" to every question
+    });
+  }
+
+ private:
+  static inline int32_t gMessage = 0;
+  static inline void (*gAct)(DLGRecord*) = nullptr;
+  static inline DLGItemProc gOriginal = nullptr;
+};
+
+TEST_F(Unruly, NothingReadsADialogThatAnItemEnded) {
+  const struct {
+    int32_t message;
+    const char* name;
+    void (*cause)(DLGRecord* dialog);
+  } rows[] = {
+      {kDLGGetText, "SetText", [](DLGRecord* d) { SetText(d, kFirst, "new", true); }},
+      {kDLGSetText, "SetText", [](DLGRecord* d) { SetText(d, kFirst, "new", true); }},
+      {kDLGGetText, "DLGMeasureItem", [](DLGRecord* d) { DLGMeasureItem(d, kFirst, nullptr); }},
+      {kDLGHitTest, "click", [](DLGRecord* d) { Click(d, kFirst); }},
+      {kDLGDoubleClick, "double click",
+       [](DLGRecord* d) {
+         const Rect bounds = GetControlBounds(DLGGetChildControl(d, kFirst));
+         ClickAt(d, {bounds.top, bounds.left}, true);
+       }},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.name);
+    DLGRecord* dialog = Open(kFields, kDLGModeless);
+    SetFocusDLG(dialog, kFirst);
+    Teach(dialog, kFirst, row.message, [](DLGRecord* d) { DisposeDLG(d); });
+    row.cause(dialog);
+    EXPECT_FALSE(DialogIsValid(dialog)) << "message " << row.message;
+  }
+}
+
+TEST_F(Unruly, ADialogWorksAfterAnItemThrew) {
+  DLGRecord* dialog = Open(kFields, kDLGModeless);
+  const DLGItemProc procedure = DLGFindItem(dialog, kFieldsCancel)->procedure;
+  for (const int32_t message : {kDLGFocus, kDLGMouseDown, kDLGMouseStillDown, kDLGMouseUp}) {
+    SetFocusDLG(dialog, kFirst);
+    Teach(dialog, kFieldsCancel, message, [](DLGRecord*) { throw 1; });
+    QWidget* const button = Widget(dialog, kFieldsCancel);
+    QTimer::singleShot(50, button, [button] { QTest::mouseRelease(button, Qt::LeftButton); });
+    QTest::mousePress(button, Qt::LeftButton);
+    Wait(6);
+    EXPECT_EQ(focusType, 0) << "message " << message;
+    SetItemProc(dialog, kFieldsCancel, procedure);
+    Press(dialog, kFieldsOK);
+    EXPECT_EQ(TakeHits(), Hits{kFieldsOK}) << "message " << message;
+    EXPECT_EQ(dialog->trackingItem, -1) << "message " << message;
+  }
 }
 
 TEST_F(Events, AClickBehindAModalDialogBeeps) {
@@ -356,6 +444,30 @@ TEST_F(Events, Timers) {
   EXPECT_TRUE(Key(dialog, 'x')) << "a timer that is due takes the key";
   EXPECT_EQ(TakeHits(), Hits{kSecond});
   EXPECT_EQ(dialog->timerCount, 9);
+}
+
+TEST_F(Events, TimersGoOnAfterOneThrewAndWhileOneRunsTheEventLoop) {
+  DLGRecord* dialog = Open(kFields, kDLGModeless);
+  const auto register3 = [dialog] {
+    for (const int32_t item : {kFirst, kSecond, kThird}) DLGRegisterTimer(dialog, item, 1);
+  };
+  onHit = [](DLGRecord*, int32_t item) {
+    if (item == kFirst) throw 1;
+  };
+  register3();
+  Wait(30);
+  EXPECT_EQ(TakeHits(), (Hits{kFirst, kSecond, kThird}));
+
+  DLGRecord* other = Open(kNoTabStops, kDLGModeless);
+  EnableDLGItem(other, 2, true);
+  onHit = [this, other](DLGRecord*, int32_t item) {
+    if (item != kFirst) return;
+    DLGRegisterTimer(other, 2, 1);
+    Wait(30);
+  };
+  register3();
+  Wait(40);
+  EXPECT_EQ(TakeHits(), (Hits{kFirst, kSecond, kThird, 2})) << "all but the first in the inner loop";
 }
 
 TEST_F(Events, ModalRunningEndsWithTheLastDialogOfTheId) {

@@ -79,6 +79,27 @@ TEST_F(WindowTest, PlaceSizeAndAttributes) {
   EXPECT_NEAR((bounds.top + bounds.bottom) / 2, middle.y(), 24);
 }
 
+TEST_F(WindowTest, DamagedBoundsAreNoLargerThanAScreen) {
+  const auto dialog = [](const Rect& bounds) { return RectData(bounds) + DialogData("w").substr(8); };
+  const Rect widest{INT16_MIN, INT16_MIN, INT16_MAX, INT16_MAX};
+  const OpenFork fork(
+      {{"DLOG",
+        {{1, dialog(widest)}, {2, dialog({90, 80, 10, 20})}, {3, dialog({30000, 30000, 32000, 32000})}}},
+       {"DITL", {{100, ItemListData({{widest, 4, "a"}, {{20, 200, 10, 100}, 5, "b"}})}}}});
+  for (const int16_t id : {int16_t{1}, int16_t{2}, int16_t{3}}) {
+    const DialogRef opened = GetNewDialog(id);
+    ASSERT_NE(opened, nullptr);
+    const Rect window = GetWindowScreenBounds(GetDialogWindow(opened));
+    EXPECT_LE(RectWidth(window), 4000) << id;
+    EXPECT_LE(RectHeight(window), 4000) << id;
+    EXPECT_LE(window.left, 4000) << id;
+    const Rect large = GetControlBounds(GetDialogItemAsControl(opened, 1));
+    EXPECT_TRUE(large == (Rect{-4000, -4000, 0, 0}));
+    const Rect inverted = GetControlBounds(GetDialogItemAsControl(opened, 2));
+    EXPECT_TRUE(inverted == (Rect{20, 200, 20, 200}));
+  }
+}
+
 TEST_F(WindowTest, ClosingIsLeftToTheHandler) {
   const WindowRef window = MakeWindow("w");
   ShowWindow(window);

@@ -57,16 +57,21 @@ int16_t _ReadPosition(BigEndianReader& reader) {
   return reader.ReadI16(&position) ? position : int16_t{0};
 }
 
+void _ClampEdges(int16_t* first, int16_t* last) {
+  constexpr int16_t kFarthest = 4000;
+  *first = std::clamp<int16_t>(*first, -kFarthest, kFarthest);
+  *last = std::clamp<int16_t>(*last, *first, static_cast<int16_t>(*first + kFarthest));
+}
+
 // Of a window or an item: no larger than a screen, however damaged the resource is.
 Rect _ReadBounds(BigEndianReader& reader) {
-  constexpr int16_t kFarthest = 4000;
-  const auto clamp = [](int16_t* first, int16_t* last) {
-    *first = std::clamp<int16_t>(*first, -kFarthest, kFarthest);
-    *last = std::clamp<int16_t>(*last, *first, static_cast<int16_t>(*first + kFarthest));
-  };
+}
+
+// Of a window or an item: no larger than a screen, however damaged the resource is.
+Rect _ReadBounds(BigEndianReader& reader) {
   Rect rect = _ReadRect(reader);
-  clamp(&rect.top, &rect.bottom);
-  clamp(&rect.left, &rect.right);
+  _ClampEdges(&rect.top, &rect.bottom);
+  _ClampEdges(&rect.left, &rect.right);
   return rect;
 }
 

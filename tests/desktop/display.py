@@ -63,7 +63,7 @@ class X11:
         self.xdotool("type", "--delay", 5, text)
 
     def move(self, point):
-        self.xdotool("mousemove", "--sync", *map(int, point))
+        self.xdotool("mousemove", *map(int, point))
 
     def press(self, point):
         self.move(point)

@@ -121,7 +121,9 @@ bool EventQueue::Filter(QObject* object, QEvent* event) {
   if (m_sending > 0 && !event->spontaneous()) return false;
   auto* const widget = static_cast<QWidget*>(object);
   WindowRecord* const window = FindWindowOf(widget);
-  return window != nullptr && FilterInput(*window, widget, event);
+  if (window != nullptr) return FilterInput(*window, widget, event);
+  OnPopupEvent(widget, *event);
+  return false;
 }
 
 namespace {
@@ -133,15 +135,28 @@ bool _IsOfKind(const QWidget* widget, ControlKind kind) {
 
 }  // namespace
 
-// Not every window system has a popup take the keyboard from the window that it belongs to.
-bool EventQueue::SendToPopup(const QWidget* widget, QEvent* event) {
+// Not every window system has a popup take the keyboard from the window that it belongs to: a key may come
+// there although the popup is open, or was when the key was announced to it.
+bool EventQueue::GiveToPopup(const QWidget* widget, const QKeyEvent& event) {
+  const int popupKey = std::exchange(m_popupKey, 0);
+  if (popupKey != 0 && popupKey == event.key()) return true;
   QWidget* const popup = QApplication::activePopupWidget();
   if (popup == nullptr || popup == widget->window()) return false;
   QWidget* const focus = popup->focusWidget();
-  const std::unique_ptr<QEvent> copy(event->clone());
+  const std::unique_ptr<QKeyEvent> copy(event.clone());
   Send(focus != nullptr ? focus : popup, copy.get());
-  event->accept();
   return true;
+}
+
+void EventQueue::OnPopupEvent(QWidget* widget, const QEvent& event) {
+  switch (event.type()) {
+    case QEvent::Show:
+      if (widget->isWindow()) Watch(widget);  // before the popup's own filters
+      break;
+    case QEvent::ShortcutOverride: m_popupKey = static_cast<const QKeyEvent&>(event).key(); break;
+    case QEvent::KeyPress: m_popupKey = 0; break;
+    default: break;
+  }
 }
 
 bool EventQueue::FilterInput(WindowRecord& window, QWidget* widget, QEvent* event) {
@@ -153,11 +168,14 @@ bool EventQueue::FilterInput(WindowRecord& window, QWidget* widget, QEvent* even
     case QEvent::MouseMove: return OnMove(widget, *static_cast<QMouseEvent*>(event));
     case QEvent::MouseButtonRelease: return OnRelease(widget, *static_cast<QMouseEvent*>(event));
     case QEvent::KeyPress:
-      if (SendToPopup(widget, event)) return true;
       event->accept();
-      return OnKeyPress(window, widget, *static_cast<QKeyEvent*>(event));
+      return GiveToPopup(widget, *static_cast<QKeyEvent*>(event)) ||
+             OnKeyPress(window, widget, *static_cast<QKeyEvent*>(event));
     case QEvent::KeyRelease: return OnKeyRelease(widget, *static_cast<QKeyEvent*>(event));
-    case QEvent::ShortcutOverride: event->accept(); return true;
+    case QEvent::ShortcutOverride:
+      m_popupKey = 0;
+      event->accept();
+      return true;
     case QEvent::ContextMenu: return window.blocked > 0 || !_IsOfKind(widget, kControlKindEditText);
     case QEvent::Wheel: return window.blocked > 0 || _IsOfKind(widget, kControlKindPopupButton);
     case QEvent::ToolTip: return true;

@@ -102,7 +102,8 @@ class EventQueue : public QObject {
 
   bool Filter(QObject* object, QEvent* event);
   bool FilterInput(WindowRecord& window, QWidget* widget, QEvent* event);
-  bool SendToPopup(const QWidget* widget, QEvent* event);
+  bool GiveToPopup(const QWidget* widget, const QKeyEvent& event);
+  void OnPopupEvent(QWidget* widget, const QEvent& event);
   bool OnPress(WindowRecord& window, QWidget* widget, const QMouseEvent& event);
   bool OnMove(QWidget* widget, const QMouseEvent& event);
   bool OnRelease(QWidget* widget, const QMouseEvent& event);
@@ -136,6 +137,7 @@ class EventQueue : public QObject {
   WindowRef m_activated = nullptr;  // by the window manager, not told yet
   int m_sending = 0;
   int m_settingFocus = 0;
+  int m_popupKey = 0;             // Qt key whose press a popup has begun to handle
   bool m_windowHasPress = false;  // the event under way came through the window system
   bool m_wakeUpPosted = false;
 };

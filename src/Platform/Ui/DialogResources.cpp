@@ -65,10 +65,6 @@ void _ClampEdges(int16_t* first, int16_t* last) {
 
 // Of a window or an item: no larger than a screen, however damaged the resource is.
 Rect _ReadBounds(BigEndianReader& reader) {
-}
-
-// Of a window or an item: no larger than a screen, however damaged the resource is.
-Rect _ReadBounds(BigEndianReader& reader) {
   Rect rect = _ReadRect(reader);
   _ClampEdges(&rect.top, &rect.bottom);
   _ClampEdges(&rect.left, &rect.right);

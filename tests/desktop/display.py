@@ -29,7 +29,7 @@ class X11:
     def __init__(self):
         read, write = os.pipe()
         self.server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write), "-screen", "0", f"{WIDTH}x{HEIGHT}x24", "-nolisten", "tcp"],
+            ["Xvfb", "-displayfd", str(write), "-screen", "0", f"{WIDTH}x{HEIGHT}x24", "-nolisten", "tcp", "-r"],
             pass_fds=[write], stderr=subprocess.DEVNULL)
         os.close(write)
         self.folder = tempfile.TemporaryDirectory()
@@ -115,15 +115,31 @@ class X11:
     def _visible(self):
         return set(self.xdotool("search", "--onlyvisible", "--class", ".").split())
 
-    def open_popup(self, action, window):
-        """Does what opens a list of the window at those bounds, waits for it, and gives its bounds."""
-        before = self._visible()
-        action()
-        self.popup = wait_for(lambda: self._visible() - before, "a list that opens").pop()
+    def open_popup(self, opener, window):
+        """Holds the key (such as "alt+Down") or the mouse at the point that opens a list of the window at those
+        bounds until the list is there: a compositor takes a list away that no key or button is down for. Gives
+        the list's bounds."""
+        before = self._popups()
+        keys = opener.split("+") if isinstance(opener, str) else []
+        for key in keys:
+            self.xdotool("keydown", key)
+        if not keys:
+            self.press(opener)
+        self.popup = wait_for(lambda: self._popups() - before, "a list that opens").pop()
+        for key in reversed(keys):
+            self.xdotool("keyup", key)
+        if not keys:
+            self.release()
+        return self._popup_bounds(window)
+
+    def _popups(self):
+        return self._visible()
+
+    def _popup_bounds(self, _window):
         return self._bounds(self.popup)
 
     def wait_for_popup_to_close(self):
-        wait_for(lambda: self.popup not in self._visible(), "the list that closes")
+        wait_for(lambda: self.popup not in self._popups(), "the list that closes")
 
 
 class Wayland(X11):
@@ -136,6 +152,7 @@ class Wayland(X11):
         "size": r"(xdg_surface@\d+)\.set_window_geometry\(0, 0, (\d+), (\d+)\)",
         "parent": r"(xdg_toplevel@\d+)\.set_parent\((.*)\)",
         "keyboard": r"wl_keyboard@\d+\.enter\(\d+, (wl_surface@\d+)",
+        "left": r"(wl_keyboard@\d+)\.leave\(",
         "entered": r"wl_pointer@\d+\.enter\(\d+, (wl_surface@\d+), ([\d.-]+), ([\d.-]+)\)",
         "moved": r"wl_pointer@\d+\.motion\(\d+, ([\d.-]+), ([\d.-]+)\)",
         "popup": r"(xdg_popup@\d+)\.configure\((-?\d+), (-?\d+), (\d+), (\d+)\)",
@@ -146,8 +163,11 @@ class Wayland(X11):
         super().__init__()
         socket = os.path.join(self.folder.name, "wayland-test")
         log = os.path.join(self.folder.name, "weston.log")
+        configuration = os.path.join(self.folder.name, "weston.ini")
+        with open(configuration, "w", encoding="utf-8") as file:
+            file.write("[keyboard]\nrepeat-delay=100000\n")  # no key is held on a busy machine
         self.programs.append(subprocess.Popen(
-            ["weston", "--backend=x11-backend.so", f"--width={WIDTH}", f"--height={HEIGHT}", "--no-config",
+            ["weston", "--backend=x11-backend.so", f"--width={WIDTH}", f"--height={HEIGHT}", f"--config={configuration}",
              "--socket=wayland-test", "--idle-time=0", f"--log={log}"], env=self.environment,
             stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL))
         wait_for(lambda: os.path.exists(socket), "a Wayland compositor")
@@ -199,6 +219,8 @@ class Wayland(X11):
             self.parents[values[0]] = values[1]
         elif name == "keyboard":
             self.keyboard = values[0]
+        elif name == "left":
+            self.keyboard = None
         elif name == "entered":
             self.pointer = tuple(map(float, values[1:]))
         elif name == "moved":
@@ -235,23 +257,13 @@ class Wayland(X11):
         left, top = (int(screen - inside) for screen, inside in zip(self.position, at))
         return left, top, *self.sizes[self.windows[self.keyboard]]
 
-    def open_popup(self, action, window):
+    def _popups(self):
         self._listen()
-        before = set(self.popups)
-        action()
+        return set(self.popups)
 
-        def opened():
-            self._listen()
-            return set(self.popups) - before
-        self.popup = wait_for(opened, "a list that opens").pop()
+    def _popup_bounds(self, window):
         left, top, width, height = self.popups[self.popup]
         return window[0] + left, window[1] + top, width, height
-
-    def wait_for_popup_to_close(self):
-        def closed():
-            self._listen()
-            return self.popup not in self.popups
-        wait_for(closed, "the list that closes")
 
 
 DESKTOPS = {"x11": X11, "wayland": Wayland}

@@ -34,7 +34,7 @@ class ExportTest(unittest.TestCase):
         self.addCleanup(self.desktop.close)
         self.desktop.start(GXHOST, str(SAMPLE))
         self.desktop.wait_for_window(MAIN_WINDOW)  # the class is read
-        self.desktop.open_popup(lambda: self.desktop.key("alt+e"), self.desktop.active_bounds())
+        self.desktop.open_popup("alt+e", self.desktop.active_bounds())
         self.desktop.key(*["Down"] * CANVAS, "Return")
         self.desktop.wait_for_window(DIALOG)
         self.dialog = self.desktop.active_window()
@@ -84,18 +84,15 @@ class ExportTest(unittest.TestCase):
 
     def test_by_keys(self):
         self.desktop.key("Down", "space", "shift+Tab")  # the list has the keyboard; its first row is checked
-        self.open_fields(lambda: self.desktop.key("space"))
+        self.desktop.open_popup("space", self.window)
         self.desktop.key("Escape")  # closes the list, not the dialog
         self.desktop.wait_for_popup_to_close()
-        self.open_fields(lambda: self.desktop.key("alt+Down"))
+        self.desktop.open_popup("alt+Down", self.window)
         self.desktop.key("Down", "Return")  # from "Student ID" to the next; not yet OK
         self.desktop.wait_for_popup_to_close()
         self.assertEqual(self.desktop.active_title(), DIALOG)
         self.desktop.key("Return")
         self.assertEqual(self.save(), self.expected(0, 1))
-
-    def open_fields(self, action):
-        return self.desktop.open_popup(action, self.window)
 
     def test_by_mouse(self):
         self.desktop.click(self.point(CLEAR_ALL))
@@ -111,7 +108,7 @@ class ExportTest(unittest.TestCase):
             self.desktop.move(self.point(LIST, -8, 30 + part * 40))
         self.desktop.release()
         self.desktop.click(self.point(LIST, 12, -28))  # its check mark, or that of the row above it
-        left, top, width, height = self.open_fields(lambda: self.desktop.click(self.point(POPUP)))
+        left, top, width, height = self.desktop.open_popup(self.point(POPUP), self.window)
         self.desktop.click((left + width / 2, top + height * (ALIAS + 0.5) / FIELDS))
         self.desktop.wait_for_popup_to_close()
         self.desktop.click(self.point(OK))

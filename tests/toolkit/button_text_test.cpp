@@ -149,6 +149,8 @@ TEST_F(ItemsTest, TheSecondClickOfADoubleClickCountsInBoxes) {
   } rows[] = {{kDemoCheck, {kDemoCheck, kDemoCheck}, 0},
               {kDemoRadio2, {kDemoRadio2}, 1},
               {kDemoHelp, {kDemoHelp}, 0}};
+  const int interval = QApplication::doubleClickInterval();
+  QApplication::setDoubleClickInterval(400);
   for (const auto& row : rows) {
     const QPoint where = Widget(m_dialog, row.item)->geometry().topLeft() + QPoint(10, 10);
     QTest::mouseDClick(Window(m_dialog)->windowHandle(), Qt::LeftButton, {}, where);
@@ -156,6 +158,7 @@ TEST_F(ItemsTest, TheSecondClickOfADoubleClickCountsInBoxes) {
     EXPECT_EQ(TakeHits(), row.hits);
     EXPECT_EQ(CKGetCheck(m_dialog, row.item), row.value) << row.item;
   }
+  QApplication::setDoubleClickInterval(interval);
 }
 
 TEST_F(ItemsTest, ArrowKeysGoAroundAGroupOfRadioButtons) {

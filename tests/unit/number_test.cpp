@@ -40,7 +40,7 @@ std::vector<std::string> _SomeTexts() {
   for (size_t i = 0; i < 4000; ++i) {
     std::string text = std::to_string(random() % 1000000000 + 1) + std::to_string(random() % 1000000000);
     text.resize(std::min(text.size(), 1 + i % 18));
-    if (i % 4 != 0) text.insert(random() % (text.size() + 1), 1, '.');
+    if (i % 4 != 0) text.insert(static_cast<size_t>(random() % (text.size() + 1)), 1, '.');
     texts.push_back(text);
   }
   return texts;

@@ -15,7 +15,7 @@ inline void WriteCharacter(std::FILE* file, char character) {
 inline void WriteText(std::FILE* file, std::string_view text) {
   if (text.size() == 1) {  // often: a comma, a blank
     WriteCharacter(file, text.front());
-  } else {
+  } else if (!text.empty()) {
     std::fwrite(text.data(), 1, text.size(), file);
   }
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <span>
 #include <vector>
 
 #include "Filters/GX_StdCsv/CsvOutput.h"
@@ -44,7 +45,7 @@ class Gradebook {
     if (m_layout.pointsPossibleTitle != nullptr) WritePointsPossible();
     const ScoreTable scores(m_class.students, m_assignments);
     for (size_t position = 0; position < m_class.students.size(); ++position) {
-      WriteRow(m_class.students[position], scores, scores.First(position));
+      WriteRow(m_class.students[position], scores.ScoresOf(position));
     }
   }
 
@@ -80,11 +81,12 @@ class Gradebook {
     EndLine();
   }
 
-  void WriteRow(const qz::StudentRecord& student, const ScoreTable& scores, const ScoreTable::Score* score) {
+  void WriteRow(const qz::StudentRecord& student, std::span<const ScoreTable::Score> scores) {
     Values values{.student = &student};
     for (const GradebookColumn& column : m_layout.leading) WriteCell(column, values);
+    auto score = scores.begin();
     for (size_t i = 0; i < m_assignments.size(); ++i) {
-      if (score == nullptr || score->assignment != i) {
+      if (score == scores.end() || score->assignment != i) {
         WriteNoScore();
         continue;
       }
@@ -93,7 +95,7 @@ class Gradebook {
       WriteCell(m_layout.score, values);
       if (!std::isnan(values.runningTotal))
         values.runningTotal += values.points;  // of two NaNs the first stays
-      score = scores.Next(*score);
+      ++score;
     }
     for (const GradebookColumn& column : m_layout.trailing) WriteCell(column, values);
     EndLine();

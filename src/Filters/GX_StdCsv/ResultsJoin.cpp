@@ -1,5 +1,9 @@
 #include "Filters/GX_StdCsv/ResultsJoin.h"
 
+#include <algorithm>
+#include <iterator>
+#include <numeric>
+
 RosterIndex::RosterIndex(const std::vector<qz::StudentRecord>& students) : m_ids(students.size()) {
   m_numbers.reserve(students.size());
   for (const qz::StudentRecord& student : students) m_numbers.push_back(m_ids.Add(Key(student.id)));
@@ -17,32 +21,40 @@ std::vector<const qz::ResultsRecord*> RosterIndex::FindResults(const qz::Assignm
   return byPosition;
 }
 
+// Counts the scores of each student, which says where they stand, then puts them there.
 ScoreTable::ScoreTable(const std::vector<qz::StudentRecord>& students,
                        const std::vector<const qz::AssignmentRecord*>& assignments)
-    : m_roster(students), m_chains(m_roster.Count()) {
-  size_t results = 0;
-  for (const qz::AssignmentRecord* assignment : assignments) results += assignment->results.size();
-  m_scores.reserve(results);
-  size_t position = 0;
-  for (const qz::AssignmentRecord* assignment : assignments) Add(*assignment, position++);
+    : m_roster(students), m_begins(m_roster.Count() + 1) {
+  std::vector<size_t> numbers;  // of the results' students; kNone for results that do not count
+  std::vector<size_t> lastAssignment(m_roster.Count(), assignments.size());
+  for (size_t position = 0; position < assignments.size(); ++position) {
+    for (const qz::ResultsRecord& results : assignments[position]->results) {
+      size_t number = m_roster.NumberOf(results);
+      if (number != RosterIndex::kNone && lastAssignment[number] == position) {
+        number = RosterIndex::kNone;  // the first counts
+      }
+      numbers.push_back(number);
+      if (number == RosterIndex::kNone) continue;
+      lastAssignment[number] = position;
+      ++m_begins[number + 1];
+    }
+  }
+  std::partial_sum(m_begins.begin(), m_begins.end(), m_begins.begin());
+
+  m_scores.resize(m_begins.back());
+  std::vector<size_t> next(m_begins.begin(), std::prev(m_begins.end()));
+  auto number = numbers.begin();
+  for (size_t position = 0; position < assignments.size(); ++position) {
+    for (const qz::ResultsRecord& results : assignments[position]->results) {
+      if (*number != RosterIndex::kNone) m_scores[next[*number]++] = {position, results.GetTotalPoints()};
+      ++number;
+    }
+  }
 }
 
 std::optional<double> ScoreTable::Find(size_t position, size_t assignment) const {
-  const Score* score = First(position);
-  while (score != nullptr && score->assignment < assignment) score = Next(*score);
-  if (score == nullptr || score->assignment != assignment) return std::nullopt;
-  return score->points;
-}
-
-// Sums in the stored order of the results, which is their order in memory.
-void ScoreTable::Add(const qz::AssignmentRecord& assignment, size_t position) {
-  for (const qz::ResultsRecord& results : assignment.results) {
-    const size_t number = m_roster.NumberOf(results);
-    if (number == RosterIndex::kNone) continue;
-    Chain& chain = m_chains[number];
-    if (chain.last != kEnd && m_scores[chain.last].assignment == position) continue;  // the first counts
-    (chain.last == kEnd ? chain.first : m_scores[chain.last].next) = m_scores.size();
-    chain.last = m_scores.size();
-    m_scores.push_back({position, results.GetTotalPoints(), kEnd});
-  }
+  const std::span<const Score> scores = ScoresOf(position);
+  const auto found = std::ranges::lower_bound(scores, assignment, {}, &Score::assignment);
+  if (found == scores.end() || found->assignment != assignment) return std::nullopt;
+  return found->points;
 }

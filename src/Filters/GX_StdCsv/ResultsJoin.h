@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <vector>
 
 #include "Common/KeyIndex.h"
@@ -40,32 +41,24 @@ class ScoreTable {
   struct Score {
     size_t assignment;  // position in the list that the table was made from
     double points;
-    size_t next;
   };
 
   ScoreTable() : ScoreTable({}, {}) {}  // of nobody
   ScoreTable(const std::vector<qz::StudentRecord>& students,
              const std::vector<const qz::AssignmentRecord*>& assignments);
 
-  // The student's scores in the order of the assignments: the first of them, and the one after another; null
-  // at the end. `position` is that in the roster.
-  const Score* First(size_t position) const { return At(m_chains[m_roster.NumberAt(position)].first); }
-  const Score* Next(const Score& score) const { return At(score.next); }
+  // The student's scores in the order of the assignments. `position` is that in the roster.
+  std::span<const Score> ScoresOf(size_t position) const {
+    const size_t number = m_roster.NumberAt(position);
+    return std::span(m_scores).subspan(m_begins[number], m_begins[number + 1] - m_begins[number]);
+  }
 
-  // The student's points on one assignment, nothing without results. Goes through the student's scores.
+  // The student's points on one assignment, nothing without results.
   std::optional<double> Find(size_t position, size_t assignment) const;
 
  private:
-  static constexpr size_t kEnd = RosterIndex::kNone;
-  struct Chain {
-    size_t first = kEnd, last = kEnd;
-  };
-
-  const Score* At(size_t index) const { return index == kEnd ? nullptr : &m_scores[index]; }
-  void Add(const qz::AssignmentRecord& assignment, size_t position);
-
   RosterIndex m_roster;
-  std::vector<Chain> m_chains;  // by number of the student
+  std::vector<size_t> m_begins;  // by number of the student, and the end: where the scores begin
   std::vector<Score> m_scores;
 };
 

@@ -10,7 +10,9 @@ import tempfile
 import time
 
 LIMIT = 30  # seconds until something that should happen counts as not happening
-WIDTH, HEIGHT = 1000, 800  # a dialog covers the middle, wherever it is put
+WIDTH, HEIGHT = 1000, 800  # of the desktop; a dialog covers the middle, wherever it is put
+ENDS_WITH_US = ["setpriv", "--pdeathsig", "TERM"]  # programs that are started, even when a time limit ends us
+MARGIN = 40  # of the X server's screen, below the desktop
 
 
 def wait_for(condition, what):
@@ -29,7 +31,8 @@ class X11:
     def __init__(self):
         read, write = os.pipe()
         self.server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write), "-screen", "0", f"{WIDTH}x{HEIGHT}x24", "-nolisten", "tcp", "-r"],
+            [*ENDS_WITH_US, "Xvfb", "-displayfd", str(write), "-screen", "0", f"{WIDTH}x{HEIGHT + MARGIN}x24",
+             "-nolisten", "tcp", "-r"],
             pass_fds=[write], stderr=subprocess.DEVNULL)
         os.close(write)
         self.folder = tempfile.TemporaryDirectory()
@@ -42,7 +45,7 @@ class X11:
 
     def start(self, *command):
         environment = dict(self.environment, QT_QPA_PLATFORM="xcb")
-        self.programs.append(subprocess.Popen(command, env=environment))
+        self.programs.append(subprocess.Popen([*ENDS_WITH_US, *command], env=environment))
         window = wait_for(self._visible, "a window").pop()
         self.xdotool("windowfocus", "--sync", window)  # as a window manager does
 
@@ -165,10 +168,11 @@ class Wayland(X11):
         log = os.path.join(self.folder.name, "weston.log")
         configuration = os.path.join(self.folder.name, "weston.ini")
         with open(configuration, "w", encoding="utf-8") as file:
-            file.write("[keyboard]\nrepeat-delay=100000\n")  # no key is held on a busy machine
+            file.write("[keyboard]\nrepeat-delay=100000\n"  # no key is held on a busy machine
+                       "[shell]\nstartup-animation=none\nanimation=none\nlocking=false\npanel-position=none\n")
         self.programs.append(subprocess.Popen(
-            ["weston", "--backend=x11-backend.so", f"--width={WIDTH}", f"--height={HEIGHT}", f"--config={configuration}",
-             "--socket=wayland-test", "--idle-time=0", f"--log={log}"], env=self.environment,
+            [*ENDS_WITH_US, "weston", "--backend=x11-backend.so", f"--width={WIDTH}", f"--height={HEIGHT}",
+             f"--config={configuration}", "--socket=wayland-test", "--idle-time=0", f"--log={log}"], env=self.environment,
             stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL))
         wait_for(lambda: os.path.exists(socket), "a Wayland compositor")
         self.move((WIDTH // 2, HEIGHT // 2))
@@ -181,7 +185,7 @@ class Wayland(X11):
                            WAYLAND_DEBUG="1", QT_WAYLAND_DISABLE_WINDOWDECORATION="1")
         del environment["DISPLAY"]
         with open(self.talk, "w", encoding="utf-8") as talk:
-            self.programs.insert(0, subprocess.Popen(command, env=environment, stderr=talk))
+            self.programs.insert(0, subprocess.Popen([*ENDS_WITH_US, *command], env=environment, stderr=talk))
         self.lines = open(self.talk, encoding="utf-8", errors="replace")
 
     def close(self):
@@ -243,17 +247,24 @@ class Wayland(X11):
     def active_parent(self):
         return self.parents.get(self.active_window())
 
+    def _move_in_window(self):
+        """Moves the mouse and gives where in the window it is then told to be. When nothing is told, brings the mouse
+        in from outside and gives None: a compositor that began under the mouse knows its moves, not its place."""
+        self._listen()
+        self.pointer = None
+        self.move((WIDTH // 2 + (self.position[0] == WIDTH // 2), HEIGHT // 2))
+        end = time.monotonic() + 0.5
+        while self.pointer is None and time.monotonic() < end:
+            time.sleep(0.02)
+            self._listen()
+        if self.pointer is None:
+            self.move((WIDTH // 2, HEIGHT + MARGIN // 2))
+        return self.pointer
+
     def active_bounds(self):
         """Moves the mouse in the window: what it is told tells where the window is."""
-        def told():
-            self._listen()
-            return self.pointer
-
-        for step in 1, 0:
-            self._listen()
-            self.pointer = None
-            self.move((WIDTH // 2 + step, HEIGHT // 2))
-            at = wait_for(told, "a mouse that moves in the window")
+        for _ in range(2):  # what is told at first may be of an earlier place
+            at = wait_for(self._move_in_window, "a mouse that moves in the window")
         left, top = (int(screen - inside) for screen, inside in zip(self.position, at))
         return left, top, *self.sizes[self.windows[self.keyboard]]
 

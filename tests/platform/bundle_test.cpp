@@ -45,9 +45,7 @@ TEST(CFBundle, FollowsTheEnvironment) {
     variable.Set(folder.Path(name));
     EXPECT_EQ(CFBundleGetMainBundle(), nullptr) << name;
   }
-  const CFURLRef url = CFBundleCopyBundleURL(one);
-  EXPECT_EQ(url->path, folder.Path("One.bundle"));
-  CFRelease(url);
+  EXPECT_EQ(CFOwned<CFURL>(CFBundleCopyBundleURL(one))->path, folder.Path("One.bundle"));
   EXPECT_EQ(CFBundleCopyBundleURL(nullptr), nullptr);
 }
 
@@ -84,16 +82,19 @@ TEST(CFBundle, LocalizesStrings) {
   folder.Write("B.bundle/Resources/Localizable.strings", "\"ok\" = \"default\";");
   const ScopedEnvironment variable("GRADIX_BUNDLE", folder.Path("B.bundle"));
   const CFBundleRef bundle = CFBundleGetMainBundle();
-  EXPECT_EQ(_Localized(bundle, "ok", "OK", "Main"), "D'accord");
-  EXPECT_EQ(_Localized(bundle, "empty", "x", "Main"), "");
-  EXPECT_EQ(_Localized(bundle, "ok", "OK", nullptr), "default");
-  EXPECT_EQ(_Localized(bundle, "missing", "value", "Main"), "value");
-  EXPECT_EQ(_Localized(bundle, "missing", "", "Main"), "missing");
-  EXPECT_EQ(_Localized(bundle, "missing", nullptr, "Main"), "missing");
-  EXPECT_EQ(_Localized(bundle, "ok", "value", "NoTable"), "value");
-  EXPECT_EQ(_Localized(bundle, "ok", "value", "../Resources/Main"), "value");
+  const struct {
+    const char *key, *value, *table, *expected;
+  } rows[] = {
+      {"ok", "OK", "Main", "D'accord"},     {"empty", "x", "Main", ""},
+      {"ok", "OK", nullptr, "default"},     {"missing", "value", "Main", "value"},
+      {"missing", "", "Main", "missing"},   {"missing", nullptr, "Main", "missing"},
+      {"ok", "value", "NoTable", "value"},  {"ok", "value", "../Resources/Main", "value"},
+      {nullptr, nullptr, "Main", "(null)"},
+  };
+  for (const auto& row : rows) {
+    EXPECT_EQ(_Localized(bundle, row.key, row.value, row.table), row.expected) << row.expected;
+  }
   EXPECT_EQ(_Localized(nullptr, "ok", "value", "Main"), "value");
-  EXPECT_EQ(_Localized(bundle, nullptr, nullptr, "Main"), "(null)");
 
   folder.Write("B.bundle/Resources/Main.strings", "\"ok\" = \"changed\";");
   EXPECT_EQ(_Localized(bundle, "ok", "OK", "Main"), "D'accord") << "read once";

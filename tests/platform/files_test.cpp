@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <vector>
 
+#include "Platform/Core/CFOwned.h"
 #include "Platform/Core/CFURL.h"
 #include "tests/platform/temp_folder.h"
 
@@ -16,10 +17,17 @@ std::string _PathOf(const FSRef& file) {
   return FSRefMakePath(&file, path, sizeof(path)) == noErr ? path : "(none)";
 }
 
-std::string _URLText(CFURLRef url) {
-  std::string text = url == nullptr ? "(none)" : CFStringGetUTF8(CFURLGetString(url));
-  CFRelease(url);
-  return text;
+// The reference of a path that is there.
+FSRef _RefTo(const std::string& path) {
+  FSRef file{};
+  EXPECT_EQ(FSPathMakeRef(path.c_str(), &file, nullptr), noErr) << path;
+  return file;
+}
+
+using URL = CFOwned<CFURL>;
+
+std::string _TextOf(const URL& url) {
+  return url == nullptr ? "(none)" : CFStringGetUTF8(CFURLGetString(url.get()));
 }
 
 TEST(FSRef, HoldsAPath) {
@@ -35,12 +43,11 @@ TEST(FSRef, HoldsAPath) {
   ASSERT_EQ(FSPathMakeRef((folder.Path() + "//./").c_str(), &other, &isDirectory), noErr);
   EXPECT_TRUE(isDirectory);
   EXPECT_EQ(_PathOf(other), folder.Path());
-  ASSERT_EQ(FSPathMakeRef("/", &other, nullptr), noErr);
-  EXPECT_EQ(_PathOf(other), "/");
+  EXPECT_EQ(_PathOf(_RefTo("/")), "/");
 
   const std::filesystem::path old = std::filesystem::current_path();
   std::filesystem::current_path(folder.Path());
-  EXPECT_EQ(FSPathMakeRef("n\xC3\xA9 \xFF", &other, nullptr), noErr);
+  other = _RefTo("n\xC3\xA9 \xFF");
   std::filesystem::current_path(old);
   EXPECT_EQ(std::memcmp(&file, &other, sizeof(FSRef)), 0) << "one path, one reference";
 
@@ -83,10 +90,8 @@ TEST(FSRef, IsMadeByAnyHost) {
 TEST(Directories, HaveIdsForGood) {
   const TempFolder folder;
   const std::string path = folder.Write("sub/file", "");
-  FSRef sub;
-  FSRef file;
-  ASSERT_EQ(FSPathMakeRef(folder.Path("sub").c_str(), &sub, nullptr), noErr);
-  ASSERT_EQ(FSPathMakeRef(path.c_str(), &file, nullptr), noErr);
+  const FSRef sub = _RefTo(folder.Path("sub"));
+  const FSRef file = _RefTo(path);
   int16_t volume = 0;
   int16_t sameVolume = 0;
   int32_t id = 0;
@@ -158,11 +163,9 @@ TEST(Directories, TemporaryFolder) {
   ScopedEnvironment variable("TMPDIR", folder.Path("temporary"));
   FSRef found;
   EXPECT_EQ(FSFindFolder(kTemporaryFolderType, false, &found), fnfErr);
-  for (const bool create : {true, true, false}) {
-    ASSERT_EQ(FSFindFolder(kTemporaryFolderType, create, &found), noErr);
-    EXPECT_EQ(_PathOf(found), folder.Path("temporary"));
-  }
   EXPECT_EQ(FSFindFolder(FourCharCode("pref"), true, &found), fnfErr);
+  ASSERT_EQ(FSFindFolder(kTemporaryFolderType, true, &found), noErr);
+  EXPECT_EQ(_PathOf(found), folder.Path("temporary"));
   variable.Set("");
   ASSERT_EQ(FSFindFolder(kTemporaryFolderType, false, &found), noErr);
   EXPECT_EQ(_PathOf(found), "/tmp");
@@ -170,7 +173,7 @@ TEST(Directories, TemporaryFolder) {
 
 TEST(CFURL, TextIsPercentEncoded) {
   const auto text = [](const char* path, bool isDirectory) {
-    return _URLText(CFURLCreateWithFileSystemPath(path, isDirectory));
+    return _TextOf(URL(CFURLCreateWithFileSystemPath(path, isDirectory)));
   };
   EXPECT_EQ(text("/a b/100%/c?d#e", false), "file:///a%20b/100%25/c%3Fd%23e");
   EXPECT_EQ(text("/n\xC3\xA9/\xFF", true), "file:///n%C3%A9/%FF/");
@@ -181,26 +184,21 @@ TEST(CFURL, TextIsPercentEncoded) {
 TEST(CFURL, LeadsToTheFolderAndBackToFiles) {
   const TempFolder folder;
   const std::string path = folder.Write("a b", "");
-  const CFURLRef url = CFURLCreateWithFileSystemPath(path.c_str(), false);
+  const URL url(CFURLCreateWithFileSystemPath(path.c_str(), false));
   FSRef file;
-  ASSERT_TRUE(CFURLGetFSRef(url, &file));
+  ASSERT_TRUE(CFURLGetFSRef(url.get(), &file));
   EXPECT_EQ(_PathOf(file), path);
-  EXPECT_EQ(_URLText(CFURLCreateFromFSRef(&file)), CFStringGetUTF8(CFURLGetString(url)));
-  const CFURLRef parent = CFURLCreateCopyDeletingLastPathComponent(url);
-  CFRelease(url);
-  ASSERT_TRUE(CFURLGetFSRef(parent, &file));
+  EXPECT_EQ(_TextOf(URL(CFURLCreateFromFSRef(&file))), _TextOf(url));
+  const URL parent(CFURLCreateCopyDeletingLastPathComponent(url.get()));
+  ASSERT_TRUE(CFURLGetFSRef(parent.get(), &file));
   EXPECT_EQ(_PathOf(file), folder.Path());
-  const std::string parentText = CFStringGetUTF8(CFURLGetString(parent));
-  CFRelease(parent);
-  EXPECT_EQ(parentText.back(), '/');
-  EXPECT_EQ(_URLText(CFURLCreateFromFSRef(&file)), parentText);
+  EXPECT_EQ(_TextOf(parent), "file://" + folder.Path() + "/");
+  EXPECT_EQ(_TextOf(URL(CFURLCreateFromFSRef(&file))), _TextOf(parent));
 
-  const CFURLRef root = CFURLCreateWithFileSystemPath("/", true);
-  EXPECT_EQ(CFURLCreateCopyDeletingLastPathComponent(root), nullptr);
-  CFRelease(root);
-  const CFURLRef missing = CFURLCreateWithFileSystemPath(folder.Path("missing").c_str(), false);
-  EXPECT_FALSE(CFURLGetFSRef(missing, &file));
-  CFRelease(missing);
+  const URL root(CFURLCreateWithFileSystemPath("/", true));
+  EXPECT_EQ(CFURLCreateCopyDeletingLastPathComponent(root.get()), nullptr);
+  const URL missing(CFURLCreateWithFileSystemPath(folder.Path("missing").c_str(), false));
+  EXPECT_FALSE(CFURLGetFSRef(missing.get(), &file));
   const FSRef none{};
   EXPECT_EQ(CFURLCreateFromFSRef(&none), nullptr);
 }

@@ -91,14 +91,10 @@ TEST_F(ResourcesTest, SearchesFromTheCurrentFileBackToTheApplication) {
   EXPECT_EQ(_Text(1), "first");
   CloseResFile(second);
   EXPECT_EQ(ResError(), resFNotFound);
-}
-
-TEST_F(ResourcesTest, ClosingAnotherFileKeepsTheCurrentOne) {
-  const ResFileRefNum first = Open("1", _TextFork(1, "first"));
-  const ResFileRefNum second = Open("2", _TextFork(1, "second"));
+  const ResFileRefNum third = Open("3", _TextFork(1, "third"));
   CloseResFile(first);
-  EXPECT_EQ(CurResFile(), second);
-  CloseResFile(second);
+  EXPECT_EQ(CurResFile(), third) << "another file was closed";
+  CloseResFile(third);
   EXPECT_EQ(CurResFile(), 0);
 }
 

@@ -1,4 +1,4 @@
-// Class files that are broken, cut, huge or made to do harm.
+// Class files that are broken, cut or made to do harm.
 #include <gtest/gtest.h>
 
 #include <sstream>
@@ -8,35 +8,19 @@
 
 namespace {
 
-std::string _Repeated(const std::string& text, size_t count) {
-  std::string result;
-  result.reserve(text.size() * count);
-  for (size_t i = 0; i < count; ++i) result += text;
-  return result;
-}
-
-// `before`, a number, `after`, for each number below `count`.
-std::string _Numbered(const char* before, int count, const char* after) {
-  std::ostringstream result;
-  for (int i = 0; i < count; ++i) result << before << i << after;
-  return result.str();
-}
-
 const std::string kTwoStudents = "<class>\n<student-list><student id='1'/><student id='2'/>";
-
-struct Row {
-  const char* what;
-  std::string document;
-  size_t students;
-  uint64_t line;
-  const char* reason;
-  QZClassFault fault = kClassFaultMalformed;
-  const char* encoding = "";
-};
 
 TEST(HostileInput, FailsAndKeepsWhatWasComplete) {
   const std::string zero(1, '\0');
-  const Row rows[] = {
+  const struct {
+    const char* what;
+    std::string document;
+    size_t students;
+    uint64_t line;
+    const char* reason;
+    QZClassFault fault = kClassFaultMalformed;
+    const char* encoding = "";
+  } rows[] = {
       {"empty", "", 0, 1, "no element found"},
       {"blank", " \n ", 0, 2, "no element found"},
       {"another document element", "<class-list><student-list/></class-list>", 0, 1,
@@ -63,7 +47,7 @@ TEST(HostileInput, FailsAndKeepsWhatWasComplete) {
       {"recursive entity", "<!DOCTYPE class [<!ENTITY a '&b;'><!ENTITY b '&a;'>]><class>&a;</class>", 0, 1,
        "recursive entity reference"},
   };
-  for (const Row& row : rows) {
+  for (const auto& row : rows) {
     std::istringstream stream(row.document);
     qz::ClassRecord record;
     QZClassParseReport report;
@@ -84,48 +68,22 @@ TEST(HostileInput, UnopenedStreamIsAnEmptyFile) {
   EXPECT_FALSE(QZClassParse(&record, stream));
 }
 
-// Large documents that a careless reader takes quadratic time, unbounded stack or unbounded memory for. Each
-// is read in well under a second here, and would take minutes, or end the process, otherwise.
-TEST(HostileInput, HugeDocuments) {
-  constexpr size_t kMany = 1000000;
-  const std::string student = "<class><student-list><student id='5'>";
-  const std::string end = "</student></student-list></class>";
-  const Row rows[] = {
-      {"elements a million deep", "<class>" + _Repeated("<d>", kMany) + _Repeated("</d>", kMany) + "</class>",
-       0, 0, ""},
-      {"one very long attribute", "<class><student-list x='" + std::string(20 * kMany, 'x') + "'/></class>",
-       0, 0, ""},
-      {"one very long comment", "<class><!--" + std::string(20 * kMany, 'x') + "--></class>", 0, 0, ""},
-      {"one very long text", student + "<alias>" + std::string(20 * kMany, '\n') + "</alias>" + end, 1, 0,
-       ""},
-      {"one text a million times", student + _Repeated("<alias/>", kMany) + end, 1, 0, ""},
-      {"one list a million times", "<class>" + _Repeated("<student-list/>", kMany) + "</class>", 0, 0, ""},
-      {"many preferences", "<class>" + _Repeated("<preferences/>", kMany) + "</class>", 0, 0, ""},
-      {"many attributes", "<class" + _Numbered(" a", 100000, "=''") + "/>", 0, 0, ""},
-  };
-  for (const Row& row : rows) {
-    std::istringstream stream(row.document);
-    qz::ClassRecord record;
-    QZClassParseReport report;
-    EXPECT_TRUE(QZClassParse(&record, stream, &report)) << row.what << ": " << report.reason;
-    EXPECT_EQ(record.students.size(), row.students) << row.what;
-  }
-}
-
 TEST(HostileInput, EntitiesNeitherGrowNorNestWithoutBound) {
-  std::ostringstream laughs;
-  laughs << "<!DOCTYPE class [<!ENTITY e0 'haha'>";
+  std::string laughs = "<!DOCTYPE class [<!ENTITY e0 'haha'>";
   for (int i = 1; i <= 30; ++i) {
-    laughs << "<!ENTITY e" << i << " '" << _Repeated("&e" + std::to_string(i - 1) + ";", 10) << "'>";
+    laughs += "<!ENTITY e" + std::to_string(i) + " '";
+    for (int again = 0; again < 10; ++again) laughs += "&e" + std::to_string(i - 1) + ";";
+    laughs += "'>";
   }
-  laughs << "]><class><class-name>&e30;</class-name></class>";
+  laughs += "]><class><class-name>&e30;</class-name></class>";
 
-  std::ostringstream chain;
-  chain << "<!DOCTYPE class [<!ENTITY e0 'x'>";
-  for (int i = 1; i <= 100000; ++i) chain << "<!ENTITY e" << i << " '&e" << i - 1 << ";'>";
-  chain << "]><class><class-name>&e100000;</class-name></class>";
+  std::string chain = "<!DOCTYPE class [<!ENTITY e0 'x'>";
+  for (int i = 1; i <= 100000; ++i) {
+    chain += "<!ENTITY e" + std::to_string(i) + " '&e" + std::to_string(i - 1) + ";'>";
+  }
+  chain += "]><class><class-name>&e100000;</class-name></class>";
 
-  for (const std::string& document : {laughs.str(), chain.str()}) {
+  for (const std::string& document : {laughs, chain}) {
     std::istringstream stream(document);
     qz::ClassRecord record;
     QZClassParseReport report;

@@ -82,21 +82,17 @@ TEST(XmlTree, JoinsTheNodesOwnTexts) {
   EXPECT_EQ(_AllText(XmlTreeFindNode(root.get(), 2)), "inner");
 }
 
-struct Conversion {
-  const char *what, *utf8, *roman, *symbol;
-  bool romanComplete, symbolComplete;
-};
-
-const Conversion kConversions[] = {
-    {"ascii", "abc", "abc", "abc", true, true},
-    {"in both", "\xC3\xA9", "\x8E", "\xE9", true, true},
-    {"only in the 8-bit set", "a\xE2\x80\xA2z", "a\xA5z", "a?z", true, false},
-    {"in neither", "a\xE4\xB8\xADz", "a?z", "a?z", false, false},
-    {"invalid lead byte", "a\x80z", "a?z", "a?z", false, false},
-};
-
 TEST(XmlTree, ConvertsToEightBit) {
-  for (const Conversion& row : kConversions) {
+  const struct {
+    const char *what, *utf8, *roman, *symbol;
+    bool romanComplete, symbolComplete;
+  } rows[] = {
+      {"in both", "z\xC3\xA9", "z\x8E", "z\xE9", true, true},
+      {"only in the 8-bit set", "a\xE2\x80\xA2z", "a\xA5z", "a?z", true, false},
+      {"in neither", "a\xE4\xB8\xADz", "a?z", "a?z", false, false},
+      {"invalid lead byte", "a\x80z", "a?z", "a?z", false, false},
+  };
+  for (const auto& row : rows) {
     const Tree root = _NewRoot();
     _AddText(root.get(), row.utf8);
     bool complete = false;

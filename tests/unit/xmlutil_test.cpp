@@ -2,34 +2,23 @@
 
 #include <gtest/gtest.h>
 
-#include <cstring>
 #include <limits>
-#include <memory>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace {
 
-// A copy of exactly the text's size on the heap, so that a sanitizer build catches a read past its end.
-class HeapText {
- public:
-  explicit HeapText(const std::string& text) : m_bytes(new char[text.size() + 1]) {
-    std::memcpy(m_bytes.get(), text.c_str(), text.size() + 1);
-  }
-  operator const char*() const { return m_bytes.get(); }
+// A block of exactly the text's size on the heap, so that a sanitizer build catches a read past its end.
+std::vector<char> _OnHeap(const std::string& text) {
+  return {text.c_str(), text.c_str() + text.size() + 1};
+}
 
- private:
-  std::unique_ptr<char[]> m_bytes;
-};
-
-struct Decoded {
-  std::string text;
-  bool valid;
-  bool operator==(const Decoded&) const = default;
-};
+using Decoded = std::pair<std::string, bool>;  // the text, and whether it was valid
 
 Decoded _Decode(const std::string& source, int32_t size) {
   std::string destination(static_cast<size_t>(size > 0 ? size : 0) + 1, '#');
-  const bool valid = XmlUtf8DecodeString(destination.data(), size, HeapText(source));
+  const bool valid = XmlUtf8DecodeString(destination.data(), size, _OnHeap(source).data());
   return {destination.c_str(), valid};
 }
 
@@ -110,7 +99,7 @@ TEST(Utf8, EncodesAndDecodesBack) {
     EXPECT_EQ(buffer[length], '#');
     if (length == 0) continue;
     int32_t codePoint = -1;
-    EXPECT_EQ(XmlUtf8DecodeChar(&codePoint, HeapText(row.bytes)), length);
+    EXPECT_EQ(XmlUtf8DecodeChar(&codePoint, _OnHeap(row.bytes).data()), length);
     EXPECT_EQ(codePoint, row.codePoint);
   }
 }
@@ -137,12 +126,12 @@ TEST(Utf8, DecodesMalformedSequences) {
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.name);
-    const HeapText bytes(row.bytes);
+    const std::vector<char> bytes = _OnHeap(row.bytes);
     int32_t codePoint = kNotStored;
-    const int32_t length = XmlUtf8DecodeChar(&codePoint, bytes);
+    const int32_t length = XmlUtf8DecodeChar(&codePoint, bytes.data());
     EXPECT_EQ(length, row.length);
     EXPECT_EQ(codePoint, row.codePoint);
-    EXPECT_EQ(XmlUtf8Step(bytes, length), row.step);
+    EXPECT_EQ(XmlUtf8Step(bytes.data(), length), row.step);
   }
 }
 
@@ -168,7 +157,7 @@ TEST(Utf8, DecodesText) {
   for (const auto& row : rows) {
     SCOPED_TRACE(row.name);
     EXPECT_EQ(_Decode(row.source, row.size), row.expected);
-    EXPECT_EQ(XmlUtf8StrLen(HeapText(row.source)), row.characters);
+    EXPECT_EQ(XmlUtf8StrLen(_OnHeap(row.source).data()), row.characters);
   }
 }
 

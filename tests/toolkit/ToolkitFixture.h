@@ -46,6 +46,11 @@ enum DemoItem : int32_t {
 };
 inline constexpr int32_t kDemoDialog = 500;
 
+// The small dialogs, and the items of the one with three fields.
+inline constexpr int32_t kFields = 501, kNoTabStops = 502, kUnregistered = 503, kFloatingDialog = 504,
+                         kPaneItems = 505, kEveryType = 506;
+inline constexpr int32_t kFieldsOK = 1, kFieldsCancel = 2, kFirst = 3, kSecond = 4, kThird = 5;
+
 class ToolkitTest : public testing::Test {
  protected:
   void SetUp() override {
@@ -84,6 +89,13 @@ class ToolkitTest : public testing::Test {
     RunEventPass(0);
   }
 
+  static void Press(DLGRecord* dialog, int32_t item) {
+    QTest::mouseClick(Widget(dialog, item), Qt::LeftButton);
+  }
+
+  static void Type(DLGRecord* dialog, Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+    QTest::keyClick(Window(dialog), key, modifiers);
+  }
   static bool Key(DLGRecord* dialog, uint16_t character, uint16_t modifiers = 0) {
     return DLGHandleKey(dialog->window, character, modifiers);
   }
@@ -145,5 +157,21 @@ class ToolkitTest : public testing::Test {
   std::vector<DLGRecord*> m_opened;
   std::vector<int32_t> m_hits;
 };
+
+// One dialog that is open from the start.
+template <int32_t id, int32_t kind>
+class OpenDialogTest : public ToolkitTest {
+ protected:
+  void SetUp() override {
+    ToolkitTest::SetUp();
+    m_dialog = Open(id, kind);
+    ASSERT_NE(m_dialog, nullptr);
+  }
+
+  DLGRecord* m_dialog = nullptr;
+};
+
+using DemoTest = OpenDialogTest<kDemoDialog, kDLGModal>;
+using FieldsTest = OpenDialogTest<kFields, kDLGModeless>;
 
 #endif  // GRADIX_TESTS_TOOLKITFIXTURE_H

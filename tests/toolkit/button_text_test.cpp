@@ -15,14 +15,8 @@
 
 namespace {
 
-class ItemsTest : public ToolkitTest {
+class ItemsTest : public DemoTest {
  protected:
-  void SetUp() override {
-    ToolkitTest::SetUp();
-    m_dialog = Open(kDemoDialog);
-    ASSERT_NE(m_dialog, nullptr);
-  }
-
   bool Claims(int32_t item, uint16_t character, uint16_t modifiers = 0) {
     return SendDLGItemMessage(m_dialog, item, kDLGHotKey, DLGPackKey(character, modifiers)) != 0;
   }
@@ -36,8 +30,6 @@ class ItemsTest : public ToolkitTest {
     }
     return marked;
   }
-
-  DLGRecord* m_dialog = nullptr;
 };
 
 TEST_F(ItemsTest, DefaultAndCancelButtonsClaimTheirKeys) {
@@ -304,22 +296,6 @@ TEST_F(ItemsTest, DataIsReadAsFarAsItGoes) {
           row.procedure(m_dialog, row.item, kDLGCreate, reinterpret_cast<intptr_t>(data.data()), 0);
       m_dialog->dataEnd = nullptr;
       EXPECT_EQ(consumed, size < row.size ? -1 : static_cast<intptr_t>(row.size)) << row.item;
-    }
-  }
-}
-
-TEST_F(ItemsTest, TypesWithoutBehaviourAreHarmless) {
-  DLGRecord* const dialog = Open(506, kDLGModeless);
-  ASSERT_NE(dialog, nullptr);
-  for (int32_t item = 1; item <= dialog->itemCount; ++item) {
-    const int32_t type = GetItemType(dialog, item);
-    EXPECT_EQ(SendDLGItemMessage(dialog, item, kDLGGetControl),
-              reinterpret_cast<intptr_t>(DLGGetChildControl(dialog, item)))
-        << type;
-    if (type >= 1 && type <= 8 && type != 6) continue;
-    for (int32_t message = 1; message <= 50; ++message) {
-      if (message == kDLGGetControl) continue;
-      EXPECT_EQ(SendDLGItemMessage(dialog, item, message), 0) << type << " " << message;
     }
   }
 }

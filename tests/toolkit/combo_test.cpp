@@ -9,14 +9,8 @@
 
 namespace {
 
-class ComboTest : public ToolkitTest {
+class ComboTest : public DemoTest {
  protected:
-  void SetUp() override {
-    ToolkitTest::SetUp();
-    m_dialog = Open(kDemoDialog);
-    ASSERT_NE(m_dialog, nullptr);
-  }
-
   int32_t Insert(const char* text, int32_t position = kRowLast) {
     return CBInsertItem(m_dialog, kDemoCombo, text, position);
   }
@@ -31,8 +25,6 @@ class ComboTest : public ToolkitTest {
   intptr_t KeyAnswer(uint16_t character, uint16_t modifiers = 0) {
     return ItemKey(m_dialog, kDemoCombo, character, modifiers);
   }
-
-  DLGRecord* m_dialog = nullptr;
 };
 
 TEST_F(ComboTest, InsertsWhereThePositionSays) {

@@ -1,80 +1,24 @@
 // Creating dialogs: what a damaged or disagreeing resource does, the message order, panes and combined
 // dialogs.
-#include <QtTest/QTest>
-#include <fstream>
-#include <iterator>
 #include <sstream>
 
-#include "Platform/Core/ResourceFork.h"
 #include "Platform/Ui/HelpTags.h"
 #include "Toolkit/Buttons.h"
 #include "Toolkit/DLGRegister.h"
 #include "Toolkit/Toolkit.h"
 #include "ToolkitFixture.h"
-#include "tests/platform/fork_builder.h"
-#include "tests/platform/temp_folder.h"
+#include "tests/platform/open_fork.h"
 
 namespace {
 
-constexpr int32_t kFields = 501, kNoTabStops = 502, kUnregistered = 503, kFloatingDialog = 504,
-                  kPaneItems = 505, kEveryType = 506;
-
-std::string _ReadFile(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
+std::string _DescriptionsOf(int16_t id) {
+  const Handle resource = GetResource(FourCharCode("luDI"), id);
+  return {*resource, GetHandleSize(resource)};
 }
 
-// The test dialogs' resources, to be changed and opened in front of the originals.
-class ChangedResources {
- public:
-  ChangedResources() : m_fork(_ReadFile(std::string(TOOLKIT_RESOURCES).append("/cases.rsrc"))) {
-    const auto entries = ReadResourceFork(m_fork);
-    if (!entries) throw std::runtime_error("the test resources are damaged");
-    for (const ResourceEntry& entry : *entries) {
-      m_resources.emplace_back(entry.type,
-                               TestResource{entry.id, std::string(entry.data.begin(), entry.data.end())});
-    }
-  }
-  ChangedResources(const ChangedResources&) = delete;
-  ChangedResources& operator=(const ChangedResources&) = delete;
-  ~ChangedResources() { Close(); }
-
-  std::string& Data(const char (&type)[5], int16_t id) {
-    for (auto& [code, resource] : m_resources) {
-      if (code == FourCharCode(type) && resource.id == id) return resource.data;
-    }
-    ADD_FAILURE() << "no resource " << type << " " << id;
-    return m_fork;
-  }
-
-  void Open() {
-    Close();
-    TestTypes types;
-    for (const auto& [code, resource] : m_resources) {
-      const std::string type = BigEndian(code, 4);
-      if (types.empty() || types.back().first != type) types.push_back({type, {}});
-      types.back().second.push_back(resource);
-    }
-    FSRef file;
-    const std::string path =
-        m_folder.Write("changed" + std::to_string(m_opened++) + ".rsrc", BuildFork(types));
-    ASSERT_EQ(FSPathMakeRef(path.c_str(), &file, nullptr), noErr);
-    ASSERT_EQ(FSOpenResourceFile(&file, 0, nullptr, fsRdPerm, &m_refNum), noErr);
-    std::filesystem::remove(path);
-  }
-
-  void Close() {
-    if (m_refNum > 0) CloseResFile(m_refNum);
-    m_refNum = 0;
-  }
-
- private:
-  TempFolder m_folder;
-  std::string m_fork;
-  std::vector<std::pair<ResType, TestResource>> m_resources;
-  ResFileRefNum m_refNum = 0;
-  int m_opened = 0;
-};
+TestTypes _Descriptions(int16_t id, const std::string& data) {
+  return {{"luDI", {{id, data}}}};
+}
 
 size_t _CountWindows() {
   size_t count = 0;
@@ -82,7 +26,7 @@ size_t _CountWindows() {
   return count;
 }
 
-class Creation : public ToolkitTest {};
+using Creation = ToolkitTest;
 
 TEST_F(Creation, MissingResourcesAndUnregisteredTypes) {
   EXPECT_EQ(Open(9999), nullptr);
@@ -91,36 +35,26 @@ TEST_F(Creation, MissingResourcesAndUnregisteredTypes) {
   EXPECT_EQ(_CountWindows(), 0U);
 }
 
-TEST_F(Creation, EveryTruncatedDescriptionFailsCleanly) {
-  ChangedResources changed;
-  std::string& descriptions = changed.Data("luDI", kFields);
-  const std::string whole = descriptions;
+TEST_F(Creation, DescriptionsThatAreCutOrCountWronglyFailCleanly) {
+  const std::string whole = _DescriptionsOf(kFields);
   for (size_t length = 0; length < whole.size(); ++length) {
-    descriptions = whole.substr(0, length);
-    changed.Open();
+    const OpenFork changed(_Descriptions(kFields, whole.substr(0, length)));
     EXPECT_EQ(Open(kFields), nullptr) << "cut to " << length << " bytes";
   }
+  for (const char count : {'\0', '\x7', '\x9', '\xFF'}) {
+    std::string other = whole;
+    other[3] = count;
+    const OpenFork changed(_Descriptions(kFields, other));
+    EXPECT_EQ(Open(kFields), nullptr) << int{count};
+  }
   EXPECT_EQ(_CountWindows(), 0U);
-  descriptions = whole;
-  changed.Open();
   EXPECT_NE(Open(kFields), nullptr);
 }
 
-TEST_F(Creation, CountsThatDisagree) {
-  ChangedResources changed;
-  std::string& descriptions = changed.Data("luDI", kFields);
-  for (const char count : {'\0', '\x7', '\x9', '\xFF'}) {
-    descriptions[3] = count;
-    changed.Open();
-    EXPECT_EQ(Open(kFields), nullptr);
-  }
-}
-
 TEST_F(Creation, ADialogWithoutItemsIsEmpty) {
-  ChangedResources changed;
-  changed.Data("luDI", kNoTabStops) = std::string(4, '\0');
-  changed.Data("DITL", kNoTabStops) = "\xFF\xFF";
-  changed.Open();
+  TestTypes types = _Descriptions(kNoTabStops, std::string(4, '\0'));
+  types.push_back({"DITL", {{kNoTabStops, "\xFF\xFF"}}});
+  const OpenFork changed(types);
   const DLGRecord* dialog = Open(kNoTabStops);
   ASSERT_NE(dialog, nullptr);
   EXPECT_EQ(dialog->itemCount, 0);
@@ -131,6 +65,15 @@ TEST_F(Creation, EveryTypeIsCreatedAndDisposed) {
   ASSERT_NE(dialog, nullptr);
   EXPECT_EQ(dialog->itemCount, numRegisterItems);
   for (int32_t item = 1; item <= dialog->itemCount; ++item) {
+    const int32_t type = GetItemType(dialog, item);
+    EXPECT_EQ(SendDLGItemMessage(dialog, item, kDLGGetControl),
+              reinterpret_cast<intptr_t>(DLGGetChildControl(dialog, item)))
+        << type;
+    const bool hasBehaviour = type >= 1 && type <= 8 && type != 6;
+    for (int32_t message = 1; message <= 50 && !hasBehaviour; ++message) {
+      if (message == kDLGGetControl) continue;
+      EXPECT_EQ(SendDLGItemMessage(dialog, item, message), 0) << type << " " << message;
+    }
     SetText(dialog, item, "Text", true);
     GetText(dialog, item);
     Key(dialog, kTabChar);
@@ -148,22 +91,12 @@ TEST_F(Creation, TheHeader) {
   EXPECT_FALSE(IsWindowVisible(dialog->window));
   EXPECT_EQ(dialog->parent, parent->window);
   EXPECT_EQ(parent->parent, nullptr);
-  EXPECT_EQ(dialog->kind, kDLGModal);
-  EXPECT_EQ(dialog->resourceID, kDemoDialog);
   EXPECT_EQ(dialog->userValue, 77);
   EXPECT_EQ(dialog->marker, 165);
   EXPECT_EQ(dialog->flags, kDLGNew);
-  EXPECT_EQ(dialog->itemCount, 22);
   EXPECT_EQ(dialog->itemCapacity, 22);
-  EXPECT_EQ(dialog->focusItem, -1);
-  EXPECT_EQ(dialog->trackingItem, -1);
-  EXPECT_EQ(dialog->defaultButton, kDemoOK);
-  EXPECT_EQ(dialog->cancelItem, kDemoCancel);
-  EXPECT_EQ(DLGFromHwnd(dialog->window), dialog);
   EXPECT_EQ(GetWRefCon(dialog->window), DLGInstance());
-  EXPECT_TRUE(DLGIsOpen(kDemoDialog));
   DisposeDLG(dialog);
-  EXPECT_FALSE(DLGIsOpen(kDemoDialog));
 }
 
 TEST_F(Creation, AHelpTagIsInstalled) {
@@ -196,13 +129,11 @@ class MessageOrder : public Creation {
     DLGRegisterItem(kType, _LoggingProc);
     _Log().clear();
     gFailingItem = 0;
-    std::string& descriptions = m_changed.Data("luDI", kNoTabStops);
     const std::string item = BigEndian(kType, 4) + BigEndian(kDLGEnabled | kDLGVisible, 4);
-    descriptions = BigEndian(2, 4) + item + item;
-    m_changed.Open();
+    m_changed.emplace(_Descriptions(kNoTabStops, BigEndian(2, 4) + item + item));
   }
 
-  ChangedResources m_changed;
+  std::optional<OpenFork> m_changed;
 };
 
 TEST_F(MessageOrder, CreationAndDisposal) {
@@ -271,13 +202,6 @@ TEST_F(Creation, AnOwnedDialogStaysUntilItsOwnerEndsIt) {
   DLGReleaseOwned(dialog);
   EXPECT_FALSE(IsValidWindow(window));
   EXPECT_FALSE(DialogIsValid(dialog));
-}
-
-TEST_F(Creation, FloatingDialogsLieAboveOthers) {
-  DLGRecord* fields = Open(kFields, kDLGModeless);
-  DLGRecord* floating = Open(kFloatingDialog, kDLGFloating);
-  EXPECT_EQ(FrontWindow(), floating->window);
-  EXPECT_EQ(FrontNonFloatingWindow(), fields->window);
 }
 
 }  // namespace

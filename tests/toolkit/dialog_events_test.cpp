@@ -13,26 +13,8 @@ namespace {
 
 using Hits = std::vector<int32_t>;
 
-constexpr int32_t kFields = 501, kNoTabStops = 502, kFloatingDialog = 504;
-constexpr int32_t kFieldsOK = 1, kFieldsCancel = 2, kFirst = 3, kSecond = 4, kThird = 5;
-
-class Events : public ToolkitTest {
- protected:
-  static void Press(DLGRecord* dialog, int32_t item) {
-    QTest::mouseClick(Widget(dialog, item), Qt::LeftButton);
-  }
-  static void Type(DLGRecord* dialog, Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-    QTest::keyClick(Window(dialog), key, modifiers);
-  }
-};
-
-TEST_F(Events, PressingAButton) {
-  DLGRecord* dialog = Open(kDemoDialog);
-  Press(dialog, kDemoSelectAll);
-  EXPECT_EQ(TakeHits(), Hits{kDemoSelectAll});
-  EXPECT_EQ(dialog->focusItem, kDemoSelectAll);
-  EXPECT_EQ(dialog->trackingItem, -1);
-}
+using Events = FieldsTest;
+using Order = ToolkitTest;
 
 TEST_F(Events, DisabledHiddenAndSilentItems) {
   DLGRecord* dialog = Open(kDemoDialog);
@@ -47,45 +29,43 @@ TEST_F(Events, DisabledHiddenAndSilentItems) {
   EnableDLGItem(dialog, kDemoSelectAll, true);
   Press(dialog, kDemoSelectAll);
   EXPECT_EQ(TakeHits(), Hits{kDemoSelectAll});
+  EXPECT_EQ(dialog->focusItem, kDemoSelectAll);
 }
 
 TEST_F(Events, TabGoesAround) {
-  DLGRecord* dialog = Open(kFields, kDLGModeless);
-  ASSERT_TRUE(SetFocusDLG(dialog, kFirst));
+  ASSERT_TRUE(SetFocusDLG(m_dialog, kFirst));
   Hits order;
   for (int i = 0; i < 5; ++i) {
-    Type(dialog, Qt::Key_Tab);
-    order.push_back(dialog->focusItem);
+    Type(m_dialog, Qt::Key_Tab);
+    order.push_back(m_dialog->focusItem);
   }
   EXPECT_EQ(order, (Hits{kSecond, kThird, kFieldsOK, kFieldsCancel, kFirst}));
-  SetFocusDLG(dialog, kFieldsOK);
-  Type(dialog, Qt::Key_Backtab, Qt::ShiftModifier);
-  EXPECT_EQ(dialog->focusItem, kThird);
-  EXPECT_TRUE(Widget(dialog, kThird)->hasFocus()) << "the focus is visible";
+  SetFocusDLG(m_dialog, kFieldsOK);
+  Type(m_dialog, Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_EQ(m_dialog->focusItem, kThird);
+  EXPECT_TRUE(Widget(m_dialog, kThird)->hasFocus()) << "the focus is visible";
   EXPECT_EQ(TakeHits(), Hits{});
 }
 
 TEST_F(Events, TabWithoutStopsAndFromNowhere) {
+  EXPECT_FALSE(Key(m_dialog, kTabChar)) << "reported as not handled";
+  EXPECT_EQ(m_dialog->focusItem, kFieldsOK);
   DLGRecord* dialog = Open(kNoTabStops);
   Type(dialog, Qt::Key_Tab);
   EXPECT_EQ(dialog->focusItem, -1);
-  DLGRecord* fields = Open(kFields, kDLGModeless);
-  EXPECT_FALSE(Key(fields, kTabChar)) << "reported as not handled";
-  EXPECT_EQ(fields->focusItem, kFieldsOK);
 }
 
 TEST_F(Events, ReturnMovesTheFocusWhereNoButtonClaimsIt) {
-  DLGRecord* dialog = Open(kFields, kDLGModeless);
-  BTSetDefButton(dialog, -1);
-  SetFocusDLG(dialog, kFirst);
-  Type(dialog, Qt::Key_Return);
-  EXPECT_EQ(dialog->focusItem, kSecond);
-  Type(dialog, Qt::Key_Return, Qt::ControlModifier);
-  EXPECT_EQ(dialog->focusItem, kSecond);
-  BTSetDefButton(dialog, kFieldsOK);
-  Type(dialog, Qt::Key_Return);
+  BTSetDefButton(m_dialog, -1);
+  SetFocusDLG(m_dialog, kFirst);
+  Type(m_dialog, Qt::Key_Return);
+  EXPECT_EQ(m_dialog->focusItem, kSecond);
+  Type(m_dialog, Qt::Key_Return, Qt::ControlModifier);
+  EXPECT_EQ(m_dialog->focusItem, kSecond);
+  BTSetDefButton(m_dialog, kFieldsOK);
+  Type(m_dialog, Qt::Key_Return);
   EXPECT_EQ(TakeHits(), Hits{kFieldsOK});
-  Type(dialog, Qt::Key_Escape);
+  Type(m_dialog, Qt::Key_Escape);
   EXPECT_EQ(TakeHits(), Hits{kFieldsCancel});
 }
 
@@ -104,66 +84,61 @@ TEST_F(Events, TheFocusIsRefusedAndAskedFor) {
 }
 
 TEST_F(Events, AFocusChangeIsReported) {
-  static std::vector<std::pair<intptr_t, int32_t>> s_changes;
-  s_changes.clear();
-  DLGRecord* dialog = Open(kFields, kDLGModeless);
-  dialog->event = [](DLGRecord*, int32_t event, intptr_t param1, intptr_t) -> intptr_t {
-    s_changes.emplace_back(param1, event);
+  static std::vector<std::pair<intptr_t, int32_t>> gChanges;
+  gChanges.clear();
+  m_dialog->event = [](DLGRecord*, int32_t event, intptr_t param1, intptr_t) -> intptr_t {
+    gChanges.emplace_back(param1, event);
     return 0;
   };
-  SetFocusDLG(dialog, kFirst);
-  SetFocusDLG(dialog, kThird);
-  SetFocusDLG(dialog, kThird);
-  SetFocusDLG(dialog, -3);
-  ASSERT_EQ(s_changes.size(), 3U);
-  EXPECT_EQ(s_changes[1], (std::pair<intptr_t, int32_t>{(kThird << 16) | kFirst, 2}));
-  EXPECT_EQ(dialog->focusItem, 0);
+  SetFocusDLG(m_dialog, kFirst);
+  SetFocusDLG(m_dialog, kThird);
+  SetFocusDLG(m_dialog, kThird);
+  SetFocusDLG(m_dialog, -3);
+  ASSERT_EQ(gChanges.size(), 3U);
+  EXPECT_EQ(gChanges[1], (std::pair<intptr_t, int32_t>{(kThird << 16) | kFirst, 2}));
+  EXPECT_EQ(m_dialog->focusItem, 0);
 }
 
 TEST_F(Events, TypingIntoAField) {
-  DLGRecord* dialog = Open(kFields, kDLGModeless);
-  SetFocusDLG(dialog, kFirst);
-  QTest::keyClicks(Widget(dialog, kFirst), "Ann");
-  EXPECT_STREQ(GetText(dialog, kFirst), "Ann");
+  SetFocusDLG(m_dialog, kFirst);
+  QTest::keyClicks(Widget(m_dialog, kFirst), "Ann");
+  EXPECT_STREQ(GetText(m_dialog, kFirst), "Ann");
   EXPECT_EQ(TakeHits(), (Hits{kFirst, kFirst, kFirst}));
-  Type(dialog, Qt::Key_Left);
-  Type(dialog, Qt::Key_Backspace);
-  EXPECT_STREQ(GetText(dialog, kFirst), "An");
+  Type(m_dialog, Qt::Key_Left);
+  Type(m_dialog, Qt::Key_Backspace);
+  EXPECT_STREQ(GetText(m_dialog, kFirst), "An");
 }
 
 TEST_F(Events, Texts) {
-  DLGRecord* dialog = Open(kFields, kDLGModeless);
-  static int s_sets;
-  s_sets = 0;
-  static DLGItemProc s_original;
-  s_original = DLGFindItem(dialog, kFirst)->procedure;
-  SetItemProc(dialog, kFirst,
+  static int gSets;
+  gSets = 0;
+  static const DLGItemProc gOriginal = DLGFindItem(m_dialog, kFirst)->procedure;
+  SetItemProc(m_dialog, kFirst,
               [](DLGRecord* d, int32_t item, int32_t message, intptr_t a, intptr_t b) -> intptr_t {
-                s_sets += message == kDLGSetText;
-                return s_original(d, item, message, a, b);
+                gSets += message == kDLGSetText;
+                return gOriginal(d, item, message, a, b);
               });
-  SetText(dialog, kFirst, "Jos\x8E", true);
-  SetText(dialog, kFirst, "Jos\x8E", true);
-  EXPECT_EQ(s_sets, 1) << "a text that is shown already is not set";
-  EXPECT_STREQ(GetText(dialog, kFirst), "Jos\x8E");
-  SetText(dialog, kFirst, nullptr, true);
-  EXPECT_STREQ(GetText(dialog, kFirst), "");
-  EXPECT_STREQ(GetText(dialog, 0), "");
-  EXPECT_STREQ(GetText(dialog, 99), "");
-  SetFocusDLG(dialog, kThird);
+  SetText(m_dialog, kFirst, "Jos\x8E", true);
+  SetText(m_dialog, kFirst, "Jos\x8E", true);
+  EXPECT_EQ(gSets, 1) << "a text that is shown already is not set";
+  EXPECT_STREQ(GetText(m_dialog, kFirst), "Jos\x8E");
+  SetText(m_dialog, kFirst, nullptr, true);
+  EXPECT_STREQ(GetText(m_dialog, kFirst), "");
+  EXPECT_STREQ(GetText(m_dialog, 0), "");
+  EXPECT_STREQ(GetText(m_dialog, 99), "");
+  SetFocusDLG(m_dialog, kThird);
   const std::string longText(1500, 'x');
-  SetText(dialog, kThird, longText.c_str(), true);
-  EXPECT_EQ(std::string(dialog->focusText), std::string(1024, 'x'));
-  EXPECT_EQ(std::string(GetText(dialog, kThird)), std::string(1000, 'x'));
+  SetText(m_dialog, kThird, longText.c_str(), true);
+  EXPECT_EQ(std::string(m_dialog->focusText), std::string(1024, 'x'));
+  EXPECT_EQ(std::string(GetText(m_dialog, kThird)), std::string(1000, 'x'));
 }
 
 TEST_F(Events, ShortenedTexts) {
-  DLGRecord* dialog = Open(kFields, kDLGModeless);
   std::string text;
   for (int i = 0; i < 300; ++i) text += static_cast<char>('a' + i % 26);
   const auto shortened = [&](int32_t where) {
-    TruncDLGItem(dialog, kThird, text.c_str(), where, true);
-    return std::string(GetText(dialog, kThird));
+    TruncDLGItem(m_dialog, kThird, text.c_str(), where, true);
+    return std::string(GetText(m_dialog, kThird));
   };
   const auto endsWith = [](const std::string& whole, const std::string& end) {
     return whole.size() >= end.size() && whole.compare(whole.size() - end.size(), end.size(), end) == 0;
@@ -180,33 +155,32 @@ TEST_F(Events, ShortenedTexts) {
   const std::string end = shortened(kTruncStart);
   EXPECT_EQ(end[0], '\xC9');
   EXPECT_TRUE(endsWith(used, end.substr(1)));
-  const int32_t width = DLGMeasureItem(dialog, kThird, end.c_str()) & 0xFFFF;
+  const int32_t width = DLGMeasureItem(m_dialog, kThird, end.c_str()) & 0xFFFF;
   EXPECT_LT(width, 230);
-  EXPECT_GE(DLGMeasureItem(dialog, kThird, ("xx" + end).c_str()) & 0xFFFF, 230) << "no shorter than needed";
-  TruncDLGItem(dialog, kThird, "fits", kTruncMiddle, true);
-  EXPECT_STREQ(GetText(dialog, kThird), "fits");
-  EXPECT_EQ(DLGMeasureItem(dialog, kThird, nullptr), DLGMeasureItem(dialog, kThird, "fits"));
-  EXPECT_EQ(DLGMeasureItem(dialog, 0, "x"), 0);
+  EXPECT_GE(DLGMeasureItem(m_dialog, kThird, ("xx" + end).c_str()) & 0xFFFF, 230) << "no shorter than needed";
+  TruncDLGItem(m_dialog, kThird, "fits", kTruncMiddle, true);
+  EXPECT_STREQ(GetText(m_dialog, kThird), "fits");
+  EXPECT_EQ(DLGMeasureItem(m_dialog, kThird, nullptr), DLGMeasureItem(m_dialog, kThird, "fits"));
+  EXPECT_EQ(DLGMeasureItem(m_dialog, 0, "x"), 0);
 }
 
 TEST_F(Events, TheFocusReturnsToAnItemThatReturns) {
-  DLGRecord* dialog = Open(kFields, kDLGModeless);
   const auto typed = [&](const char* text) {
-    QTest::keyClicks(Window(dialog)->focusWidget(), text);
-    return std::string(GetText(dialog, kFirst));
+    QTest::keyClicks(Window(m_dialog)->focusWidget(), text);
+    return std::string(GetText(m_dialog, kFirst));
   };
-  SetFocusDLG(dialog, kFirst);
+  SetFocusDLG(m_dialog, kFirst);
   EXPECT_EQ(typed("a"), "a");
-  EnableDLGItem(dialog, kFirst, false);
+  EnableDLGItem(m_dialog, kFirst, false);
   EXPECT_EQ(typed("b"), "a");
-  HideDLGItem(dialog, kFirst, true);
-  EnableDLGItem(dialog, kFirst, true);
+  HideDLGItem(m_dialog, kFirst, true);
+  EnableDLGItem(m_dialog, kFirst, true);
   EXPECT_EQ(typed("c"), "a");
-  ShowDLGItem(dialog, kFirst, true);
+  ShowDLGItem(m_dialog, kFirst, true);
   EXPECT_EQ(typed("d"), "ad");
-  HideDLGItem(dialog, kFirst, true);
-  SetFocusDLG(dialog, kSecond);
-  ShowDLGItem(dialog, kFirst, true);
+  HideDLGItem(m_dialog, kFirst, true);
+  SetFocusDLG(m_dialog, kSecond);
+  ShowDLGItem(m_dialog, kFirst, true);
   EXPECT_EQ(typed("e"), "ad") << "it went elsewhere meanwhile";
 }
 
@@ -230,22 +204,22 @@ enum class Way { kClick, kHotKey, kFocus, kTimer, kAccessibility };
 
 class ClosingFrom : public Events, public testing::WithParamInterface<Way> {
  protected:
-  void Cause(DLGRecord* dialog) {
+  void Cause() {
     switch (GetParam()) {
-      case Way::kClick: Press(dialog, kFieldsOK); break;
-      case Way::kHotKey: Type(dialog, Qt::Key_Return); break;
+      case Way::kClick: Press(m_dialog, kFieldsOK); break;
+      case Way::kHotKey: Type(m_dialog, Qt::Key_Return); break;
       case Way::kFocus:
-        dialog->event = [](DLGRecord* d, int32_t, intptr_t, intptr_t) -> intptr_t {
+        m_dialog->event = [](DLGRecord* d, int32_t, intptr_t, intptr_t) -> intptr_t {
           return DLGNotifyChange(d, kFieldsOK) ? 1 : 0;
         };
-        SetFocusDLG(dialog, kFirst);
+        SetFocusDLG(m_dialog, kFirst);
         break;
       case Way::kTimer:
-        DLGRegisterTimer(dialog, kFieldsOK, 1);
+        DLGRegisterTimer(m_dialog, kFieldsOK, 1);
         Wait(20);
         break;
       case Way::kAccessibility:
-        QAccessible::queryAccessibleInterface(Widget(dialog, kFieldsOK))
+        QAccessible::queryAccessibleInterface(Widget(m_dialog, kFieldsOK))
             ->actionInterface()
             ->doAction(QAccessibleActionInterface::pressAction());
         Wait(20);  // the press is shown for a moment
@@ -255,29 +229,25 @@ class ClosingFrom : public Events, public testing::WithParamInterface<Way> {
 };
 
 TEST_P(ClosingFrom, TheDialogCloses) {
-  DLGRecord* dialog = Open(kFields, kDLGModeless);
   onHit = [](DLGRecord* d, int32_t) { MyCloseDialog(d); };
-  Cause(dialog);
+  Cause();
   EXPECT_EQ(TakeHits(), Hits{kFieldsOK});
-  EXPECT_FALSE(DialogIsValid(dialog));
-  EXPECT_FALSE(DLGIsOpen(kFields));
+  EXPECT_FALSE(DialogIsValid(m_dialog) || DLGIsOpen(kFields));
   EXPECT_EQ(closeCount, 1);
 }
 
 TEST_P(ClosingFrom, TheDialogClosesAndAnotherOfTheSameIdOpens) {
-  DLGRecord* dialog = Open(kFields, kDLGModeless);
   onHit = [this](DLGRecord* d, int32_t) {
     onHit = nullptr;
     MyCloseDialog(d);
     Open(kFields, kDLGModeless);
   };
-  Cause(dialog);
+  Cause();
   EXPECT_EQ(TakeHits(), Hits{kFieldsOK});
   EXPECT_TRUE(DLGIsOpen(kFields));
 }
 
 TEST_P(ClosingFrom, AModalDialogRunsMeanwhile) {
-  DLGRecord* dialog = Open(kFields, kDLGModeless);
   onHit = [this](DLGRecord*, int32_t) {
     onHit = [](DLGRecord* d, int32_t) { MyCloseDialog(d); };
     DLGRecord* modal = Open(kDemoDialog);
@@ -285,10 +255,10 @@ TEST_P(ClosingFrom, AModalDialogRunsMeanwhile) {
     ModalDLG(modal);
     EXPECT_FALSE(DialogIsValid(modal));
   };
-  Cause(dialog);
+  Cause();
   EXPECT_EQ(TakeHits(), (Hits{kFieldsOK, kDemoCancel}));
-  EXPECT_TRUE(DialogIsValid(dialog));
-  EXPECT_EQ(GetPort(), dialog->window);
+  EXPECT_TRUE(DialogIsValid(m_dialog));
+  EXPECT_EQ(GetPort(), m_dialog->window);
 }
 
 INSTANTIATE_TEST_SUITE_P(Ways, ClosingFrom,
@@ -296,17 +266,16 @@ INSTANTIATE_TEST_SUITE_P(Ways, ClosingFrom,
                                          Way::kAccessibility));
 
 TEST_F(Events, AVetoKeepsTheDialog) {
-  DLGRecord* dialog = Open(kFields, kDLGModeless);
   mayClose = false;
-  EXPECT_FALSE(MyCloseDialog(dialog));
-  EXPECT_TRUE(DialogIsValid(dialog));
+  EXPECT_FALSE(MyCloseDialog(m_dialog));
+  EXPECT_TRUE(DialogIsValid(m_dialog));
   EXPECT_FALSE(MyCloseDialog(nullptr));
   mayClose = true;
-  EXPECT_TRUE(MyCloseDialog(dialog));
-  EXPECT_FALSE(MyCloseDialog(dialog)) << "a dialog that is gone";
+  EXPECT_TRUE(MyCloseDialog(m_dialog));
+  EXPECT_FALSE(MyCloseDialog(m_dialog)) << "a dialog that is gone";
 }
 
-TEST_F(Events, ClosingAll) {
+TEST_F(Order, ClosingAll) {
   onHit = [](DLGRecord* d, int32_t item) {
     if (item == d->cancelItem) MyCloseDialog(d);
   };
@@ -319,7 +288,7 @@ TEST_F(Events, ClosingAll) {
   EXPECT_FALSE(DialogIsValid(front) || DialogIsValid(back) || IsValidWindow(plain));
 }
 
-TEST_F(Events, ClosingAllStopsAtTheFirstRefusal) {
+TEST_F(Order, ClosingAllStopsAtTheFirstRefusal) {
   DLGRecord* back = Open(kNoTabStops, kDLGModeless);
   Open(kFields, kDLGModeless);  // nothing closes it on Cancel
   EXPECT_FALSE(CloseAllDialogs());
@@ -327,13 +296,12 @@ TEST_F(Events, ClosingAllStopsAtTheFirstRefusal) {
 }
 
 TEST_F(Events, ClosingTheWindowPressesCancel) {
-  DLGRecord* dialog = Open(kFields, kDLGModeless);
-  EXPECT_FALSE(Window(dialog)->close());
+  EXPECT_FALSE(Window(m_dialog)->close());
   EXPECT_EQ(TakeHits(), Hits{kFieldsCancel});
-  EXPECT_TRUE(DialogIsValid(dialog)) << "the owner decides";
+  EXPECT_TRUE(DialogIsValid(m_dialog)) << "the owner decides";
   onHit = [](DLGRecord* d, int32_t) { MyCloseDialog(d); };
-  EXPECT_TRUE(Window(dialog)->close()) << "nothing keeps the application from quitting";
-  EXPECT_FALSE(DialogIsValid(dialog));
+  EXPECT_TRUE(Window(m_dialog)->close()) << "nothing keeps the application from quitting";
+  EXPECT_FALSE(DialogIsValid(m_dialog));
 }
 
 // An item that ends its dialog, or throws, when it gets a certain message.
@@ -374,43 +342,41 @@ TEST_F(Unruly, NothingReadsADialogThatAnItemEnded) {
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.name);
-    DLGRecord* dialog = Open(kFields, kDLGModeless);
-    SetFocusDLG(dialog, kFirst);
-    Teach(dialog, kFirst, row.message, [](DLGRecord* d) { DisposeDLG(d); });
-    row.cause(dialog);
-    EXPECT_FALSE(DialogIsValid(dialog)) << "message " << row.message;
+    SetFocusDLG(m_dialog, kFirst);
+    Teach(m_dialog, kFirst, row.message, [](DLGRecord* d) { DisposeDLG(d); });
+    row.cause(m_dialog);
+    EXPECT_FALSE(DialogIsValid(m_dialog)) << "message " << row.message;
+    m_dialog = Open(kFields, kDLGModeless);
   }
 }
 
 TEST_F(Unruly, ADialogWorksAfterAnItemThrew) {
-  DLGRecord* dialog = Open(kFields, kDLGModeless);
-  const DLGItemProc procedure = DLGFindItem(dialog, kFieldsCancel)->procedure;
+  const DLGItemProc procedure = DLGFindItem(m_dialog, kFieldsCancel)->procedure;
   for (const int32_t message : {kDLGFocus, kDLGMouseDown, kDLGMouseStillDown, kDLGMouseUp}) {
-    SetFocusDLG(dialog, kFirst);
-    Teach(dialog, kFieldsCancel, message, [](DLGRecord*) { throw 1; });
-    QWidget* const button = Widget(dialog, kFieldsCancel);
+    SetFocusDLG(m_dialog, kFirst);
+    Teach(m_dialog, kFieldsCancel, message, [](DLGRecord*) { throw 1; });
+    QWidget* const button = Widget(m_dialog, kFieldsCancel);
     QTimer::singleShot(50, button, [button] { QTest::mouseRelease(button, Qt::LeftButton); });
     QTest::mousePress(button, Qt::LeftButton);
     Wait(6);
     EXPECT_EQ(focusType, 0) << "message " << message;
-    SetItemProc(dialog, kFieldsCancel, procedure);
-    Press(dialog, kFieldsOK);
+    SetItemProc(m_dialog, kFieldsCancel, procedure);
+    Press(m_dialog, kFieldsOK);
     EXPECT_EQ(TakeHits(), Hits{kFieldsOK}) << "message " << message;
-    EXPECT_EQ(dialog->trackingItem, -1) << "message " << message;
+    EXPECT_EQ(m_dialog->trackingItem, -1) << "message " << message;
   }
 }
 
 TEST_F(Events, AClickBehindAModalDialogBeeps) {
-  DLGRecord* fields = Open(kFields, kDLGModeless);
   DLGRecord* demo = Open(kDemoDialog);
   const uint32_t beeps = GetBeepCount();
-  Press(fields, kFieldsOK);
+  Press(m_dialog, kFieldsOK);
   EXPECT_EQ(GetBeepCount(), beeps + 1);
   EXPECT_EQ(TakeHits(), Hits{});
   EXPECT_EQ(FrontWindow(), demo->window);
 }
 
-TEST_F(Events, AClickIntoAWindowBehindOnlySelectsIt) {
+TEST_F(Order, AClickIntoAWindowBehindOnlySelectsIt) {
   DLGRecord* back = Open(kNoTabStops, kDLGModeless);
   EnableDLGItem(back, 2, true);
   DLGRecord* front = Open(kFields, kDLGModeless);
@@ -422,7 +388,7 @@ TEST_F(Events, AClickIntoAWindowBehindOnlySelectsIt) {
   EXPECT_EQ(TakeHits(), Hits{2});
 }
 
-TEST_F(Events, FloatingWindowsTakeClicksAndHotKeys) {
+TEST_F(Order, FloatingWindowsTakeClicksAndHotKeys) {
   DLGRecord* floating = Open(kFloatingDialog, kDLGFloating);
   DLGRecord* fields = Open(kFields, kDLGModeless);
   BTSetDefButton(floating, 1);
@@ -437,19 +403,17 @@ TEST_F(Events, FloatingWindowsTakeClicksAndHotKeys) {
 }
 
 TEST_F(Events, Timers) {
-  DLGRecord* dialog = Open(kFields, kDLGModeless);
-  for (int i = 0; i < 10; ++i) EXPECT_TRUE(DLGRegisterTimer(dialog, kFirst, 100000));
-  EXPECT_FALSE(DLGRegisterTimer(dialog, kFirst, 1));
-  dialog->timers[4] = {kSecond, TickCount()};
-  EXPECT_TRUE(Key(dialog, 'x')) << "a timer that is due takes the key";
+  for (int i = 0; i < 10; ++i) EXPECT_TRUE(DLGRegisterTimer(m_dialog, kFirst, 100000));
+  EXPECT_FALSE(DLGRegisterTimer(m_dialog, kFirst, 1));
+  m_dialog->timers[4] = {kSecond, TickCount()};
+  EXPECT_TRUE(Key(m_dialog, 'x')) << "a timer that is due takes the key";
   EXPECT_EQ(TakeHits(), Hits{kSecond});
-  EXPECT_EQ(dialog->timerCount, 9);
+  EXPECT_EQ(m_dialog->timerCount, 9);
 }
 
 TEST_F(Events, TimersGoOnAfterOneThrewAndWhileOneRunsTheEventLoop) {
-  DLGRecord* dialog = Open(kFields, kDLGModeless);
-  const auto register3 = [dialog] {
-    for (const int32_t item : {kFirst, kSecond, kThird}) DLGRegisterTimer(dialog, item, 1);
+  const auto register3 = [this] {
+    for (const int32_t item : {kFirst, kSecond, kThird}) DLGRegisterTimer(m_dialog, item, 1);
   };
   onHit = [](DLGRecord*, int32_t item) {
     if (item == kFirst) throw 1;
@@ -471,12 +435,11 @@ TEST_F(Events, TimersGoOnAfterOneThrewAndWhileOneRunsTheEventLoop) {
 }
 
 TEST_F(Events, ModalRunningEndsWithTheLastDialogOfTheId) {
-  DLGRecord* first = Open(kFields, kDLGModeless);
   DLGRecord* second = Open(kFields, kDLGModeless);
-  QTimer::singleShot(10, [=] { MyCloseDialog(first); });
+  QTimer::singleShot(10, [this] { MyCloseDialog(m_dialog); });
   QTimer::singleShot(60, [=] { MyCloseDialog(second); });
-  ModalDLG(first);
-  EXPECT_FALSE(DialogIsValid(first) || DialogIsValid(second));
+  ModalDLG(m_dialog);
+  EXPECT_FALSE(DialogIsValid(m_dialog) || DialogIsValid(second));
   DLGRecord* third = Open(kFields, kDLGModeless);
   gDone = true;
   ModalDLG(third);  // returns at once
@@ -485,12 +448,11 @@ TEST_F(Events, ModalRunningEndsWithTheLastDialogOfTheId) {
 }
 
 TEST_F(Events, TheDialogGoesWhileItsButtonIsHeld) {
-  DLGRecord* dialog = Open(kFields, kDLGModeless);
-  QWidget* button = Widget(dialog, kFieldsOK);
-  QTimer::singleShot(50, [=] { DisposeDLG(dialog); });
+  QWidget* button = Widget(m_dialog, kFieldsOK);
+  QTimer::singleShot(50, [this] { DisposeDLG(m_dialog); });
   QTest::mousePress(button, Qt::LeftButton);
   Wait(12);
-  EXPECT_FALSE(DialogIsValid(dialog));
+  EXPECT_FALSE(DialogIsValid(m_dialog));
   EXPECT_EQ(TakeHits(), Hits{});
 }
 

@@ -12,19 +12,16 @@
 
 namespace {
 
-constexpr int32_t kFields = 501, kFloatingDialog = 504, kPlaceholder = 900;
-constexpr int32_t kFirst = 3;
+constexpr int32_t kPlaceholder = 900;
 
-class State : public ToolkitTest {
+class State : public FieldsTest {
  protected:
   // Answers the next message box and gives what it said.
   static QString AnswerAlert(const std::function<void()>& show) {
     QString text;
     QTimer::singleShot(20, [&text] {
-      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-      if (box == nullptr) return;
-      text = box->text();
-      gestures::PressTitled(box, box->buttons().front()->text());
+      text = gestures::MessageBox()->text();
+      gestures::PressTitled(gestures::MessageBox(), "OK");
     });
     show();
     return text;
@@ -32,35 +29,31 @@ class State : public ToolkitTest {
 };
 
 TEST_F(State, ShowingHidingAndCentring) {
-  DLGRecord* dialog = Open(kFields, kDLGModeless);
-  EXPECT_TRUE(IsWindowVisible(dialog->window));
-  HideDLG(dialog);
-  EXPECT_FALSE(IsWindowVisible(dialog->window));
-  CenterDLG(dialog);
-  const Rect bounds = GetWindowScreenBounds(dialog->window);
+  HideDLG(m_dialog);
+  EXPECT_FALSE(IsWindowVisible(m_dialog->window));
+  CenterDLG(m_dialog);
+  const Rect bounds = GetWindowScreenBounds(m_dialog->window);
   const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
   EXPECT_NEAR((bounds.left + bounds.right) / 2, screen.center().x(), 20);
-  ShowDLG(dialog);
-  EXPECT_TRUE(IsWindowVisible(dialog->window));
-  EXPECT_TRUE(IsWindowHilited(dialog->window));
+  ShowDLG(m_dialog);
+  EXPECT_TRUE(IsWindowVisible(m_dialog->window));
+  EXPECT_TRUE(IsWindowHilited(m_dialog->window));
 }
 
 TEST_F(State, AModalDialogTakesTheOthersActivityAndCollapseBoxes) {
-  DLGRecord* fields = Open(kFields, kDLGModeless);
   DLGRecord* floating = Open(kFloatingDialog, kDLGFloating);
-  ChangeWindowAttributes(fields->window, kWindowCollapseBoxAttribute, 0);
+  ChangeWindowAttributes(m_dialog->window, kWindowCollapseBoxAttribute, 0);
   DLGRecord* modal = Open(kDemoDialog);
-  EXPECT_FALSE(IsWindowHilited(fields->window) || IsWindowHilited(floating->window));
-  EXPECT_EQ(GetWindowAttributes(fields->window) & kWindowCollapseBoxAttribute, 0U);
+  EXPECT_FALSE(IsWindowHilited(m_dialog->window) || IsWindowHilited(floating->window));
+  EXPECT_EQ(GetWindowAttributes(m_dialog->window) & kWindowCollapseBoxAttribute, 0U);
   EXPECT_EQ(FrontNonFloatingWindow(), modal->window);
   ASSERT_TRUE(MyCloseDialog(modal));
-  EXPECT_TRUE(IsWindowHilited(fields->window));
-  EXPECT_NE(GetWindowAttributes(fields->window) & kWindowCollapseBoxAttribute, 0U);
+  EXPECT_TRUE(IsWindowHilited(m_dialog->window));
+  EXPECT_NE(GetWindowAttributes(m_dialog->window) & kWindowCollapseBoxAttribute, 0U);
 }
 
 TEST_F(State, APlaceholderStandsInWhileFloatingWindowsRest) {
-  DLGRecord* fields = Open(kFields, kDLGModeless);
-  fields->flags |= kDLGPlaceholder;
+  m_dialog->flags |= kDLGPlaceholder;
   DLGRecord* modal = Open(kDemoDialog);
   EXPECT_TRUE(DLGIsOpen(kPlaceholder));
   EXPECT_EQ(FrontWindow(), modal->window);
@@ -68,43 +61,33 @@ TEST_F(State, APlaceholderStandsInWhileFloatingWindowsRest) {
   EXPECT_FALSE(DLGIsOpen(kPlaceholder));
 }
 
-TEST_F(State, ItemFields) {
-  DLGRecord* dialog = Open(kFields, kDLGModeless);
-  AddItemFlags(dialog, kFirst, 0x1000);
-  EXPECT_EQ(GetItemFlags(dialog, kFirst) & 0x1000, 0x1000U);
-  RemoveItemFlags(dialog, kFirst, 0x1000);
-  EXPECT_EQ(GetItemFlags(dialog, kFirst) & 0x1000, 0U);
-  SetItemType(dialog, kFirst, 18);
-  EXPECT_EQ(GetItemType(dialog, kFirst), 18);
-  SetIRefCon(dialog, kFirst, 4711);
-  EXPECT_EQ(GetIRefCon(dialog, kFirst), 4711);
-  EXPECT_NE(DLGGetChildControl(dialog, kFirst), nullptr);
-  EXPECT_TRUE(IsItemVisible(dialog, kFirst));
-  HideDLGItem(dialog, kFirst, true);
-  EXPECT_FALSE(IsItemVisible(dialog, kFirst));
+TEST_F(State, ItemsOutsideOfTheTableHaveNoFields) {
+  EXPECT_TRUE(IsItemVisible(m_dialog, kFirst));
+  HideDLGItem(m_dialog, kFirst, true);
+  EXPECT_FALSE(IsItemVisible(m_dialog, kFirst));
   for (const int32_t item : {0, -1, 9}) {
-    AddItemFlags(dialog, item, 0x10);
-    SetIRefCon(dialog, item, 1);
-    EXPECT_EQ(GetItemFlags(dialog, item), 0U);
-    EXPECT_EQ(GetIRefCon(dialog, item), 0);
-    EXPECT_EQ(GetItemType(dialog, item), 0);
-    EXPECT_EQ(DLGGetChildControl(dialog, item), nullptr);
-    EXPECT_FALSE(IsItemEnabled(dialog, item) || IsItemVisible(dialog, item) || DLGNotifyChange(dialog, item));
+    AddItemFlags(m_dialog, item, 0x10);
+    SetIRefCon(m_dialog, item, 1);
+    EXPECT_EQ(GetItemFlags(m_dialog, item), 0U);
+    EXPECT_EQ(GetIRefCon(m_dialog, item), 0);
+    EXPECT_EQ(GetItemType(m_dialog, item), 0);
+    EXPECT_EQ(DLGGetChildControl(m_dialog, item), nullptr);
+    EXPECT_FALSE(IsItemEnabled(m_dialog, item) || IsItemVisible(m_dialog, item) ||
+                 DLGNotifyChange(m_dialog, item));
   }
 }
 
 TEST_F(State, ANewRectangleIsTold) {
   static intptr_t gSize;
   gSize = 0;
-  DLGRecord* dialog = Open(kFields, kDLGModeless);
-  SetItemProc(dialog, kFirst,
+  SetItemProc(m_dialog, kFirst,
               [](DLGRecord*, int32_t, int32_t message, intptr_t param1, intptr_t) -> intptr_t {
                 if (message == kDLGResize) gSize = param1;
                 return 0;
               });
-  SizeDLGItem(dialog, kFirst, {10, 20, 40, 220});
+  SizeDLGItem(m_dialog, kFirst, {10, 20, 40, 220});
   EXPECT_EQ(gSize, (30 << 16) | 200);
-  EXPECT_EQ(Widget(dialog, kFirst)->geometry(), QRect(20, 10, 200, 30));
+  EXPECT_EQ(Widget(m_dialog, kFirst)->geometry(), QRect(20, 10, 200, 30));
 }
 
 TEST_F(State, GlobalHooks) {
@@ -112,21 +95,17 @@ TEST_F(State, GlobalHooks) {
   gCalls.clear();
   DLGSetGlobalOpenProc([](DLGRecord* d) { gCalls.push_back("open " + std::to_string(d->resourceID)); });
   DLGSetGlobalCloseProc([](DLGRecord* d) { gCalls.push_back("close " + std::to_string(d->resourceID)); });
-  MyCloseDialog(Open(kFields, kDLGModeless));
+  MyCloseDialog(Open(kNoTabStops));
   DLGSetGlobalOpenProc(nullptr);
   DLGSetGlobalCloseProc(nullptr);
-  EXPECT_EQ(gCalls, (std::vector<std::string>{"open 501", "close 501"}));
+  EXPECT_EQ(gCalls, (std::vector<std::string>{"open 502", "close 502"}));
 }
 
 TEST_F(State, ASecondStartKeepsWhatTheFirstRegistered) {
   const int32_t rows = numRegisterItems;
   EXPECT_EQ(_InitLumoLibrary(nullptr), 0);
   EXPECT_EQ(numRegisterItems, rows);
-  EXPECT_EQ(gTimerInterval, 100);
-  EXPECT_EQ(gDefaultFont, 3);
   for (const int32_t type : {21, 23, 24, 32}) EXPECT_EQ(DLGFindItemProc(type), nullptr);
-  EXPECT_EQ(itemRegisterList[0].type, 1);
-  EXPECT_EQ(itemRegisterList[20].type, 22);
 }
 
 TEST_F(State, NumberedAlerts) {
@@ -140,13 +119,12 @@ TEST_F(State, NumberedAlerts) {
 }
 
 TEST_F(State, TheDialogGoesWhileAnAlertIsUp) {
-  DLGRecord* dialog = Open(kFields, kDLGModeless);
-  QTimer::singleShot(20, [dialog] { DisposeDLG(dialog); });
+  QTimer::singleShot(20, [this] { DisposeDLG(m_dialog); });
   QTimer::singleShot(200, [] {
-    if (QWidget* box = QApplication::activeModalWidget()) box->close();
+    if (QMessageBox* box = gestures::MessageBox()) box->close();
   });
   ErrorAlert(1, "gone");
-  EXPECT_FALSE(DialogIsValid(dialog));
+  EXPECT_FALSE(DialogIsValid(m_dialog));
 }
 
 TEST_F(State, ASpanishSessionSetsTheLocale) {
@@ -160,10 +138,9 @@ TEST_F(State, ASpanishSessionSetsTheLocale) {
 }
 
 TEST_F(State, TextIsMeasuredInTheItemsFont) {
-  DLGRecord* dialog = Open(kFields, kDLGModeless);
   const auto width = [&](int16_t size) {
-    SetControlFontStyle(DLGGetChildControl(dialog, kFirst), {3, size});
-    return DLGMeasureItem(dialog, kFirst, "Measured text") & 0xFFFF;
+    SetControlFontStyle(DLGGetChildControl(m_dialog, kFirst), {3, size});
+    return DLGMeasureItem(m_dialog, kFirst, "Measured text") & 0xFFFF;
   };
   const int32_t small = width(8);
   const int32_t large = width(24);

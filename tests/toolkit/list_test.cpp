@@ -11,14 +11,8 @@
 
 namespace {
 
-class ListTest : public ToolkitTest {
+class ListTest : public DemoTest {
  protected:
-  void SetUp() override {
-    ToolkitTest::SetUp();
-    m_dialog = Open(kDemoDialog);
-    ASSERT_NE(m_dialog, nullptr);
-  }
-
   // Makes the item's list anew from its data's bytes.
   intptr_t Recreate(int32_t item, std::vector<uint8_t> bytes) {
     LBItemProc(m_dialog, item, kDLGDispose, 0, 0);
@@ -76,8 +70,6 @@ class ListTest : public ToolkitTest {
     const Rect bounds = LGetRowBounds(List(item), row);
     return {static_cast<int16_t>((bounds.top + bounds.bottom) / 2), static_cast<int16_t>(bounds.left + left)};
   }
-
-  DLGRecord* m_dialog = nullptr;
 };
 
 TEST_F(ListTest, ReadsItsModeInEitherByteOrder) {

@@ -12,34 +12,13 @@
 #include <string>
 #include <vector>
 
-#include "Platform/Core/Files.h"
-#include "Platform/Core/Resources.h"
 #include "Platform/Ui/Controls.h"
 #include "Platform/Ui/Dialogs.h"
 #include "Platform/Ui/Events.h"
 #include "Platform/Ui/Lists.h"
 #include "Platform/Ui/Menus.h"
-#include "tests/platform/fork_builder.h"
-#include "tests/platform/temp_folder.h"
+#include "tests/platform/open_fork.h"
 #include "tests/support/Gestures.h"
-
-// A resource file that is current while the object lives.
-class OpenFork {
- public:
-  explicit OpenFork(const TestTypes& types) {
-    FSRef file;
-    const std::string path = m_folder.Write("Test.rsrc", BuildFork(types));
-    EXPECT_EQ(FSPathMakeRef(path.c_str(), &file, nullptr), noErr);
-    EXPECT_EQ(FSOpenResourceFile(&file, 0, nullptr, fsRdPerm, &m_file), noErr);
-  }
-  ~OpenFork() { CloseResFile(m_file); }
-  OpenFork(const OpenFork&) = delete;
-  OpenFork& operator=(const OpenFork&) = delete;
-
- private:
-  TempFolder m_folder;
-  ResFileRefNum m_file = 0;
-};
 
 inline std::string RectData(const Rect& rect) {
   std::string data;

@@ -430,18 +430,17 @@ TEST_F(ListTest, ADoubleClickInTheScrollBarChecksNothing) {
 }
 
 TEST_F(ListTest, AssistiveTechnologyChecksLikeAClick) {
-  Fill(kDemoCheckList, {"a", "b"});
-  const ListRef list = List(kDemoCheckList);
-  const ListDefinition* const definition = FindListDefinition(GetListDefinitionID(list));
-  ASSERT_NE(definition, nullptr);
-  ASSERT_TRUE(definition->hasChecks);
-  definition->setChecked(list, 1, true);
-  EXPECT_TRUE(definition->isChecked(list, 1));
+  Fill(kDemoCheckList, {"a\tA", "b\tB"});
+  const auto* const view = qobject_cast<QAbstractItemView*>(Widget(m_dialog, kDemoCheckList));
+  ASSERT_NE(view, nullptr);
+  const auto check = [&](int row) {
+    return view->model()->setData(view->model()->index(row, 0), Qt::Checked, Qt::CheckStateRole);
+  };
+  check(1);
   EXPECT_EQ(TakeHits(), std::vector<int32_t>{kDemoCheckList});
-  definition->setChecked(list, 1, true);
-  definition->setChecked(list, 2, true);
+  check(1);
   EnableDLGItem(m_dialog, kDemoCheckList, false);
-  definition->setChecked(list, 0, true);
+  check(0);
   EXPECT_EQ(Checks(kDemoCheckList, 3), (std::vector<int32_t>{0, 1, 0}));
   EXPECT_TRUE(TakeHits().empty());
 }

@@ -1,8 +1,6 @@
 // Presses: from the event to the handler, from there to the widget, and what the widget made of them.
-#include <QCheckBox>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QTimer>
 #include <QWheelEvent>
 
@@ -86,20 +84,6 @@ TEST_F(PressTest, DraggingDecidesAtTheRelease) {
   }
 }
 
-TEST_F(PressTest, TheWidgetFollowsAPressOnlyWhenAsked) {
-  m_onMouseDown = [](WindowRef /*window*/, const MouseEvent& /*event*/) {};
-  QTest::mouseClick(ItemWidget(kCheck), Qt::LeftButton);
-  QTest::mouseClick(Handle(), Qt::LeftButton, {}, MiddleOf(kCheck));
-  EXPECT_EQ(GetControlValue(Item(kCheck)), 0);
-  EXPECT_EQ(TakeLog(), (EventLog{"down", "down"}));
-
-  m_onMouseDown = nullptr;
-  DeactivateControl(Item(kCheck));
-  QTest::mouseClick(Handle(), Qt::LeftButton, {}, MiddleOf(kCheck));
-  EXPECT_EQ(GetControlValue(Item(kCheck)), 0);
-  EXPECT_EQ(TakeLog(), EventLog{"down"});
-}
-
 TEST_F(PressTest, AHandlerThatStopsFollowingLeavesNothingPressed) {
   m_onMouseDown = [this](WindowRef /*window*/, const MouseEvent& event) {
     EXPECT_TRUE(HandleControlPress(Item(kButton), event.where));
@@ -109,19 +93,6 @@ TEST_F(PressTest, AHandlerThatStopsFollowingLeavesNothingPressed) {
   EXPECT_FALSE(ItemWidget<QPushButton>(kButton)->isDown());
   QTest::mouseRelease(Handle(), Qt::LeftButton, {}, MiddleOf(kButton));
   EXPECT_EQ(TakeLog(), EventLog{"down"});
-}
-
-TEST_F(PressTest, ChecksToggleAndRadiosStayOn) {
-  for (const int expected : {1, 0, 1}) {
-    QTest::mouseClick(ItemWidget(kCheck), Qt::LeftButton, {}, QPoint(8, 10));
-    EXPECT_EQ(GetControlValue(Item(kCheck)), expected);
-  }
-  for (int i = 0; i < 2; ++i) {
-    QTest::mouseClick(ItemWidget(kRadio), Qt::LeftButton, {}, QPoint(8, 10));
-    EXPECT_EQ(GetControlValue(Item(kRadio)), 1);
-  }
-  EXPECT_EQ(TakeLog(), (EventLog{"down", "hit item2", "down", "hit item2", "down", "hit item2", "down",
-                                 "hit item3", "down", "hit item3"}));
 }
 
 TEST_F(PressTest, ThePressIsGivenInWindowCoordinates) {
@@ -179,27 +150,6 @@ TEST_F(PressTest, TheHandlerMayDisposeTheWindow) {
   }
 }
 
-TEST_F(PressTest, AModalDialogInsideAPressGetsItsOwnPresses) {
-  const WindowRef outer = m_window;
-  m_onHit = [this, outer] {
-    m_onHit = nullptr;
-    m_dialog = GetNewDialog(128);
-    m_window = GetDialogWindow(m_dialog);
-    SetWTitle(m_window, "Inner");
-    Show();
-    ReleaseLater(MiddleOf(kCheck), 60);
-    QTimer::singleShot(20, Handle(),
-                       [this] { QTest::mousePress(Handle(), Qt::LeftButton, {}, MiddleOf(kCheck)); });
-    const uint32_t end = TickCount() + 300;
-    while (GetControlValue(Item(kCheck)) == 0 && TickCount() < end) RunEventPass(1);
-    EXPECT_EQ(GetControlValue(Item(kCheck)), 1);
-    DisposeWindow(m_window);
-  };
-  QTest::mouseClick(ItemWidget(kButton), Qt::LeftButton);
-  EXPECT_EQ(TakeLog(), (EventLog{"down", "hit item2"}));
-  EXPECT_TRUE(IsValidWindow(outer));
-}
-
 TEST_F(PressTest, PressesDuringAPressWaitForTheirTurn) {
   int depth = 0;
   m_onMouseDown = [&](WindowRef /*window*/, const MouseEvent& event) {
@@ -235,9 +185,6 @@ TEST_F(PressTest, APressCanBeMadeWithoutAnEvent) {
   EXPECT_FALSE(StillDown());
   EXPECT_TRUE(HandleControlRelease(Item(kCheck), inside));
   EXPECT_EQ(GetControlValue(Item(kCheck)), 1);
-  EXPECT_TRUE(HandleControlPress(Item(kCheck), inside));
-  EXPECT_FALSE(HandleControlRelease(Item(kCheck), {290, 290}));
-  EXPECT_EQ(GetControlValue(Item(kCheck)), 1);
   EXPECT_EQ(TakeLog(), EventLog{});
 }
 
@@ -253,20 +200,6 @@ TEST_F(PressTest, OtherButtonsAndTheWheelReachOnlyWhatTheyMay) {
   QTest::mouseClick(ItemWidget(kButton), Qt::RightButton);
   QTest::mouseClick(ItemWidget(kCheck), Qt::MiddleButton);
   EXPECT_EQ(TakeLog(), EventLog{});
-}
-
-TEST_F(PressTest, APopupOpensAndItsChoiceIsAnAction) {
-  MenuRef menu = GetControlPopupMenuHandle(Item(kPopup));
-  for (const char* text : {"one", "two", "three"}) InsertMenuItem(menu, text, 99);
-  QComboBox* const combo = ItemWidget<QComboBox>(kPopup);
-  for (const int row : {1, 2}) {
-    QTest::mouseClick(combo, Qt::LeftButton);
-    ASSERT_TRUE(combo->view()->isVisible());
-    EXPECT_EQ(TakeLog(), EventLog{"down"});
-    gestures::ChooseFromOpenPopup(row - 1, row, Input::mouse);
-    EXPECT_EQ(GetControlValue(Item(kPopup)), row + 1);
-    EXPECT_EQ(TakeLog(), EventLog{"action item6"});
-  }
 }
 
 }  // namespace

@@ -1,6 +1,4 @@
 // Windows, the event loop, alerts and the desktop.
-#include <QDir>
-#include <QFile>
 #include <QTimer>
 
 #include "Platform/Core/CFString.h"
@@ -72,11 +70,6 @@ TEST_F(WindowTest, PlaceSizeAndAttributes) {
   EXPECT_TRUE(WidgetOf(window)->windowFlags().testFlag(Qt::WindowMinimizeButtonHint));
   EXPECT_TRUE(GetWindowScreenBounds(window) == (Rect{40, 30, 280, 350}));
   EXPECT_EQ(GetWindowAttributes(window), uint32_t{kWindowCollapseBoxAttribute});
-  CenterWindowOnMainScreen(window);
-  const Rect bounds = GetWindowScreenBounds(window);
-  const QPoint middle = QGuiApplication::primaryScreen()->availableGeometry().center();
-  EXPECT_NEAR((bounds.left + bounds.right) / 2, middle.x(), 8);
-  EXPECT_NEAR((bounds.top + bounds.bottom) / 2, middle.y(), 24);
 }
 
 TEST_F(WindowTest, DamagedBoundsAreNoLargerThanAScreen) {
@@ -98,14 +91,6 @@ TEST_F(WindowTest, DamagedBoundsAreNoLargerThanAScreen) {
     const Rect inverted = GetControlBounds(GetDialogItemAsControl(opened, 2));
     EXPECT_TRUE(inverted == (Rect{20, 200, 20, 200}));
   }
-}
-
-TEST_F(WindowTest, ClosingIsLeftToTheHandler) {
-  const WindowRef window = MakeWindow("w");
-  ShowWindow(window);
-  WidgetOf(window)->close();
-  EXPECT_EQ(TakeLog(), EventLog{"close"});
-  EXPECT_TRUE(IsWindowVisible(window));
 }
 
 TEST_F(WindowTest, ActivationByOthersIsToldUnlessAPressFollows) {
@@ -145,35 +130,6 @@ TEST_F(WindowTest, AParentMayGoFirst) {
   RunEventPass(0);
   EXPECT_TRUE(IsWindowVisible(child));
   EXPECT_EQ(WidgetOf(child)->windowHandle()->transientParent(), nullptr);
-}
-
-// Bytes of memory that the process holds.
-size_t ResidentSize() {
-  QFile file(QStringLiteral("/proc/self/statm"));
-  if (!file.open(QIODevice::ReadOnly)) return 0;
-  return file.readAll().split(' ').at(1).toULong() * 4096;
-}
-
-TEST_F(WindowTest, AThousandDialogsLeaveNothing) {
-  const auto openAndClose = [](int count) {
-    for (int i = 0; i < count; ++i) {
-      const DialogRef dialog = GetNewDialog(128);
-      ShowWindow(GetDialogWindow(dialog));
-      RunEventPass(0);
-      DisposeDialog(dialog);
-      RunEventPass(0);
-    }
-  };
-  openAndClose(200);
-  const auto widgets = QApplication::allWidgets().size();
-  const size_t before = ResidentSize();
-  openAndClose(1000);
-  EXPECT_EQ(QApplication::allWidgets().size(), widgets);
-#if !defined(__SANITIZE_ADDRESS__)
-  EXPECT_LT(ResidentSize(), before + (1 << 20));
-#else
-  static_cast<void>(before);  // freed memory is kept back there
-#endif
 }
 
 TEST_F(WindowTest, AnEventPassWaitsNoLongerThanItMay) {
@@ -221,35 +177,25 @@ TEST_F(WindowTest, UrlsGoToTheDesktop) {
 
 class AlertTest : public WindowTest {
  protected:
-  void SetUp() override {
-    WindowTest::SetUp();
-    m_message = CFStringCreateWithCString("Really <b>quit</b>?", kCFStringEncodingUTF8);
-    m_explanation = CFStringCreateWithCString("Nothing is saved.", kCFStringEncodingUTF8);
-    m_cancel = CFStringCreateWithCString("Stay & wait", kCFStringEncodingUTF8);
-  }
   void TearDown() override {
-    CFRelease(m_message);
-    CFRelease(m_explanation);
-    CFRelease(m_cancel);
+    for (const CFStringRef text : {m_message, m_explanation, m_cancel}) CFRelease(text);
     WindowTest::TearDown();
   }
 
-  static QMessageBox* Box() { return gestures::MessageBox(); }
+  static CFStringRef String(const char* text) {
+    return CFStringCreateWithCString(text, kCFStringEncodingUTF8);
+  }
 
   static void Later(const std::function<void(QMessageBox*)>& act) {
     QTimer::singleShot(50, [act] {
-      ASSERT_NE(Box(), nullptr);
-      act(Box());
+      ASSERT_NE(gestures::MessageBox(), nullptr);
+      act(gestures::MessageBox());
     });
   }
 
-  static void Press(QMessageBox* box, const char* title) {
-    gestures::PressTitled(box, QString::fromUtf8(title));
-  }
-
-  CFStringRef m_message = nullptr;
-  CFStringRef m_explanation = nullptr;
-  CFStringRef m_cancel = nullptr;
+  const CFStringRef m_message = String("Really <b>quit</b>?");
+  const CFStringRef m_explanation = String("Nothing is saved.");
+  const CFStringRef m_cancel = String("Stay & wait");
 };
 
 TEST_F(AlertTest, AnswersWithTheButton) {
@@ -259,9 +205,9 @@ TEST_F(AlertTest, AnswersWithTheButton) {
     void (*act)(QMessageBox* box);
     int16_t answer;
   } rows[] = {
-      {"OK", true, [](QMessageBox* box) { Press(box, "OK"); }, 1},
-      {"cancel", true, [](QMessageBox* box) { Press(box, "Stay & wait"); }, 2},
-      {"help", true, [](QMessageBox* box) { Press(box, "Help"); }, 4},
+      {"OK", true, [](QMessageBox* box) { gestures::PressTitled(box, "OK"); }, 1},
+      {"cancel", true, [](QMessageBox* box) { gestures::PressTitled(box, "Stay & wait"); }, 2},
+      {"help", true, [](QMessageBox* box) { gestures::PressTitled(box, "Help"); }, 4},
       {"Return", true, [](QMessageBox* box) { QTest::keyClick(box, Qt::Key_Return); }, 1},
       {"Escape", true, [](QMessageBox* box) { QTest::keyClick(box, Qt::Key_Escape); }, 2},
       {"closed", true, [](QMessageBox* box) { box->close(); }, 2},
@@ -280,7 +226,7 @@ TEST_F(AlertTest, AnswersWithTheButton) {
     parameters.helpButton = row.cancel;
     parameters.cancelText = row.cancel ? m_cancel : nullptr;
     EXPECT_EQ(StandardAlert(kAlertCautionAlert, m_message, m_explanation, parameters), row.answer);
-    EXPECT_EQ(Box(), nullptr);
+    EXPECT_EQ(gestures::MessageBox(), nullptr);
   }
 }
 
@@ -294,7 +240,7 @@ TEST_F(AlertTest, KeepsEventsFromItsWindow) {
     QTest::mouseClick(ItemWidget(kButton), Qt::LeftButton);
     QTest::keyClick(WidgetOf(m_window), 'x');
     WidgetOf(m_window)->close();
-    Press(box, "OK");
+    gestures::PressTitled(box, "OK");
   });
   EXPECT_EQ(StandardAlert(kAlertStopAlert, m_message, nullptr, {}), 1);
   EXPECT_EQ(TakeLog(), EventLog{});
@@ -317,7 +263,7 @@ TEST_F(AlertTest, OutlivesItsWindow) {
       EXPECT_EQ(StandardAlert(kAlertNoteAlert, m_message, nullptr, {}), 1);
     }
     RunEventPass(1);
-    EXPECT_EQ(Box(), nullptr);
+    EXPECT_EQ(gestures::MessageBox(), nullptr);
   }
 }
 
@@ -327,11 +273,11 @@ TEST_F(AlertTest, SheetsReturnAtOnceAndFreeTheWindow) {
   EXPECT_FALSE(StandardSheet(kAlertNoteAlert, m_message, nullptr, {}, m_window)) << "hidden";
   Show();
   EXPECT_TRUE(StandardSheet(kAlertNoteAlert, m_message, nullptr, {}, m_window));
-  ASSERT_NE(Box(), nullptr);
+  ASSERT_NE(gestures::MessageBox(), nullptr);
   QTest::mouseClick(ItemWidget(kButton), Qt::LeftButton);
   EXPECT_EQ(TakeLog(), EventLog{});
-  Press(Box(), "OK");
-  EXPECT_EQ(Box(), nullptr);
+  gestures::PressTitled(gestures::MessageBox(), "OK");
+  EXPECT_EQ(gestures::MessageBox(), nullptr);
   QTest::mouseClick(ItemWidget(kButton), Qt::LeftButton);
   EXPECT_EQ(TakeLog(), (EventLog{"down", "hit item1"}));
 }
@@ -345,7 +291,7 @@ TEST_F(AlertTest, StopAlertsComeFromResources) {
     EXPECT_EQ(box->icon(), QMessageBox::Critical);
     EXPECT_EQ(box->text(), "Out of memory");
     EXPECT_EQ(box->informativeText(), "Café");
-    Press(box, "Stop");
+    gestures::PressTitled(box, "Stop");
   });
   EXPECT_EQ(StopAlert(1), 1);
   EXPECT_EQ(StopAlert(2), -1);

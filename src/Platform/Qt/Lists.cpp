@@ -87,11 +87,6 @@ int32_t LAddRow(ListRef list, int32_t row) {
   return row;
 }
 
-void LDelRow(ListRef list, int32_t row) {
-  const ui::Quiet quiet;
-  if (QtListView* const view = _ViewWithRow(list, row)) view->rows().Remove(row);
-}
-
 void LSetCell(ListRef list, int32_t row, std::string_view text) {
   if (QtListView* const view = _ViewWithRow(list, row)) view->rows().SetText(row, text);
 }

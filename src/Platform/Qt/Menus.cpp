@@ -59,12 +59,3 @@ std::string GetMenuItemText(MenuRef menu, int32_t row) {
   if (combo == nullptr || row < 1 || row > combo->count()) return {};
   return ui::ToMacRoman(combo->itemText(row - 1));
 }
-
-void DeleteMenuItem(MenuRef menu, int32_t row) {
-  QComboBox* const combo = _ComboOf(menu);
-  if (combo == nullptr || row < 1 || row > combo->count()) return;
-  const ui::Quiet quiet;
-  const int selected = combo->currentIndex();
-  combo->removeItem(row - 1);
-  _SelectNumber(combo, selected);
-}

@@ -80,13 +80,6 @@ void ListRows::Insert(int row) {
   endInsertRows();
 }
 
-void ListRows::Remove(int row) {
-  beginRemoveRows({}, row, row);
-  m_columnWidths.clear();
-  m_rows.erase(m_rows.begin() + row);
-  endRemoveRows();
-}
-
 void ListRows::SetText(int row, std::string_view text) {
   Row& changed = m_rows[static_cast<size_t>(row)];
   changed.text = text;
@@ -191,7 +184,6 @@ QtListView::QtListView(QWidget* parent) : QListView(parent), m_rows(this) {
   const auto invalidate = [this] { m_selectedIsValid = false; };
   connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, invalidate);
   connect(&m_rows, &QAbstractItemModel::rowsInserted, this, invalidate);
-  connect(&m_rows, &QAbstractItemModel::rowsRemoved, this, invalidate);
 }
 
 const std::vector<bool>& QtListView::Selected() {
@@ -252,15 +244,6 @@ QItemSelectionModel::SelectionFlags QtListView::selectionCommand(const QModelInd
                                                                  const QEvent* event) const {
   if (selectionMode() == SingleSelection && !index.isValid()) return QItemSelectionModel::NoUpdate;
   return QListView::selectionCommand(index, event);
-}
-
-// Otherwise the view would select a neighbour of a selected row that goes.
-void QtListView::rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end) {
-  const int current = currentIndex().row();
-  if (current >= start && current <= end) {
-    selectionModel()->setCurrentIndex(QModelIndex(), QItemSelectionModel::NoUpdate);
-  }
-  QListView::rowsAboutToBeRemoved(parent, start, end);
 }
 
 QtListView* ListViewOf(ListRef list) {

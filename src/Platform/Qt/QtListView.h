@@ -21,7 +21,6 @@ class ListRows : public QAbstractListModel {
   void SetControl(ControlRef control) { m_control = control; }
   int Count() const { return static_cast<int>(m_rows.size()); }
   void Insert(int row);
-  void Remove(int row);
   void SetText(int row, std::string_view text);
   const std::string& Text(int row) const { return m_rows[static_cast<size_t>(row)].text; }
   void Redraw(int row);
@@ -64,7 +63,6 @@ class QtListView : public QListView {
  protected:
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                        const QEvent* event) const override;
-  void rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end) override;
 
  private:
   ListRows m_rows;

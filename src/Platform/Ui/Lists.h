@@ -41,7 +41,6 @@ int32_t LGetCount(ListRef list);
 // Inserts an empty row before `row` (clamped to 0..count); gives its index, -1 on failure. The selection
 // stays with its rows.
 int32_t LAddRow(ListRef list, int32_t row);
-void LDelRow(ListRef list, int32_t row);
 void LSetCell(ListRef list, int32_t row, std::string_view text);
 std::string LGetCell(ListRef list, int32_t row);  // empty when there is no such row
 

@@ -18,6 +18,5 @@ void InsertMenuItem(MenuRef menu, const std::string& text, int32_t after);
 void SetMenuItemText(MenuRef menu, int32_t row,
                      const std::string& text);  // shown literally, 255 bytes at most
 std::string GetMenuItemText(MenuRef menu, int32_t row);
-void DeleteMenuItem(MenuRef menu, int32_t row);
 
 #endif  // GRADIX_MENUS_H

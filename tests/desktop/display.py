@@ -100,13 +100,6 @@ class X11:
         window = self.xdotool("getwindowfocus", "-f").strip()
         return window if window in self._visible() else None
 
-    def active_parent(self):
-        """The window that the one with the keyboard belongs to."""
-        told = subprocess.run(["xprop", "-id", self.active_window(), "WM_TRANSIENT_FOR"], env=self.environment,
-                              timeout=LIMIT, stdout=subprocess.PIPE, text=True, check=True).stdout
-        number = re.search(r"# (0x[0-9a-f]+)", told)
-        return number and str(int(number[1], 16))
-
     def active_bounds(self):
         """Left, top, width, height on the screen."""
         return self._bounds(self.active_window())
@@ -153,7 +146,6 @@ class Wayland(X11):
         "toplevel": r"(xdg_surface@\d+)\.get_toplevel\(new id (xdg_toplevel@\d+)\)",
         "title": r'(xdg_toplevel@\d+)\.set_title\("(.*)"\)$',
         "size": r"(xdg_surface@\d+)\.set_window_geometry\(0, 0, (\d+), (\d+)\)",
-        "parent": r"(xdg_toplevel@\d+)\.set_parent\((.*)\)",
         "keyboard": r"wl_keyboard@\d+\.enter\(\d+, (wl_surface@\d+)",
         "left": r"(wl_keyboard@\d+)\.leave\(",
         "entered": r"wl_pointer@\d+\.enter\(\d+, (wl_surface@\d+), ([\d.-]+), ([\d.-]+)\)",
@@ -177,7 +169,7 @@ class Wayland(X11):
         wait_for(lambda: os.path.exists(socket), "a Wayland compositor")
         self.move((WIDTH // 2, HEIGHT // 2))
         self.talk = os.path.join(self.folder.name, "talk")
-        self.windows, self.titles, self.sizes, self.parents, self.popups = {}, {}, {}, {}, {}
+        self.windows, self.titles, self.sizes, self.popups = {}, {}, {}, {}
         self.keyboard = self.pointer = None
 
     def start(self, *command):
@@ -214,13 +206,10 @@ class Wayland(X11):
         elif name == "toplevel":
             self.titles[values[1]] = ""
             self.windows[values[0]] = values[1]
-            self.parents.pop(values[1], None)
         elif name == "title":
             self.titles[values[0]] = values[1]
         elif name == "size":
             self.sizes[values[0]] = tuple(map(int, values[1:]))
-        elif name == "parent":
-            self.parents[values[0]] = values[1]
         elif name == "keyboard":
             self.keyboard = values[0]
         elif name == "left":
@@ -243,9 +232,6 @@ class Wayland(X11):
 
     def _hand_keyboard_on(self, title):
         pass  # the compositor does
-
-    def active_parent(self):
-        return self.parents.get(self.active_window())
 
     def _move_in_window(self):
         """Moves the mouse and gives where in the window it is then told to be. When nothing is told, brings the mouse

@@ -139,40 +139,23 @@ TEST_F(ComboTest, AnswersKeys) {
   }
 }
 
-TEST_F(ComboTest, OpensItsRowsByKeyAndReportsTheChoice) {
-  for (const char* text : {"Alpha", "Beta", "Gamma"}) Insert(text);
-  CBSetSelect(m_dialog, kDemoCombo, 0);
-  SetFocusDLG(m_dialog, kDemoCombo);
-  const struct {
-    uint16_t character;
-    uint16_t modifiers;
-  } keys[] = {{' ', 0}, {kDownArrowChar, optionKey}};
-  int32_t selected = 0;
-  for (const auto& key : keys) {
-    EXPECT_EQ(KeyAnswer(key.character, key.modifiers), 2);
-    gestures::ChooseFromOpenPopup(selected, selected + 1, Input::keys);
-    RunEventPass(1);
-    EXPECT_EQ(CBGetSelect(m_dialog, kDemoCombo), ++selected);
-    EXPECT_EQ(TakeHits(), std::vector<int32_t>{kDemoCombo});
-  }
-}
-
 TEST_F(ComboTest, AnOpenListHasTheKeysOfItsDialog) {
   for (const char* text : {"Alpha", "Beta", "Gamma"}) Insert(text);
   CBSetSelect(m_dialog, kDemoCombo, 1);
   SetFocusDLG(m_dialog, kDemoCombo);
   const struct {
+    uint16_t opener, modifiers;
     std::vector<Qt::Key> keys;
     int32_t selected;
     std::vector<int32_t> hits;
   } rows[] = {
-      {{Qt::Key_Return}, 1, {}},  // the row that is chosen already
-      {{Qt::Key_Down, Qt::Key_Return}, 2, {kDemoCombo}},
-      {{Qt::Key_Up, Qt::Key_Escape}, 2, {}},
-      {{Qt::Key_Home, Qt::Key_Enter}, 0, {kDemoCombo}},
+      {' ', 0, {Qt::Key_Return}, 1, {}},  // the row that is chosen already
+      {' ', 0, {Qt::Key_Down, Qt::Key_Return}, 2, {kDemoCombo}},
+      {kDownArrowChar, optionKey, {Qt::Key_Up, Qt::Key_Escape}, 2, {}},
+      {kDownArrowChar, optionKey, {Qt::Key_Home, Qt::Key_Enter}, 0, {kDemoCombo}},
   };
   for (const auto& row : rows) {
-    KeyAnswer(' ');
+    EXPECT_EQ(KeyAnswer(row.opener, row.modifiers), 2);
     ASSERT_NE(QApplication::activePopupWidget(), nullptr);
     for (const Qt::Key key : row.keys) QTest::keyClick(Window(m_dialog), key);
     RunEventPass(1);
@@ -180,6 +163,11 @@ TEST_F(ComboTest, AnOpenListHasTheKeysOfItsDialog) {
     EXPECT_EQ(CBGetSelect(m_dialog, kDemoCombo), row.selected);
     EXPECT_EQ(TakeHits(), row.hits);
   }
+  QTest::mouseClick(Widget(m_dialog, kDemoCombo), Qt::LeftButton);
+  gestures::ChooseFromOpenPopup(0, 2, Input::mouse);
+  RunEventPass(1);
+  EXPECT_EQ(CBGetSelect(m_dialog, kDemoCombo), 2);
+  EXPECT_EQ(TakeHits(), std::vector<int32_t>{kDemoCombo});
   QTest::keyClick(Window(m_dialog), Qt::Key_Escape);
   EXPECT_EQ(TakeHits(), std::vector<int32_t>{kDemoCancel}) << "the dialog's again";
 }

@@ -44,6 +44,16 @@ TEST_F(Events, TabGoesAround) {
   Type(m_dialog, Qt::Key_Backtab, Qt::ShiftModifier);
   EXPECT_EQ(m_dialog->focusItem, kThird);
   EXPECT_TRUE(Widget(m_dialog, kThird)->hasFocus()) << "the focus is visible";
+  for (const int32_t item : {kFieldsOK, kFieldsCancel, kSecond}) EnableDLGItem(m_dialog, item, false);
+  for (const int32_t next : {kFirst, kThird}) {
+    Type(m_dialog, Qt::Key_Tab);
+    EXPECT_EQ(m_dialog->focusItem, next) << "past what takes no focus";
+  }
+  EnableDLGItem(m_dialog, kFirst, false);
+  for (const int32_t direction : {1, -1}) {
+    DoTabKey(m_dialog, kThird, direction);
+    EXPECT_EQ(m_dialog->focusItem, kThird) << "the only stop";
+  }
   EXPECT_EQ(TakeHits(), Hits{});
 }
 

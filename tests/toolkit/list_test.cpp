@@ -72,46 +72,30 @@ class ListTest : public DemoTest {
   }
 };
 
-TEST_F(ListTest, ReadsItsModeInEitherByteOrder) {
+TEST_F(ListTest, ReadsItsModeInEitherByteOrderAndSizesItsBlockByTheBigEndianCapacity) {
   const struct {
-    uint8_t high;
-    uint8_t low;
+    uint8_t mode[2];
     uint8_t flags;
-  } rows[] = {
-      {0, 0, 0}, {0, 1, kLBMultiple}, {1, 0, kLBMultiple}, {0, 2, kLBChecks}, {2, 0, kLBChecks},
-      {0, 3, 0}, {3, 0, 0},           {1, 1, 0},           {0xFF, 0xFF, 0},   {2, 1, 0},
-  };
-  for (const auto& row : rows) {
-    ASSERT_EQ(Recreate(kDemoList, {row.high, row.low, 0, 0}), 4);
-    EXPECT_EQ(Record(kDemoList)->flags, row.flags) << int{row.high} << " " << int{row.low};
-  }
-}
-
-TEST_F(ListTest, SizesItsBlockByTheBigEndianCapacity) {
-  const struct {
-    uint16_t word;
+    uint16_t capacity;
     int32_t stored;
   } rows[] = {
-      {0, 0},
-      {1, 256},
-      {100, 25600},
-      {127, 32512},
-      {128, 128},
-      {255, 255},
-      {256, 1},
-      {257, 257},
-      {0x0180, 0x0180},
-      {0x7F7F, 0x7F7F},
-      {0x8000, 128},
-      {0x8001, 0x180},
-      {0x80FF, 0x80FF - 0x10000},
+      {{0, 0}, 0, 0, 0},
+      {{0, 1}, kLBMultiple, 1, 256},
+      {{1, 0}, kLBMultiple, 127, 32512},
+      {{0, 2}, kLBChecks, 128, 128},
+      {{2, 0}, kLBChecks, 255, 255},
+      {{0, 3}, 0, 256, 1},
+      {{3, 0}, 0, 0x0180, 0x0180},
+      {{1, 1}, 0, 0x7F7F, 0x7F7F},
+      {{0xFF, 0xFF}, 0, 0x8001, 0x180},
+      {{2, 1}, 0, 0x80FF, 0x80FF - 0x10000},
   };
   for (const auto& row : rows) {
-    const auto high = static_cast<uint8_t>(row.word >> 8);
-    const auto low = static_cast<uint8_t>(row.word);
-    ASSERT_EQ(Recreate(kDemoCheckList, {0, 2, high, low}), 4);
-    EXPECT_EQ(Record(kDemoCheckList)->checkCapacity, row.stored) << row.word;
-    EXPECT_EQ(Slots(kDemoCheckList), row.word);
+    const auto high = static_cast<uint8_t>(row.capacity >> 8);
+    ASSERT_EQ(Recreate(kDemoList, {row.mode[0], row.mode[1], high, static_cast<uint8_t>(row.capacity)}), 4);
+    EXPECT_EQ(Record(kDemoList)->flags, row.flags) << int{row.mode[0]} << " " << int{row.mode[1]};
+    EXPECT_EQ(Record(kDemoList)->checkCapacity, row.stored) << row.capacity;
+    EXPECT_EQ(Slots(kDemoList), row.capacity);
   }
 }
 
@@ -364,7 +348,7 @@ TEST_F(ListTest, ReturnAndSpaceToggleChecks) {
   EXPECT_EQ(Checks(kDemoCheckList, 2), (std::vector<int32_t>{0, 0}));
 }
 
-TEST_F(ListTest, ReturnActivatesASingleSelectionList) {
+TEST_F(ListTest, ReturnAndDoubleClicksActivateASingleSelectionList) {
   FillNumbers(kDemoList, 3);
   EXPECT_EQ(KeyAnswer(kDemoList, kReturnChar), 1);
   EXPECT_EQ(Record(kDemoList)->activated, 1);
@@ -372,6 +356,16 @@ TEST_F(ListTest, ReturnActivatesASingleSelectionList) {
   EXPECT_EQ(Record(kDemoList)->activated, 0);
   EXPECT_EQ(KeyAnswer(kDemoMultiple, kReturnChar), 0);
   EXPECT_EQ(Record(kDemoMultiple)->activated, 0);
+  const struct {
+    int32_t row;
+    bool doubleClick;
+  } clicks[] = {{1, false}, {1, true}, {0, false}};
+  for (const auto& click : clicks) {
+    ClickAt(m_dialog, InRow(kDemoList, click.row, 20), click.doubleClick);
+    EXPECT_EQ(Record(kDemoList)->activated, click.doubleClick ? 1 : 0);
+    EXPECT_EQ(LBGetSelect(m_dialog, kDemoList), click.row);
+    EXPECT_EQ(TakeHits(), std::vector<int32_t>{kDemoList});
+  }
 }
 
 TEST_F(ListTest, PressesToggleChecksAndSelect) {
@@ -403,19 +397,6 @@ TEST_F(ListTest, PressesToggleChecksAndSelect) {
     AddItemFlags(m_dialog, kDemoCheckList, flag);
   }
   EXPECT_EQ(Checks(kDemoCheckList, 3), (std::vector<int32_t>{1, 1, 0}));
-}
-
-TEST_F(ListTest, ADoubleClickActivatesASingleSelectionList) {
-  Fill(kDemoList, {"a", "b"});
-  ClickAt(m_dialog, InRow(kDemoList, 1, 20));
-  EXPECT_EQ(Record(kDemoList)->activated, 0);
-  EXPECT_EQ(TakeHits(), std::vector<int32_t>{kDemoList});
-  ClickAt(m_dialog, InRow(kDemoList, 1, 20), true);
-  EXPECT_EQ(Record(kDemoList)->activated, 1);
-  EXPECT_EQ(LBGetSelect(m_dialog, kDemoList), 1);
-  EXPECT_EQ(TakeHits(), std::vector<int32_t>{kDemoList});
-  ClickAt(m_dialog, InRow(kDemoList, 0, 20));
-  EXPECT_EQ(Record(kDemoList)->activated, 0);
 }
 
 TEST_F(ListTest, ADoubleClickInTheScrollBarChecksNothing) {

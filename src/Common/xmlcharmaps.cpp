@@ -71,7 +71,7 @@ constexpr size_t kSymbolCount = std::size(_gAdobeSymbolMap);
 // The lookups use these two arrangements of the tables, made at compile time.
 
 template <size_t Count, size_t Size>
-consteval std::array<XmlCharMapEntry, Count> ByCodePoint(const XmlCharMapEntry (&map)[Size]) {
+consteval std::array<XmlCharMapEntry, Count> _ByCodePoint(const XmlCharMapEntry (&map)[Size]) {
   std::array<XmlCharMapEntry, Count> sorted{};
   std::copy_n(map, Count, sorted.begin());
   std::sort(sorted.begin(), sorted.end(), [](const XmlCharMapEntry& a, const XmlCharMapEntry& b) {
@@ -81,18 +81,18 @@ consteval std::array<XmlCharMapEntry, Count> ByCodePoint(const XmlCharMapEntry (
 }
 
 template <size_t Size>
-consteval std::array<uint16_t, 256> ByCode(const XmlCharMapEntry (&map)[Size], size_t count,
-                                           uint16_t identityEnd) {
+consteval std::array<uint16_t, 256> _ByCode(const XmlCharMapEntry (&map)[Size], size_t count,
+                                            uint16_t identityEnd) {
   std::array<uint16_t, 256> codePoints{};
   for (uint16_t code = 0; code < identityEnd; ++code) codePoints[code] = code;
   for (size_t i = 0; i < count; ++i) codePoints[map[i].code] = map[i].codePoint;
   return codePoints;
 }
 
-constexpr auto kAnsiByCodePoint = ByCodePoint<kAnsiCount>(_gAnsiMap);
-constexpr auto kSymbolByCodePoint = ByCodePoint<kSymbolCount>(_gAdobeSymbolMap);
-constexpr auto kAnsiByCode = ByCode(_gAnsiMap, kAnsiCount, 128);
-constexpr auto kSymbolByCode = ByCode(_gAdobeSymbolMap, kSymbolCount, 32);
+constexpr auto kAnsiByCodePoint = _ByCodePoint<kAnsiCount>(_gAnsiMap);
+constexpr auto kSymbolByCodePoint = _ByCodePoint<kSymbolCount>(_gAdobeSymbolMap);
+constexpr auto kAnsiByCode = _ByCode(_gAnsiMap, kAnsiCount, 128);
+constexpr auto kSymbolByCode = _ByCode(_gAdobeSymbolMap, kSymbolCount, 32);
 
 template <size_t Count>
 uint8_t _FindCode(const std::array<XmlCharMapEntry, Count>& sorted, int32_t codePoint) {

@@ -23,7 +23,7 @@ namespace {
 
 constexpr size_t kTableLimit = size_t{4} << 20;  // bytes
 
-static std::string _MainBundlePath() {
+std::string _MainBundlePath() {
   const char* const environment = std::getenv("GRADIX_BUNDLE");
   if (environment != nullptr && *environment != '\0') return AbsolutePath(environment);
   char executable[PATH_MAX];

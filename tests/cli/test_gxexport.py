@@ -10,7 +10,6 @@ import sys
 import threading
 import time
 import unittest
-import xml.etree.ElementTree as ElementTree
 
 sys.path.insert(0, os.path.dirname(__file__))
 from support import (ANN, BOB, CAT, CLASS_FILE, DONE, GXEXPORT, IDENTIFIERS, OUTPUT, QUIZ, SAMPLE,  # noqa: E402
@@ -99,10 +98,7 @@ class Reading(FolderTest):
     def test_faults_are_located(self):
         rows = {
             "mismatched tag": (b"<class>\n <a>\n  </b>\n</class>", ":3:5: mismatched tag"),
-            "cut short": (SAMPLE.read_bytes()[:3000], ": no element found"),
-            "empty": (b"", ":1:1: no element found"),
             "another document": (b"<html/>", "not class"),
-            "two bytes per character": ("<class/>".encode("utf-16"), "the encoding UTF-16 is not supported"),
             "unknown encoding": (b"<?xml version='1.0' encoding='windows-1252'?><class/>", ":1:31: the encoding windows-"),
         }
         for name, (data, message) in rows.items():
@@ -118,81 +114,38 @@ class Reading(FolderTest):
         with_closed_input = subprocess.run(f"'{GXEXPORT}' inspect - <&-", shell=True, capture_output=True)
         self.check(with_closed_input, CLASS_FILE, "(standard input): Bad file descriptor")
 
-    def test_standard_input(self):
-        from_file = run("export", "-f", "moodle", SAMPLE)
-        piped = run("export", "-f", "moodle", "-o", "-", "-", stdin=SAMPLE.read_bytes())
-        self.check(piped, DONE)
-        self.assertEqual(piped.stdout, from_file.stdout)
-
     def test_inspect(self):
-        tree = ElementTree.parse(SAMPLE)
-        result = run("inspect", "--json", SAMPLE)
-        self.check(result, DONE)
-        summary = json.loads(result.stdout.decode())
-        students = tree.findall("student-list/student")
-        roman = lambda text: (text or "").encode("mac_roman", "replace").decode("mac_roman")  # noqa: E731
-        self.assertEqual([[s["id"], s["firstName"], s["lastName"], s["custom"][1]] for s in summary["students"]],
-                         [[int(s.get("id")), *(roman(s.findtext(k)) for k in ["first-name", "last-name", "custom-2"])]
-                          for s in students])
-        self.assertEqual({(a["id"], a["name"], a["date"], a["questionCount"], a["resultCount"])
-                          for a in summary["assignments"]},
-                         {(int(a.get("id")), a.findtext("assignment-name"), a.findtext("assignment-date"),
-                           len(a.findall("question-list/question")), len(a.findall("results-list/results")))
-                          for a in tree.findall("assignment-list/assignment")})
-        self.assertEqual(summary["customLabels"], [tree.findtext(f"preferences/custom-{i}") for i in (1, 2, 3)])
-        for s in students:
-            self.assertNotIn(s.findtext("password"), result.stdout.decode())
-
-    def test_inspect_counts_useless_identifiers(self):
+        summary = json.loads(run("inspect", "--json", SAMPLE).stdout.decode())
+        self.assertEqual(summary["students"][0], {
+            "id": 101, "firstName": "Inés", "lastName": "Álvarez", "studentID": "204100", "alias": "ialvarez",
+            "padID": "P01", "gender": "Female", "dateOfBirth": "2008-08-06", "gradeLevel": "9", "sociological": "",
+            "race": "R1", "other": "Bus 4", "custom": ["alvarez.ines", "ines.alvarez@students.example.org", "Room 14"]})
+        self.assertEqual(summary["assignments"][0], {
+            "id": 301, "name": "Quiz 1: Cells", "assignmentID": "A301", "category": "Quizzes", "onlineID": "",
+            "date": "2023-09-08", "pointsPossible": 6, "questionCount": 6, "resultCount": 30})
+        self.assertEqual((len(summary["students"]), len(summary["assignments"])), (30, 12))
+        self.assertEqual(summary["customLabels"], ["Canvas ID", "Moodle e-mail", "Homeroom"])
         people = [ANN, BOB | {"alias": ""}, CAT | {"alias": "ann"}, student(4, "Dee", alias="")]
         fields = json.loads(run("inspect", "--json", self.write_class(people)).stdout)["identifierFields"]
         counts = {f["field"]: (f["empty"], f["shared"]) for f in fields}
-        self.assertEqual(counts["alias"], (2, 2))
-        self.assertEqual(counts["student-id"], (1, 0))
-        self.assertEqual(counts["last-name"], (0, 4))
-        self.assertEqual(counts["custom-3"], (4, 0))
+        self.assertEqual([counts[key] for key in ("alias", "student-id", "last-name", "custom-3")],
+                         [(2, 2), (1, 0), (0, 4), (4, 0)])
 
 
 class Export(FolderTest):
-    def test_every_format_by_name_and_number(self):
-        outputs = set()
-        for row in FORMATS:
-            with self.subTest(row["key"]):
-                only = ["-a", "301"] if row["defaultField"] is None else []
-                by_name = run("export", "-f", row["key"], *only, SAMPLE)
-                self.check(by_name, DONE)
-                self.assertEqual(run("export", "-f", row["index"], *only, SAMPLE).stdout, by_name.stdout)
-                outputs.add(by_name.stdout)
-        self.assertEqual(len(outputs), len(FORMATS))
-
-    def test_locale_does_not_matter(self):
-        known = subprocess.run(["locale", "-a"], capture_output=True, text=True).stdout.split()
-        names = [n for n in known if n.lower().replace("-", "") == "de_de.utf8"]
-        if not names:
-            self.skipTest("no German locale")
-        german = run("export", "-f", "canvas", SAMPLE, env=os.environ | {"LC_ALL": names[0]})
-        self.assertEqual(german.stdout, run("export", "-f", "canvas", SAMPLE).stdout)
-
-    def test_choice_of_assignments(self):
-        path = self.write_class([ANN], [assignment(7, "One"), assignment(8, "Two"), assignment(7, "Three")])
-        for ids, names in [([], "One,Two,Three"), ([8], "Two"), ([7], "One,Three"), ([8, 7, 8], "One,Two,Three")]:
+    def test_choices(self):
+        path = self.write_class([ANN], [assignment(7, "One"), QUIZ, assignment(7, "Three")])
+        for ids, names in [([], "One,Quiz,Three"), ([7], "One,Three"), ([12, 7, 12], "One,Quiz,Three")]:
             with self.subTest(ids):
-                chosen = [f"-a{number}" for number in ids]
-                header = run("export", "-f", "canvas", *chosen, path).stdout.decode().split("\n")[0]
+                header = run("export", "-f", "canvas", *(f"-a{n}" for n in ids), path).stdout.decode().split("\n")[0]
                 self.assertTrue(header.endswith("," + names), header)
-
-    def test_no_assignments(self):
-        path = self.write_class([ANN], [])
-        self.check(run("export", "-f", "canvas", path), DONE, "no assignments")
-        self.check(run("export", "-f", "detailed", path), USAGE, "no assignments")
-
-    def test_detailed_report_by_default(self):
-        path = self.write_class([ANN])  # one assignment, so that it need not be named
-        self.assertEqual(run("export", "-f", "detailed", path).stdout.decode(),
+        self.check(run("export", "-f", "detailed", "-a", "7", path), DONE, "several assignments have this id")
+        one = self.write_class([ANN], [QUIZ])  # the report's, so that it need not be named
+        self.assertEqual(run("export", "-f", "detailed", one).stdout.decode(),
                          '"First name","Last name","Student ID",1,2\n"Ann","Smith","1001","*B","A"\n')
-        everybody = run("export", "-f", "detailed", "--fields", "all", "-a", "12", path).stdout.decode()
-        self.assertEqual(everybody.split("\n")[0].count('","'), 14)
-
+        none = self.write_class([ANN], [])
+        self.check(run("export", "-f", "canvas", none), DONE, "no assignments")
+        self.check(run("export", "-f", "detailed", none), USAGE, "no assignments")
 
 class Identifiers(FolderTest):
     def test_some_missing(self):
@@ -202,11 +155,12 @@ class Identifiers(FolderTest):
 
     def test_refused_unless_forced(self):
         nobody = student(9, "Zoé")
-        shared = [ANN, BOB, CAT | {"student-id": "1001"}]
+        shared = [BOB, ANN, *(student(i, "Twin", student_id=n) for i, n in enumerate(["a", "A", 1001, 1002], 3))]
         rows = {
             "no students": ([], ["no students"]),
             "nobody has one": ([nobody, nobody], ["empty for all students", "Zoé Smith (id 9), Zoé Smith"]),
-            "shared": (shared, ['"1001": Ann Smith (id 1), Cat Smith (id 3)']),
+            "groups by their second student": (shared, ['ID:\n  "1001": Ann Smith (id 1), Twin Smith (id 5)\n'
+                                                        '  "1002": Bob Smith (id 2), Twin Smith (id 6)\nCheck']),
             "two missing": ([ANN, nobody, BOB, nobody], ["2 of 4", "none: Zoé Smith (id 9), Zoé"]),
         }
         for name, (people, fragments) in rows.items():
@@ -218,17 +172,9 @@ class Identifiers(FolderTest):
                 forced = run("export", "-f", "canvas", "--force", path)
                 self.check(forced, DONE, "warning", *fragments)
                 self.assertEqual(forced.stdout.count(b"\n"), 2 + len(people))
-
-    def test_another_field_helps(self):
-        path = self.write_class([ANN, BOB | {"student-id": "1001"}])
-        result = run("export", "-f", "canvas", "-u", "alias", path)
-        self.check(result, DONE)
-        self.assertEqual(result.stderr, b"")
-
-    def test_the_report_needs_none(self):
-        result = run("export", "-f", "detailed", self.write_class([student(1, ""), student(1, "")]))
-        self.check(result, DONE)
-        self.assertEqual(result.stderr, b"")
+        for options in (["-f", "canvas", "-u", "first-name"], ["-f", "detailed"]):  # another field, and none
+            result = run("export", *options, self.write_class([BOB | {"student-id": "1001"}, ANN]))
+            self.assertEqual((result.returncode, result.stderr), (DONE, b""))
 
 
 class Output(FolderTest):
@@ -270,8 +216,6 @@ class Output(FolderTest):
                 self.assertTrue(link.is_symlink())
                 self.assertEqual(self.written(target), self.expected)
                 target.write_bytes(b"old")
-        (self.folder / "loop").symlink_to("loop")
-        self.check(self.export(self.folder / "loop"), OUTPUT, "symbolic links")
 
     def test_pipes_and_devices_are_written_directly(self):
         fifo = self.folder / "fifo"
@@ -304,12 +248,6 @@ class Output(FolderTest):
         self.check(self.export(self.output, preexec_fn=limit), OUTPUT, "File too large")
         self.assertEqual(self.written(), b"old")
         self.assert_only("out.csv")
-
-    def test_impossible_destinations(self):
-        self.check(self.export(self.folder), OUTPUT, "Is a directory")
-        self.check(self.export(self.folder / "no" / "out.csv"), OUTPUT, "No such file or directory")
-        self.check(self.export(self.folder / ("x" * 300)), OUTPUT, "File name too long")
-        self.assert_only()
 
     def test_permissions_are_respected(self):
         self.output.write_bytes(b"old")

@@ -1,7 +1,5 @@
 #include "tests/filter/FilterFixture.h"
 
-#include <unistd.h>
-
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -37,10 +35,6 @@ void FilterTest::SetUp() {
   setenv("GRADIX_BUNDLE", BUNDLE, 1);
   ASSERT_NE(Module().language, nullptr);
   *Module().language = 0;
-  std::string name = testing::UnitTest::GetInstance()->current_test_info()->name();
-  std::replace(name.begin(), name.end(), '/', '-');
-  m_folder = std::filesystem::path(testing::TempDir()) / ("filter-" + std::to_string(getpid()) + "-" + name);
-  std::filesystem::create_directories(m_folder);
   chooser.path = PathOf("export.csv");
 }
 
@@ -48,7 +42,6 @@ void FilterTest::TearDown() {
   Module().dllMain(Module().handle, 0, nullptr);
   RunEvents();
   EXPECT_TRUE(Dialogs().empty());
-  std::filesystem::remove_all(m_folder);
 }
 
 unsigned long FilterTest::Begin(uint32_t format, bool withChooser) {
@@ -71,9 +64,12 @@ uint32_t FilterTest::ExportFile(unsigned long session, const std::string& classF
   return status;
 }
 
-QPointer<QWidget> FilterTest::Open(uint32_t format, const std::string& classFile, int32_t assignment) {
+QPointer<QWidget> FilterTest::Open(uint32_t format, const std::string& classFile, int32_t assignment,
+                                   bool spanish) {
   const std::vector<QWidget*> before = Dialogs();
-  EXPECT_EQ(ExportFile(Begin(format), classFile, assignment), 1U);
+  const unsigned long session = Begin(format);
+  *Module().language = spanish ? 6 : 0;
+  EXPECT_EQ(ExportFile(session, classFile, assignment), 1U);
   for (QWidget* dialog : Dialogs()) {
     if (std::find(before.begin(), before.end(), dialog) == before.end()) return dialog;
   }
@@ -182,12 +178,6 @@ std::string FilterTest::Finish(const QPointer<QWidget>& dialog, uint32_t format,
   EXPECT_EQ(alerts.TakeTexts(), std::vector<std::string>{SavedText(chooser.path)});
   EXPECT_TRUE(IsGone(dialog));
   return Bytes(chooser.path);
-}
-
-std::string FilterTest::WriteClass(const std::string& xml) const {
-  std::string path = PathOf("class.xml");
-  std::ofstream(path, std::ios::binary) << xml;
-  return path;
 }
 
 std::string FilterTest::Bytes(const std::filesystem::path& path) {

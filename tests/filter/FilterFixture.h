@@ -15,6 +15,7 @@
 
 #include "tests/filter/AlertAnswerer.h"
 #include "tests/filter/LoadedFilter.h"
+#include "tests/platform/temp_folder.h"
 #include "tests/support/Gestures.h"
 
 // Items of the gradebook options.
@@ -88,7 +89,8 @@ class FilterTest : public testing::Test {
   uint32_t ExportFile(unsigned long session, const std::string& classFile, int32_t assignment = 0,
                       void* hostWindow = nullptr);
   // Both; the dialog that appeared.
-  QPointer<QWidget> Open(uint32_t format, const std::string& classFile, int32_t assignment = 0);
+  QPointer<QWidget> Open(uint32_t format, const std::string& classFile, int32_t assignment = 0,
+                         bool spanish = false);
 
   static std::vector<QWidget*> Dialogs();  // all that are shown
   static void RunEvents();
@@ -114,8 +116,8 @@ class FilterTest : public testing::Test {
   std::string Finish(const QPointer<QWidget>& dialog, uint32_t format, Input input = Input::mouse);
 
   // A file in a folder of this test's own.
-  std::string PathOf(const std::string& name) const { return (m_folder / name).string(); }
-  std::string WriteClass(const std::string& xml) const;
+  std::string PathOf(const std::string& name) const { return m_folder.Path(name); }
+  std::string WriteClass(const std::string& xml) const { return m_folder.Write("class.xml", xml); }
   static std::string Bytes(const std::filesystem::path& path);
   static bool IsGone(const QPointer<QWidget>& dialog) { return dialog.isNull() || !dialog->isVisible(); }
 
@@ -123,7 +125,7 @@ class FilterTest : public testing::Test {
   AlertAnswerer alerts;
 
  private:
-  std::filesystem::path m_folder;
+  TempFolder m_folder;
 };
 
 inline const std::string kSampleClass = SAMPLES "/secondary-school.xml";

@@ -65,10 +65,7 @@ TEST_F(AccessibilityTest, AltAndTheUnderlinedLetterPressButtons) {
   for (const bool spanish : {false, true}) {
     for (const uint32_t format : {kCanvas, kDetailed}) {
       SCOPED_TRACE(format + (spanish ? 100 : 0));
-      const unsigned long session = Begin(format);
-      *Module().language = spanish ? 6 : 0;
-      EXPECT_EQ(ExportFile(session, kSampleClass), 1U);
-      const QPointer<QWidget> dialog = Dialogs().front();
+      const QPointer<QWidget> dialog = Open(format, kSampleClass, 0, spanish);
       const int list = format == kDetailed ? static_cast<int>(kReportFields) : static_cast<int>(kAssignments);
       Key(dialog, spanish ? Qt::Key_M : Qt::Key_S, Qt::AltModifier);
       EXPECT_EQ(CheckedRows(dialog, list).size(), 12U);

@@ -44,11 +44,10 @@ class EndToEnd : public FilterTest {
     return Bytes(std::string(GOLDEN "/secondary-school.").append(name).append(".csv"));
   }
 
-  std::string CommandLine(const char* format, QStringList options,
-                          const std::string& classFile = kSampleClass) const {
+  std::string CommandLine(const char* format, QStringList options) const {
     const std::string path = PathOf("command-line.csv");
     options = QStringList{"export", "-f", format, "-o", QString::fromStdString(path)} + options;
-    options << QString::fromStdString(classFile);
+    options << QString::fromStdString(kSampleClass);
     QProcess process;
     process.start(GXEXPORT, options);
     process.waitForFinished();
@@ -72,6 +71,13 @@ TEST_P(EveryFormat, WritesTheWholeClassWithItsDefaults) {
     EXPECT_EQ(CheckedRows(dialog, kAssignments), std::vector<int>{kQuiz5Row});
     EXPECT_EQ(TextOf(dialog, kIDName), Format().idName);
     EXPECT_EQ(SelectedRow(dialog, kFieldPopup), Format().fieldRow);
+    const bool isBlackboard = Format().index == 1 || Format().index == 4 || Format().index == 5;
+    for (int item = kFileKindGroup; item <= kWithoutQuotes; ++item) {
+      EXPECT_EQ(IsShown(dialog, item), isBlackboard) << item;
+    }
+    for (const int item : {kStandardFile, kWithQuotes, kWithoutQuotes}) {
+      EXPECT_EQ(IsEnabled(dialog, item), isBlackboard && Format().index != 1) << item;
+    }
     Press(dialog, kSelectAll, By());
   }
   void* const window = reinterpret_cast<void*>(dialog->winId());
@@ -95,13 +101,18 @@ TEST_P(EveryFormat, WritesWhatTheCommandLineWritesForTheSameChoices) {
                                  "--fields", "first-name,last-name,student-id,alias,gender,custom-3"}));
     return;
   }
-  ChooseRow(dialog, kFieldPopup, 5, By());
+  const char* const fields[] = {"custom-2", "custom-1", "alias", "student-id", "last-name", "first-name"};
+  const uint32_t field = Format().index % std::size(fields);
+  ChooseRow(dialog, kFieldPopup, 5 - static_cast<int>(field), By());
   Press(dialog, kSelectAll, By());
   Press(dialog, kClearAll, By());
   for (const int row : {11, 1, 4, 1}) ToggleRow(dialog, kAssignments, row, By());
   EXPECT_EQ(CheckedRows(dialog, kAssignments), (std::vector<int>{4, 11}));
   EXPECT_EQ(Finish(dialog, Format().index, By()),
-            CommandLine(Format().key, {"-a", "305", "-a", "312", "-u", "custom-2"}));
+            CommandLine(Format().key, {"-a", "305", "-a", "312", "-u", fields[field]}));
+  const QPointer<QWidget> next = Open(Format().index, kSampleClass, kQuiz5);
+  EXPECT_EQ(SelectedRow(next, kFieldPopup), Format().fieldRow) << "whatever was chosen before";
+  Key(next, Qt::Key_Escape);
 }
 
 INSTANTIATE_TEST_SUITE_P(Filter, EveryFormat,
@@ -112,37 +123,14 @@ INSTANTIATE_TEST_SUITE_P(Filter, EveryFormat,
                                   (std::get<1>(row.param) == Input::mouse ? "_mouse" : "_keys");
                          });
 
-TEST_F(EndToEnd, ProposesTheFormatsFieldWhateverWasChosenBefore) {
-  for (const FormatCase& format : kFormats) {
-    if (format.index == kDetailed) continue;
-    for (const int row : {1, 5}) {  // the last names are unique, too
-      const QPointer<QWidget> dialog = Open(format.index, kSampleClass, kQuiz5);
-      EXPECT_EQ(SelectedRow(dialog, kFieldPopup), format.fieldRow) << format.key;
-      ChooseRow(dialog, kFieldPopup, row, Input::keys);
-      Finish(dialog, format.index);
-    }
-  }
-}
-
-TEST_F(EndToEnd, TheIdentifierCanBeAnyField) {
-  const std::string path = WriteClass(ClassXml({"1"}));
-  int row = 0;
-  for (const char* field :
-       {"first-name", "last-name", "student-id", "alias", "custom-1", "custom-2", "custom-3"}) {
-    const QPointer<QWidget> dialog = Open(kCanvas, path, 7);
-    ChooseRow(dialog, kFieldPopup, row++, Input::mouse);
-    EXPECT_EQ(Finish(dialog, kCanvas), CommandLine("canvas", {"-u", field}, path)) << field;
-  }
-}
-
 // The page of the book that the topic stands for is the one with this format's sample.
 TEST_F(EndToEnd, HelpOpensTheFormatsTopic) {
   ASSERT_EQ(Module().formatCount(), std::size(kFormats));
   UrlTaker browser({QStringLiteral("file"), QStringLiteral("https")});
   for (const FormatCase& format : kFormats) {
     for (const char* language : {"en", "es"}) {
-      *Module().language = language == std::string("es") ? 6 : 0;
-      const QPointer<QWidget> dialog = Open(format.index, kSampleClass, kQuiz5);
+      const QPointer<QWidget> dialog =
+          Open(format.index, kSampleClass, kQuiz5, language == std::string("es"));
       const bool isReport = format.index == kDetailed;
       Click(dialog, isReport ? static_cast<int>(kReportHelp) : static_cast<int>(kHelp));
       const std::string group = "qzmanage/qzm_" + std::to_string(format.helpTopic) + ".htm";
@@ -157,22 +145,6 @@ TEST_F(EndToEnd, HelpOpensTheFormatsTopic) {
           << format.key;
       Key(dialog, Qt::Key_Escape);
     }
-  }
-}
-
-TEST_F(EndToEnd, OnlyBlackboardChoosesTheKindOfFile) {
-  for (const FormatCase& format : kFormats) {
-    if (format.index == kDetailed) continue;
-    const QPointer<QWidget> dialog = Open(format.index, kSampleClass, kQuiz5);
-    const bool isBlackboard = format.index == 1 || format.index == 4 || format.index == 5;
-    for (int item = kFileKindGroup; item <= kWithoutQuotes; ++item) {
-      EXPECT_EQ(IsShown(dialog, item), isBlackboard) << format.key << " " << item;
-    }
-    for (const int item : {kStandardFile, kWithQuotes, kWithoutQuotes}) {
-      EXPECT_EQ(IsEnabled(dialog, item), isBlackboard && format.index != 1) << format.key << " " << item;
-    }
-    Click(dialog, kCancel);
-    EXPECT_TRUE(IsGone(dialog));
   }
 }
 

@@ -3,13 +3,10 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
 #include <string>
 #include <vector>
 
 #include "Common/Language.h"
-#include "Filters/GX_StdCsv/FormatTable.h"
 #include "Platform/Core/CFString.h"
 #include "Platform/Ui/Alerts.h"
 #include "Platform/Ui/Launch.h"
@@ -202,19 +199,6 @@ TEST_F(HelpTest, WebSite) {
   EXPECT_FALSE(HelpWebSite(m_window, "c"));
   EXPECT_EQ(gURLs, (std::vector<std::string>{"https://a.example/?b", "c"}));
   EXPECT_TRUE(gSheets.empty());
-}
-
-TEST(HelpBook, HasThePageOfEveryFormatWithItsSample) {
-  for (const FormatRow& format : FormatTable()) {
-    for (const char* language : {"en", "es"}) {
-      const std::string path = std::string(BOOK "/") + language + "/Quizonne Gradix/qzmanage/qzm_" +
-                               std::to_string(format.helpTopic) + ".htm";
-      std::ifstream file(path);
-      const std::string page{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-      EXPECT_NE(page.find(std::string("data-sample=\"") + format.key + "\""), std::string::npos)
-          << format.key << " in " << path;
-    }
-  }
 }
 
 }  // namespace

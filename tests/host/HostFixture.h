@@ -5,7 +5,10 @@
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
+#include <QDialog>
 #include <QFile>
+#include <QLineEdit>
+#include <QMessageBox>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -30,6 +33,15 @@ inline QByteArray ReadFile(const QString& path) {
   return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+// The options dialog: as the filter has it, a window of its own.
+inline QPointer<QDialog> gDialog;
+
+inline void ShowDialog() {
+  gDialog = new QDialog;
+  gDialog->setAttribute(Qt::WA_DeleteOnClose);
+  gDialog->show();
+}
+
 // The visible window of that name, or null.
 inline QWidget* FindWindow(const char* name) {
   return gestures::FindWindow(
@@ -49,8 +61,9 @@ class HostTest : public testing::Test {
     host::SetCurrentLanguage(host::HostLanguage::kEnglish);
     void* const handle = ::dlopen(module, RTLD_NOW | RTLD_NOLOAD);
     m_fake = handle != nullptr ? static_cast<FakeFilter*>(::dlsym(handle, "gFake")) : nullptr;
-    if (m_fake != nullptr) *m_fake = {};
+    if (m_fake != nullptr) *m_fake = {.showDialog = ShowDialog};
   }
+  ~HostTest() override { delete gDialog; }
 
   void SetUp() override {
     ASSERT_NE(m_filter, nullptr);
@@ -71,6 +84,32 @@ class HostTest : public testing::Test {
         WhenVisible(name, act, tries - 1);
       }
     });
+  }
+
+  // Types the path into the file chooser when it shows, and presses Save.
+  static void SaveAs(const QString& path) {
+    WhenVisible("saveChooser", [path](QWidget* window) {
+      window->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(path);
+      ClickButton(window, host::TextID::kSave);
+    });
+  }
+
+  // The same for a path that is refused, with a message that has that part; then gives up.
+  static void SaveAsRefused(const QString& path, const char* part) {
+    SaveAs(path);
+    WhenVisible("message", [part](QWidget* message) {
+      EXPECT_TRUE(static_cast<QMessageBox*>(message)->text().contains(QLatin1String(part)));
+      WhenVisible("saveChooser", [](QWidget* window) { ClickButton(window, host::TextID::kCancel); });
+      ClickButton(message, host::TextID::kOk);
+    });
+  }
+
+  // Presses OK as the filter's dialog does: asks for the file. Gives the path of the buffer of `size` bytes.
+  std::string AskForFile(int32_t size = QZFILTER_PATH_SIZE) {
+    std::string buffer(static_cast<size_t>(size), '#');
+    const int32_t status = m_fake->begin.chooseFile(reinterpret_cast<void*>(gDialog->winId()), 0,
+                                                    buffer.data(), size, m_fake->begin.chooseFileValue);
+    return status == 0 ? std::string(buffer.c_str()) : "status " + std::to_string(status);
   }
 
   std::unique_ptr<host::FilterModule> m_filter;

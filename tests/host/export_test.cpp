@@ -1,7 +1,4 @@
-#include <QDialog>
 #include <QFileDialog>
-#include <QLineEdit>
-#include <QMessageBox>
 #include <cstring>
 #include <filesystem>
 
@@ -13,14 +10,6 @@
 namespace host {
 
 namespace {
-
-QPointer<QDialog> gDialog;
-
-// As the filter does it: a window of its own.
-void _ShowDialog() {
-  gDialog = new QDialog;
-  gDialog->show();
-}
 
 class FilterModuleTest : public HostTest {};
 
@@ -81,22 +70,12 @@ class ExportRunTest : public HostTest {
               ++m_finished;
               m_result = result;
             }) {
-    m_fake->showDialog = _ShowDialog;
     m_request.formatIndex = 1;
     m_request.assignmentID = -7;
     m_request.classPath = QStringLiteral("/classes/Año.xml");
   }
-  ~ExportRunTest() override { delete gDialog; }
 
   StartResult Start() { return m_run.Start(*m_filter, m_request, &m_window); }
-
-  // Presses OK as the filter's dialog does: asks for the file. Gives the path of the buffer of `size` bytes.
-  std::string AskForFile(int32_t size = 256) {
-    std::string buffer(static_cast<size_t>(size), '#');
-    const int32_t status = m_fake->begin.chooseFile(reinterpret_cast<void*>(gDialog->winId()), 0,
-                                                    buffer.data(), size, m_fake->begin.chooseFileValue);
-    return status == 0 ? std::string(buffer.c_str()) : "status " + std::to_string(status);
-  }
 
   bool WaitForEnd() {
     return QTest::qWaitFor([this] { return m_finished > 0; });
@@ -169,7 +148,7 @@ TEST_F(ExportRunTest, FilterRefuses) {
 TEST_F(ExportRunTest, DialogMayComeLater) {
   m_fake->showDialog = nullptr;
   ASSERT_EQ(Start(), StartResult::kStarted);
-  QTimer::singleShot(60, &m_window, _ShowDialog);
+  QTimer::singleShot(60, &m_window, ShowDialog);
   ASSERT_TRUE(QTest::qWaitFor([this] { return m_run.Dialog() != nullptr; }));
   EXPECT_EQ(m_finished, 0);
   gDialog->close();
@@ -213,7 +192,6 @@ TEST_F(ExportRunTest, OutcomeIsTheFilters) {
       EXPECT_EQ(m_result.error, 28);
       EXPECT_EQ(m_result.replacedCharacters, 3U);
       EXPECT_EQ(m_result.studentsWithoutIdentifier, 4U);
-      delete gDialog;
     }
   }
 }
@@ -232,7 +210,6 @@ TEST_F(OlderFilterTest, LeavesTheOutcomeUnknown) {
     gDialog->close();
     ASSERT_TRUE(WaitForEnd());
     EXPECT_EQ(m_result.outcome, chosen ? RunOutcome::kUnknown : RunOutcome::kCanceled);
-    delete gDialog;
   }
 }
 
@@ -246,21 +223,13 @@ TEST_F(ExportRunTest, ChoosesNothing) {
 
 class SaveChooserTest : public HostTest {
  protected:
-  // Types the name into the chooser when it shows, and presses Save.
-  static void Save(const QString& name) {
-    WhenVisible("saveChooser", [name](QWidget* window) {
-      window->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(name);
-      ClickButton(window, TextID::kSave);
-    });
-  }
-
   static std::optional<QString> Choose(const QStringList& classPaths = {}) {
     return ChooseSaveFile(nullptr, QStringLiteral("Quiz 1 - Canvas.csv"), QStringLiteral("csv"), classPaths);
   }
 };
 
 TEST_F(SaveChooserTest, ProposesNameAndLastFolder) {
-  Save(PathOf("results"));
+  SaveAs(PathOf("results"));
   EXPECT_EQ(Choose(), PathOf("results.csv"));
   WhenVisible("saveChooser", [this](QWidget* window) {
     EXPECT_EQ(window->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text(),
@@ -273,10 +242,10 @@ TEST_F(SaveChooserTest, ProposesNameAndLastFolder) {
 
 TEST_F(SaveChooserTest, AsksBeforeReplacing) {
   WriteFile(PathOf("old.csv"), "old");
-  Save(PathOf("old.csv"));
+  SaveAs(PathOf("old.csv"));
   WhenVisible("replaceQuestion", [this](QWidget* question) {
     WhenVisible("saveChooser", [this](QWidget*) {
-      Save(PathOf("old.csv"));
+      SaveAs(PathOf("old.csv"));
       WhenVisible("replaceQuestion", [](QWidget* again) { ClickButton(again, TextID::kReplace); });
     });
     ClickButton(question, TextID::kCancel);
@@ -288,11 +257,7 @@ TEST_F(SaveChooserTest, AsksBeforeReplacing) {
 TEST_F(SaveChooserTest, RefusesALongPath) {
   const QString folder = PathOf("f") + QString(200, u'o');
   ASSERT_TRUE(QDir().mkpath(folder));
-  Save(folder + u'/' + QString(60, u'x'));
-  WhenVisible("message", [](QWidget* message) {
-    WhenVisible("saveChooser", [](QWidget* window) { ClickButton(window, TextID::kCancel); });
-    ClickButton(message, TextID::kOk);
-  });
+  SaveAsRefused(folder + u'/' + QString(60, u'x'), "");
   EXPECT_EQ(Choose(), std::nullopt);
 }
 
@@ -302,15 +267,8 @@ TEST_F(SaveChooserTest, RefusesTheClassUnderEveryName) {
   std::filesystem::create_hard_link(PathOf("class.xml").toStdString(), PathOf("hard.csv").toStdString());
   for (const char* name : {"class.xml", "symbolic.csv", "hard.csv"}) {
     SCOPED_TRACE(name);
-    bool told = false;
-    Save(PathOf(name));
-    WhenVisible("message", [&](QWidget* message) {
-      told = static_cast<QMessageBox*>(message)->text().contains(QLatin1String(name));
-      WhenVisible("saveChooser", [](QWidget* window) { ClickButton(window, TextID::kCancel); });
-      ClickButton(message, TextID::kOk);
-    });
+    SaveAsRefused(PathOf(name), name);
     EXPECT_EQ(Choose({PathOf("gone.xml"), PathOf("class.xml")}), std::nullopt);
-    EXPECT_TRUE(told);
   }
 }
 

@@ -123,13 +123,9 @@ class Bytes(FolderTest):
 
 
 class Messages(FolderTest):
-    def check(self, source, message, *more):
-        """`message` follows the name of the file."""
-        self.write("s.json", source)
-        for name, text in more:
-            self.write(name, text)
-        result = run("s.json", *(name for name, _ in more), "-o", "out.rsrc", cwd=self.folder)
-        self.assertEqual((result.returncode, result.stderr.decode()), (1, f"s.json{message}\n"))
+    def check(self, message, *paths):
+        result = run(*paths, "-o", "out.rsrc", cwd=self.folder)
+        self.assertEqual((result.returncode, result.stderr.decode()), (1, message + "\n"))
         self.assertEqual([p.name for p in self.folder.iterdir() if p.suffix != ".json"], [])
 
     def test_syntax(self):
@@ -141,69 +137,45 @@ class Messages(FolderTest):
         }
         for name, (source, start) in rows.items():
             with self.subTest(name):
-                path = self.write("s.json", source)
-                result = run(path.name, "-o", "out.rsrc", cwd=self.folder)
-                self.assertEqual(result.returncode, 1)
+                result = run(self.write("s.json", source).name, "-o", "out.rsrc", cwd=self.folder)
+                self.assertEqual((result.returncode, result.stderr.count(b"\n")), (1, 1))
                 self.assertTrue(result.stderr.startswith(f"s.json{start}".encode()), result.stderr)
-                self.assertEqual(result.stderr.count(b"\n"), 1)
-
-    def test_general(self):
-        rows = {
-            "no object": ("[]", ": must be an object"),
-            "unknown section": ({"dialog": []}, ': unknown key "dialog"'),
-            "key twice": ('{"alerts": [], "alerts": []}', ': key "alerts" appears twice in one object'),
-            "no list": ({"alerts": {}}, ": alerts: must be a list"),
-            "unknown key": ({"stringLists": [{"id": 1, "string": []}]}, ': stringLists[0]: unknown key "string"'),
-            "missing key": ({"stringLists": [{"id": 1}]}, ': stringLists[0]: "strings" is missing'),
-            "id": (string_list(0), ": stringLists[0].id: must be from 1 to 32767"),
-            "fraction": (string_list(1.5), ": stringLists[0].id: must be a whole number"),
-            "no text": (string_list(1, "a", 2), ": stringLists[0].strings[1]: must be a text"),
-            "not in Roman": (string_list(1, "a", "日"),
-                             ": stringLists[0].strings[1]: contains U+65E5, which Mac OS Roman lacks"),
-            "surrogates": (string_list(1, "😀"),
-                           ": stringLists[0].strings[0]: contains U+1F600, which Mac OS Roman lacks"),
-            "control": (string_list(1, "a\0b"), ": stringLists[0].strings[0]: contains the control character U+0000"),
-            "too long": (string_list(1, "é" * 256),
-                         ": stringLists[0].strings[0]: is 256 characters long, 255 are allowed"),
-            "id twice": ({"stringLists": [{"id": 8, "strings": []}] * 2},
-                         ": stringLists[1].id: 'STR#' 8 is already defined by s.json: stringLists[0].id"),
-            "list with the id of help tags": (
-                string_list(600) | dialog(item(1, "combo", tag="Tag")),
-                ": dialogs[0].id: 'STR#' 600 is already defined by s.json: stringLists[0].id"),
-        }
-        for name, row in rows.items():
-            with self.subTest(name):
-                self.check(*row)
 
     def test_id_twice_in_two_files(self):
-        self.write("a.json", string_list(8))
-        self.write("b.json", string_list(8))
-        result = run("a.json", "b.json", "-o", "out.rsrc", cwd=self.folder)
-        self.assertEqual((result.returncode, result.stderr.decode()),
-                         (1, "b.json: stringLists[0].id: 'STR#' 8 is already defined by a.json: stringLists[0].id\n"))
+        for name in ("a.json", "b.json"):
+            self.write(name, string_list(8))
+        self.check("b.json: stringLists[0].id: 'STR#' 8 is already defined by a.json: stringLists[0].id",
+                   "a.json", "b.json")
 
-    def test_dialogs_too_near(self):
-        first = dialog(item(1, "combo"), item(2, "button", (70, 10, 9, 9), title=""), item(3, "combo", (80, 10, 9, 9)))
-        second = dialog(item(1, "combo"), id=602)
-        self.check({"dialogs": first["dialogs"] + second["dialogs"]},
-                   ": dialogs[1].items[0]: the dialogs 602 and 600 are too near: both have a control with the id 602, "
-                   "the other being s.json: dialogs[0].items[2]")
-
-    def test_alert(self):
+    def test_places(self):
         alert = {"id": 1, "kind": "stop", "bounds": [0, 0, 400, 160], "text": "T", "button": "OK"}
-        rows = {
-            "kind": ({"kind": "stopp"}, 'kind: "stopp" is none of stop, note, caution'),
-            "low": ({"explanation": "e" * 200},
-                    "bounds: is too low for the texts: the height must be 216 or more"),
-            "narrow": ({"button": "b" * 60}, "bounds: is too narrow for the button"),
+        three = dialog(item(1, "combo"), item(2, "button", (70, 10, 9, 9), title=""), item(3, "combo", (80, 10, 9, 9)))
+        whole = {
+            "no object": ("[]", "must be an object"),
+            "unknown section": ({"dialog": []}, 'unknown key "dialog"'),
+            "key twice": ('{"alerts": [], "alerts": []}', 'key "alerts" appears twice in one object'),
+            "no list": ({"alerts": {}}, "alerts: must be a list"),
+            "unknown key": ({"stringLists": [{"id": 1, "string": []}]}, 'stringLists[0]: unknown key "string"'),
+            "missing key": ({"stringLists": [{"id": 1}]}, 'stringLists[0]: "strings" is missing'),
+            "id": (string_list(0), "stringLists[0].id: must be from 1 to 32767"),
+            "fraction": (string_list(1.5), "stringLists[0].id: must be a whole number"),
+            "no text": (string_list(1, "a", 2), "stringLists[0].strings[1]: must be a text"),
+            "surrogates": (string_list(1, "😀"), "stringLists[0].strings[0]: contains U+1F600, which Mac OS Roman lacks"),
+            "control": (string_list(1, "a\0b"), "stringLists[0].strings[0]: contains the control character U+0000"),
+            "too long": (string_list(1, "é" * 256), "stringLists[0].strings[0]: is 256 characters long, 255 are allowed"),
+            "list with the id of help tags": (string_list(600) | dialog(item(1, "combo", tag="Tag")),
+                                              "dialogs[0].id: 'STR#' 600 is already defined by s.json: stringLists[0].id"),
+            "dialogs too near": ({"dialogs": three["dialogs"] + dialog(item(1, "combo"), id=602)["dialogs"]},
+                                 "dialogs[1].items[0]: the dialogs 602 and 600 are too near: both have a control with "
+                                 "the id 602, the other being s.json: dialogs[0].items[2]"),
+            "kind": ({"alerts": [alert | {"kind": "stopp"}]}, 'alerts[0].kind: "stopp" is none of stop, note, caution'),
+            "low alert": ({"alerts": [alert | {"explanation": "e" * 200}]},
+                          "alerts[0].bounds: is too low for the texts: the height must be 216 or more"),
+            "narrow alert": ({"alerts": [alert | {"button": "b" * 60}]},
+                             "alerts[0].bounds: is too narrow for the button"),
         }
-        for name, (keys, message) in rows.items():
-            with self.subTest(name):
-                self.check({"alerts": [alert | keys]}, f": alerts[0].{message}")
-
-    def test_dialog(self):
         button = item(1, "button", title="B")
-        rows = {
+        dialogs = {
             "window": (dialog(window="modal"), '.window: "modal" is none of movable-modal, modeless, floating'),
             "close box": (dialog(closeBox=1), ".closeBox: must be true or false"),
             "no window": (dialog(bounds=[0, 0, 300, 0]), ".bounds: is empty"),
@@ -223,13 +195,8 @@ class Messages(FolderTest):
                                   item(3, "text", (80, 10, 9, 9), labels=1)),
                            ".items[2].labels: items[1] labels this item already"),
         }
-        for name, (source, message) in rows.items():
-            with self.subTest(name):
-                self.check(source, f": dialogs[0]{message}")
-
-    def test_items(self):
         outside = ".rect: lies outside the window, which is 300 by 200"
-        rows = {
+        items = {
             "position": (item(2, "combo"), ".number: must be 1, the position in the list"),
             "negative width": (item(1, "combo", (10, 10, -5, 9)), ".rect: right edge lies left of the left edge"),
             "negative height": (item(1, "combo", (10, 10, 5, -9)), ".rect: bottom edge lies above the top edge"),
@@ -256,9 +223,12 @@ class Messages(FolderTest):
             "capacity without checks": (item(1, "list", mode="single", checkCapacity=5),
                                         '.checkCapacity: is for the mode "checks" only'),
         }
-        for name, (source, message) in rows.items():
-            with self.subTest(name):
-                self.check(dialog(source), f": dialogs[0].items[0]{message}")
+        items = {name: (dialog(source), message) for name, (source, message) in items.items()}
+        for place, rows in {"": whole, "dialogs[0]": dialogs, "dialogs[0].items[0]": items}.items():
+            for name, (source, message) in rows.items():
+                with self.subTest(name):
+                    self.write("s.json", source)
+                    self.check(f"s.json: {place}{message}", "s.json")
 
     def test_what_may_overlap(self):
         self.compile(dialog(item(1, "group", (0, 0, 300, 200)), item(2, "picture", (5, 5, 80, 80)),
@@ -267,15 +237,12 @@ class Messages(FolderTest):
 
 
 class Files(FolderTest):
-    def test_old_output_survives_a_failure(self):
-        output = self.folder / "out.rsrc"
-        output.write_bytes(b"old")
-        self.assertEqual(run(self.write("s.json", "{"), "-o", output).returncode, 1)
-        self.assertEqual(output.read_bytes(), b"old")
-
     def test_failures(self):
         source = self.write("s.json", "{}")
+        bad = self.write("bad.json", "{")
+        old = self.write("old.json", "old")
         rows = {
+            "old output stays": ([bad, "-o", old], 1, "bad.json:1:2"),
             "no source": ([self.folder / "none.json", "-o", "out"], 1, "none.json: No such file"),
             "source is a folder": ([self.folder, "-o", "out"], 1, str(self.folder)),
             "no folder": ([source, "-o", "none/out"], 1, "cannot write none/out: No such file"),
@@ -289,7 +256,8 @@ class Files(FolderTest):
                 result = run(*args, cwd=self.folder)
                 self.assertEqual(result.returncode, status)
                 self.assertIn(fragment, result.stderr.decode())
-                self.assertEqual(sorted(p.name for p in self.folder.iterdir()), ["folder", "s.json"])
+                self.assertEqual(sorted(p.name for p in self.folder.iterdir()), ["bad.json", "folder", "old.json", "s.json"])
+        self.assertEqual(old.read_text(), "old")
 
 
 if __name__ == "__main__":

@@ -5,16 +5,19 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cerrno>
 #include <cstdarg>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <set>
 #include <stdexcept>
 #include <string>
 #include <thread>
+#include <tuple>
 #include <vector>
+
+#include "tests/platform/temp_folder.h"
 
 namespace {
 
@@ -51,20 +54,15 @@ int __wrap_renameat(int oldFolder, const char* oldPath, int newFolder, const cha
 
 namespace {
 
+auto _Fields(const FileOutcome& o) {
+  return std::tuple(o.error, o.begun, o.incomplete, o.inPlace, o.inPlaceError);
+}
+
 class AtomicFile : public testing::Test {
  protected:
-  AtomicFile() {
-    std::string path = (fs::temp_directory_path() / "gradix-XXXXXX").string();
-    m_folder = mkdtemp(path.data());
-  }
-  ~AtomicFile() override {
-    gTemporaryError = gNamedError = gRenameError = 0;
-    fs::remove_all(m_folder);
-  }
+  ~AtomicFile() override { gTemporaryError = gNamedError = gRenameError = 0; }
 
-  std::string PathOf(const std::string& name) const { return (m_folder / name).string(); }
-
-  void Make(const std::string& name, const std::string& text) const { std::ofstream(PathOf(name)) << text; }
+  std::string PathOf(const std::string& name) const { return m_folder.Path(name); }
 
   std::string ContentOf(const std::string& name) const {
     std::ifstream stream(PathOf(name));
@@ -73,10 +71,8 @@ class AtomicFile : public testing::Test {
 
   // The names in the folder.
   std::string Names() const {
-    std::vector<std::string> names;
-    for (const fs::directory_entry& entry : fs::directory_iterator(m_folder))
-      names.push_back(entry.path().filename());
-    std::sort(names.begin(), names.end());
+    std::set<std::string> names;
+    for (const auto& entry : fs::directory_iterator(m_folder.Path())) names.insert(entry.path().filename());
     std::string list;
     for (const std::string& name : names) list += name + " ";
     return list;
@@ -90,52 +86,37 @@ class AtomicFile : public testing::Test {
     });
   }
 
-  fs::path m_folder;
+  TempFolder m_folder;
 };
 
 TEST_F(AtomicFile, IsCompleteOrTheOldOne) {
+  using enum InPlace;
   const struct {
     const char* name;
     int temporaryError, namedError, renameError, writeError;
     FileOutcome expected;  // error, begun, incomplete, in place and why
     const char* content;
   } rows[] = {
-      {"whole", 0, 0, 0, 0, {0, true, false, InPlace::kNo, 0}, "new"},
-      {"with a hidden name", EOPNOTSUPP, 0, 0, 0, {0, true, false, InPlace::kNo, 0}, "new"},
-      {"full disk", 0, 0, 0, ENOSPC, {ENOSPC, true, false, InPlace::kNo, 0}, "old"},
-      {"the same, hidden name", EOPNOTSUPP, 0, 0, ENOSPC, {ENOSPC, true, false, InPlace::kNo, 0}, "old"},
-      {"no room for a file", ENOSPC, ENOSPC, 0, 0, {ENOSPC, false, false, InPlace::kNo, 0}, "old"},
-      {"broken disk", 0, 0, EIO, 0, {EIO, true, false, InPlace::kNo, 0}, "old"},
-      {"closed folder", EACCES, EACCES, 0, 0, {0, true, false, InPlace::kNoSecondFile, EACCES}, "new"},
-      {"the same, hidden name", EISDIR, EROFS, 0, 0, {0, true, false, InPlace::kNoSecondFile, EROFS}, "new"},
-      {"the same, full disk",
-       EACCES,
-       EACCES,
-       0,
-       ENOSPC,
-       {ENOSPC, true, true, InPlace::kNoSecondFile, EACCES},
-       "new"},
-      {"mount point", 0, 0, EBUSY, 0, {0, true, false, InPlace::kNotReplaceable, EBUSY}, "new"},
-      {"the same, hidden name",
-       EOPNOTSUPP,
-       0,
-       EXDEV,
-       0,
-       {0, true, false, InPlace::kNotReplaceable, EXDEV},
-       "new"},
+      {"whole", 0, 0, 0, 0, {0, true, false, kNo, 0}, "new"},
+      {"with a hidden name", EOPNOTSUPP, 0, 0, 0, {0, true, false, kNo, 0}, "new"},
+      {"full disk", 0, 0, 0, ENOSPC, {ENOSPC, true, false, kNo, 0}, "old"},
+      {"the same, hidden name", EOPNOTSUPP, 0, 0, ENOSPC, {ENOSPC, true, false, kNo, 0}, "old"},
+      {"no room for a file", ENOSPC, ENOSPC, 0, 0, {ENOSPC, false, false, kNo, 0}, "old"},
+      {"broken disk", 0, 0, EIO, 0, {EIO, true, false, kNo, 0}, "old"},
+      {"closed folder", EACCES, EACCES, 0, 0, {0, true, false, kNoSecondFile, EACCES}, "new"},
+      {"the same, hidden name", EISDIR, EROFS, 0, 0, {0, true, false, kNoSecondFile, EROFS}, "new"},
+      {"the same, full disk", EPERM, EPERM, 0, ENOSPC, {ENOSPC, true, true, kNoSecondFile, EPERM}, "new"},
+      {"mount point", 0, 0, EBUSY, 0, {0, true, false, kNotReplaceable, EBUSY}, "new"},
+      {"the same, hidden name", ENOTSUP, 0, EXDEV, 0, {0, true, false, kNotReplaceable, EXDEV}, "new"},
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.name);
-    Make("file", "old");
+    m_folder.Write("file", "old");
     gTemporaryError = row.temporaryError;
     gNamedError = row.namedError;
     gRenameError = row.renameError;
     const FileOutcome outcome = Write("file", "new", row.writeError);
-    EXPECT_EQ(outcome.error, row.expected.error);
-    EXPECT_EQ(outcome.begun, row.expected.begun);
-    EXPECT_EQ(outcome.incomplete, row.expected.incomplete);
-    EXPECT_EQ(outcome.inPlace, row.expected.inPlace);
-    EXPECT_EQ(outcome.inPlaceError, row.expected.inPlaceError);
+    EXPECT_EQ(_Fields(outcome), _Fields(row.expected));
     EXPECT_EQ(ContentOf("file"), row.content);
     EXPECT_EQ(Names(), "file ");
 
@@ -151,14 +132,14 @@ TEST_F(AtomicFile, IsCompleteOrTheOldOne) {
 
 TEST_F(AtomicFile, CopiesALongTextInPlace) {
   const std::string text(200'001, 'x');
-  Make("file", text + text);
+  m_folder.Write("file", text + text);
   gRenameError = EBUSY;
   EXPECT_EQ(Write("file", text).error, 0);
   EXPECT_EQ(ContentOf("file"), text);
 }
 
 TEST_F(AtomicFile, IsNotSeenUntilItIsComplete) {
-  Make("file", "old");
+  m_folder.Write("file", "old");
   WriteAtomicFile(PathOf("file"), [this](std::FILE* file) {
     std::fputs("new", file);
     std::fflush(file);
@@ -178,7 +159,7 @@ TEST_F(AtomicFile, IsNotSeenUntilItIsComplete) {
 }
 
 TEST_F(AtomicFile, LinksOfOpenFilesAreWrittenDirectly) {
-  Make("file", "old");
+  m_folder.Write("file", "old");
   const int descriptor = open(PathOf("file").c_str(), O_RDWR);
   ASSERT_GE(descriptor, 0);
   fs::remove(PathOf("file"));
@@ -194,13 +175,13 @@ TEST_F(AtomicFile, LinksOfOpenFilesAreWrittenDirectly) {
 }
 
 TEST_F(AtomicFile, RefusesWhatIsNoPlaceForAFile) {
-  Make("file", "old");
+  m_folder.Write("file", "old");
   fs::create_symlink("loop", PathOf("loop"));
   const struct {
     std::string path;
     int error;
   } rows[] = {{"", ENOENT},
-              {m_folder.string(), EISDIR},
+              {m_folder.Path(), EISDIR},
               {PathOf("."), EISDIR},
               {PathOf("none/file"), ENOENT},
               {PathOf("none/"), ENOENT},

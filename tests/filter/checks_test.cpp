@@ -66,6 +66,10 @@ TEST_F(ChecksTest, AnotherFieldCanStillBeChosenAfterTheCheck) {
   ChooseRow(dialog, kFieldPopup, 3, Input::keys);
   const std::string bytes = Finish(dialog, kCanvas);
   EXPECT_NE(bytes.find(",user1,"), std::string::npos) << bytes;
+
+  const QPointer<QWidget> other = Open(kCanvas, WriteClass(ClassXml({"5"})), kQuiz);
+  ChooseRow(other, kFieldPopup, 6, Input::mouse);  // the last one
+  EXPECT_NE(Finish(other, kCanvas).find(",Room 1"), std::string::npos);
 }
 
 TEST_F(ChecksTest, StaysOpenWhenNoFileWasChosen) {

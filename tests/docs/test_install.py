@@ -51,9 +51,8 @@ class InstallTest(unittest.TestCase):
         done = run(host, module, ROOT / "samples/village-school.xml", 6, 2, "/nonexistent/x.csv", env=self.environment)
         self.assertIn("dialog is open", done.stdout)
 
+    @unittest.skipUnless(shutil.which("pkg-config"), "no pkg-config")
     def test_pkg_config(self):
-        if shutil.which("pkg-config") is None:
-            self.skipTest("no pkg-config")
         environment = dict(os.environ, PKG_CONFIG_PATH=str(self.prefix / "lib/pkgconfig"))
         variables = [run("pkg-config", f"--variable={name}", "gradix-filter", env=environment).stdout.strip()
                      for name in ("filterdir", "bundle")]
@@ -62,15 +61,13 @@ class InstallTest(unittest.TestCase):
         flags = run("pkg-config", "--cflags", "gradix-filter", env=environment).stdout.split()
         run(os.environ["CC"], "-fsyntax-only", *flags, ROOT / "docs/examples/host.c")
 
+    @unittest.skipUnless(shutil.which("desktop-file-validate"), "no desktop-file-validate")
     def test_desktop_entry(self):
-        if shutil.which("desktop-file-validate") is None:
-            self.skipTest("no desktop-file-validate")
         done = run("desktop-file-validate", self.prefix / "share/applications/gradix.desktop")
         self.assertEqual(done.stdout + done.stderr, "")
 
+    @unittest.skipUnless(shutil.which("mandoc"), "no mandoc")
     def test_manual_pages(self):
-        if shutil.which("mandoc") is None:
-            self.skipTest("no mandoc")
         for page in (self.prefix / "share/man/man1").iterdir():
             self.assertEqual(run("mandoc", "-T", "lint", "-W", "warning", page).stdout, "")
 

@@ -12,6 +12,7 @@ struct TestResource {
   std::string data;
   std::string name = {};
   uint8_t attributes = 0;
+  bool operator==(const TestResource&) const = default;
 };
 
 using TestTypes = std::vector<std::pair<std::string, std::vector<TestResource>>>;

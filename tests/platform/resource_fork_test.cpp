@@ -2,34 +2,28 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cstring>
-#include <memory>
+#include <optional>
+#include <vector>
 
 #include "tests/platform/fork_builder.h"
 
 namespace {
 
 // Reads a copy of exactly the fork's size on the heap, so that a sanitizer build catches a read past its end,
-// and touches every byte of the entries. The entries' data is gone afterwards; their sum stays.
-struct ForkResult {
-  explicit ForkResult(const std::string& fork) {
-    const std::unique_ptr<char[]> bytes(new char[fork.size()]);
-    std::memcpy(bytes.get(), fork.data(), fork.size());
-    const auto read = ReadResourceFork({bytes.get(), fork.size()});
-    if (!read) return;
-    valid = true;
-    for (const ResourceEntry& entry : *read) {
-      entries.push_back(
-          {entry.id, std::string(entry.data.begin(), entry.data.end()), entry.name, entry.attributes});
-      types.push_back(entry.type);
-    }
+// and touches every byte of the entries. Nothing when the fork is refused.
+std::optional<TestTypes> _Read(const std::string& fork) {
+  const std::vector<char> bytes(fork.begin(), fork.end());
+  const auto read = ReadResourceFork({bytes.data(), bytes.size()});
+  if (!read) return std::nullopt;
+  TestTypes types;
+  for (const ResourceEntry& entry : *read) {
+    const std::string type = BigEndian(entry.type, 4);
+    if (types.empty() || types.back().first != type) types.push_back({type, {}});
+    types.back().second.push_back(
+        {entry.id, std::string(entry.data.begin(), entry.data.end()), entry.name, entry.attributes});
   }
-
-  bool valid = false;
-  std::vector<TestResource> entries;
-  std::vector<ResType> types;
-};
+  return types;
+}
 
 const TestTypes kTypes = {
     {"STR#", {{128, StringList({"one", "two"}), "Words"}, {-5, "", {}, 0x20}}},
@@ -48,35 +42,16 @@ void _Put(std::string* fork, size_t offset, const std::string& bytes) {
 }
 
 TEST(ResourceFork, ReadsEveryEntryInOrder) {
-  const ForkResult result(BuildFork(kTypes));
-  ASSERT_TRUE(result.valid);
-  size_t index = 0;
-  for (const auto& [type, resources] : kTypes) {
-    for (const TestResource& expected : resources) {
-      SCOPED_TRACE(index);
-      ASSERT_LT(index, result.entries.size());
-      const TestResource& entry = result.entries[index];
-      EXPECT_EQ(BigEndian(result.types[index], 4), type);
-      EXPECT_EQ(entry.id, expected.id);
-      EXPECT_EQ(entry.data, expected.data);
-      EXPECT_EQ(entry.name, expected.name);
-      EXPECT_EQ(entry.attributes, expected.attributes);
-      ++index;
-    }
-  }
-  EXPECT_EQ(result.entries.size(), index);
-}
-
-TEST(ResourceFork, EmptyMapAndEmptyType) {
-  EXPECT_TRUE(ForkResult(BuildFork({})).valid);
-  EXPECT_TRUE(ForkResult(BuildFork({})).entries.empty());
-  EXPECT_EQ(ForkResult(BuildFork({{"none", {}}, {"some", {{1, "a"}}}})).entries.size(), 1U);
+  EXPECT_EQ(_Read(BuildFork(kTypes)), kTypes);
+  EXPECT_EQ(_Read(BuildFork({})), TestTypes());
+  const TestTypes some = {{"some", {{1, "a"}}}};
+  EXPECT_EQ(_Read(BuildFork({{"none", {}}, some.front()})), some);
 }
 
 TEST(ResourceFork, RefusesEveryTruncation) {
   const std::string fork = BuildFork(kTypes);
   for (size_t size = 0; size < fork.size(); ++size) {
-    EXPECT_FALSE(ForkResult(fork.substr(0, size)).valid) << size << " bytes";
+    EXPECT_FALSE(_Read(fork.substr(0, size))) << size << " bytes";
   }
 }
 
@@ -90,8 +65,9 @@ TEST(ResourceFork, SurvivesExtremeFields) {
         std::string fork = valid;
         if (offset + static_cast<size_t>(width) > fork.size()) continue;
         _Put(&fork, offset, BigEndian(value, width));
-        const ForkResult result(fork);
-        for (const TestResource& entry : result.entries) EXPECT_LE(entry.data.size(), fork.size());
+        for (const auto& [type, resources] : _Read(fork).value_or(TestTypes())) {
+          for (const TestResource& entry : resources) EXPECT_LE(entry.data.size(), fork.size());
+        }
       }
     }
   }
@@ -124,7 +100,7 @@ TEST(ResourceFork, RefusesWhatPointsOutside) {
   for (const auto& row : rows) {
     std::string fork = BuildFork(kTypes);
     _Put(&fork, row.offset, row.bytes);
-    EXPECT_FALSE(ForkResult(fork).valid) << row.name;
+    EXPECT_FALSE(_Read(fork)) << row.name;
   }
 }
 
@@ -140,9 +116,11 @@ TEST(ResourceFork, BoundsOverlappingLists) {
     }
     return fork;
   };
-  EXPECT_EQ(ForkResult(build(16, 4096)).entries.size(), 65536U);
-  EXPECT_FALSE(ForkResult(build(17, 4096)).valid);
-  EXPECT_FALSE(ForkResult(build(4000, 4096)).valid);
+  const auto read = _Read(build(16, 4096));
+  ASSERT_TRUE(read);
+  EXPECT_EQ(read->front().second.size(), 65536U);
+  EXPECT_FALSE(_Read(build(17, 4096)));
+  EXPECT_FALSE(_Read(build(4000, 4096)));
 }
 
 }  // namespace

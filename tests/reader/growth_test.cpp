@@ -5,12 +5,14 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdio>
 #include <ctime>
 #include <istream>
 #include <streambuf>
 #include <string>
 
 #include "Common/QZXMLParse/QZClassParse.h"
+#include "tests/support/Exported.h"
 #if defined(__SANITIZE_ADDRESS__)
 extern "C" size_t __sanitizer_get_current_allocated_bytes();
 #endif
@@ -157,6 +159,45 @@ TEST(Growth, NeverFasterThanTheDocument) {
       EXPECT_LT(costs[i].seconds, 2.5 * factor * seconds) << shape.what << ", times " << factor;
       const double bytes = shape.memory == kFlat ? costs[0].bytes : 1.5 * factor * costs[0].bytes;
       EXPECT_LT(costs[i].bytes, bytes + kSlack) << shape.what << ", times " << factor;
+    }
+  }
+}
+
+// The most that writing a class of `n` students holds: `n` assignments, `n` results and `n` questions, but a
+// cell for every student on every assignment.
+size_t _PeakOfWriting(const FormatRow& format, size_t n) {
+  const auto session = NewSession(format);
+  qz::ClassRecord* record = session->GetClass();
+  record->students.resize(n);
+  record->assignments.resize(n);
+  record->assignments[0].questions.resize(n);
+  for (size_t i = 0; i < n; ++i) {
+    record->students[i].id = static_cast<int32_t>(i);
+    record->assignments[i].selected = true;
+    record->assignments[i].results.resize(1);
+    record->assignments[i].results[0].studentID = record->students[i].id;
+  }
+  size_t peak = 0;
+  const auto note = [](void* seen, const char*, size_t size) {
+    *static_cast<size_t*>(seen) = std::max(*static_cast<size_t*>(seen), _LiveBytes());
+    return static_cast<ssize_t>(size);
+  };
+  std::FILE* sink =
+      fopencookie(&peak, "wb", {.read = nullptr, .write = note, .seek = nullptr, .close = nullptr});
+  std::setvbuf(sink, nullptr, _IONBF, 0);
+  const size_t before = _LiveBytes();
+  session->ExportTo(sink);
+  std::fclose(sink);
+  return peak - before;
+}
+
+TEST(Growth, OfAnExportFollowsStudentsAndResults) {
+  for (const FormatRow& format : FormatTable()) {
+    constexpr size_t kSmall = 150;
+    const auto small = static_cast<double>(_PeakOfWriting(format, kSmall));
+    for (const size_t times : {2, 4}) {
+      const auto peak = static_cast<double>(_PeakOfWriting(format, times * kSmall));
+      EXPECT_LT(peak / small, 1.5 * static_cast<double>(times)) << format.key;
     }
   }
 }

@@ -41,30 +41,10 @@ TEST(ClassParse, ReadsEveryField) {
   EXPECT_EQ(parsed.report.className, "Biología 中");
   EXPECT_EQ(parsed.report.replacedCharacters, 1U);
   EXPECT_EQ(Dump(parsed.record), kWholeDump);
-}
 
-// Hands out the document one byte at a time, as a pipe may.
-class OneByteBuffer : public std::streambuf {
-  int_type underflow() override {
-    if (m_next == kWhole.size()) return traits_type::eof();
-    m_byte = kWhole[m_next++];
-    setg(&m_byte, &m_byte, &m_byte + 1);
-    return traits_type::to_int_type(m_byte);
-  }
-
-  size_t m_next = 0;
-  char m_byte = 0;
-};
-
-TEST(ClassParse, DoesNotDependOnTheStreamsReads) {
-  OneByteBuffer buffer;
-  std::istream stream(&buffer);
-  qz::ClassRecord record;
-  EXPECT_TRUE(QZClassParse(&record, stream));
-  EXPECT_EQ(Dump(record), kWholeDump);
-
-  std::istringstream again(_InStudent(""));
-  EXPECT_TRUE(QZClassParse(&record, again));
+  qz::ClassRecord record = parsed.record;
+  std::istringstream another(_InStudent(""));
+  EXPECT_TRUE(QZClassParse(&record, another));
   EXPECT_EQ(record.students.size(), 3U) << "a read appends";
 }
 

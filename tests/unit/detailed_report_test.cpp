@@ -8,16 +8,6 @@ namespace {
 
 using Options = std::array<bool, qz::kReportOptionCount>;
 
-qz::QuestionRecord _Question(int32_t id, int32_t bank, const char* answer, double points) {
-  qz::QuestionRecord question;
-  question.number = 50 + id;  // not what the report counts by
-  question.questionID = id;
-  question.bankID = bank;
-  question.answer = answer;
-  question.pointsPossible = points;
-  return question;
-}
-
 // Two students, one of them absent, and two questions.
 qz::ClassRecord _SmallClass() {
   qz::ClassRecord record;
@@ -32,7 +22,9 @@ qz::ClassRecord _SmallClass() {
   record.assignments[2].selected = true;  // only the first selected one is reported
   qz::AssignmentRecord& quiz = record.assignments[1];
   quiz.selected = true;
-  quiz.questions = {_Question(11, 2, "B", 2.0), _Question(12, 2, "C", 1.0)};
+  // The report does not count by their numbers.
+  quiz.questions = {{qz::kQuestionMC, 61, 11, 2, 5, "B", "", "", "", 2.0},
+                    {qz::kQuestionMC, 62, 12, 2, 5, "C", "", "", "", 1.0}};
   quiz.results.resize(1);
   quiz.results[0].studentID = 7;
   quiz.results[0].responses = {

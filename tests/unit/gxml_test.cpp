@@ -10,33 +10,30 @@ namespace {
 
 using Path = std::vector<int32_t>;
 
-struct Lookup {
-  const char* what;
-  Path path;
-  const char* name;
-  int32_t id;
-};
-
-const Lookup kLookups[] = {
-    {"the document element", {}, "class", 1},
-    {"nothing else at the top", {}, "student", 0},
-    {"names are case-sensitive", {}, "Class", 0},
-    {"a student's id text", {1, 22, 51}, "student-id", 63},
-    {"which the class has not", {1}, "student-id", 0},
-    {"a label in the preferences", {1, 21}, "custom-1", 39},
-    {"a custom text in a student", {1, 22, 51}, "custom-1", 72},
-    {"pad-id comes last", {1, 22, 51}, "pad-id", 75},
-    {"points of an assignment", {1, 23, 81}, "points-possible", 99},
-    {"points of a question", {1, 23, 81, 100, 111}, "points-possible", 128},
-    {"the response list", {1, 23, 81, 101, 141}, "response-list", 154},
-    {"the deepest element", {1, 23, 81, 101, 141, 154, 161}, "points-earned", 172},
-    {"nothing below a text", {1, 11}, "class-name", 0},
-    {"nothing below an unknown element", {1, 0}, "student", 0},
-    {"nothing on a wrong path", {22}, "student", 0},
-};
-
 TEST(ElementTables, ResolveNamesByPath) {
-  for (const Lookup& row : kLookups) {
+  const struct {
+    const char* what;
+    Path path;
+    const char* name;
+    int32_t id;
+  } rows[] = {
+      {"the document element", {}, "class", 1},
+      {"nothing else at the top", {}, "student", 0},
+      {"names are case-sensitive", {}, "Class", 0},
+      {"a student's id text", {1, 22, 51}, "student-id", 63},
+      {"which the class has not", {1}, "student-id", 0},
+      {"a label in the preferences", {1, 21}, "custom-1", 39},
+      {"a custom text in a student", {1, 22, 51}, "custom-1", 72},
+      {"pad-id comes last", {1, 22, 51}, "pad-id", 75},
+      {"points of an assignment", {1, 23, 81}, "points-possible", 99},
+      {"points of a question", {1, 23, 81, 100, 111}, "points-possible", 128},
+      {"the response list", {1, 23, 81, 101, 141}, "response-list", 154},
+      {"the deepest element", {1, 23, 81, 101, 141, 154, 161}, "points-earned", 172},
+      {"nothing below a text", {1, 11}, "class-name", 0},
+      {"nothing below an unknown element", {1, 0}, "student", 0},
+      {"nothing on a wrong path", {22}, "student", 0},
+  };
+  for (const auto& row : rows) {
     const auto depth = static_cast<int32_t>(row.path.size());
     EXPECT_EQ(XmlElementFindElementID(row.path.data(), depth, row.name), row.id) << row.what;
     if (row.id != 0) {

@@ -20,8 +20,10 @@ class State : public FieldsTest {
   static QString AnswerAlert(const std::function<void()>& show) {
     QString text;
     QTimer::singleShot(20, [&text] {
-      text = gestures::MessageBox()->text();
-      gestures::PressTitled(gestures::MessageBox(), "OK");
+      QMessageBox* const box = gestures::MessageBox();
+      if (box == nullptr) return;
+      text = box->text();
+      gestures::PressTitled(box, "OK");
     });
     show();
     return text;
@@ -163,6 +165,11 @@ TEST_F(State, AListDrawsByItsOwnProcedure) {
   LBSetRedraw(dialog, kDemoList, true);
   Widget(dialog, kDemoList)->grab();
   EXPECT_EQ(gDrawn, (std::vector<int32_t>{0, 1}));
+  Wait(3);
+  gDrawn.clear();
+  LSetCell(GetControlList(DLGGetChildControl(dialog, kDemoList)), 1, "c");
+  Wait(3);
+  EXPECT_FALSE(gDrawn.empty()) << "a text has changed";
 }
 
 }  // namespace

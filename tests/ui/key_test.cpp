@@ -119,6 +119,17 @@ TEST_F(KeyTest, TabReturnAndEscapeDoNothingByThemselves) {
   EXPECT_EQ(GetControlText(Item(kEdit)), "abc");
 }
 
+TEST_F(KeyTest, ControlsTellWhetherAKeyChangedThem) {
+  for (const char* text : {"one", "two"}) InsertMenuItem(GetControlPopupMenuHandle(Item(kPopup)), text, 99);
+  SetControlValue(Item(kPopup), 1);
+  for (const bool changes : {true, false})
+    EXPECT_EQ(HandleControlKey(Item(kPopup), kDownArrowChar, 0), changes);
+  EXPECT_EQ(TakeLog(), EventLog{});
+  HideControl(Item(kEdit));
+  EXPECT_FALSE(HandleControlKey(Item(kEdit), 'x', 0));
+  EXPECT_EQ(GetControlText(Item(kEdit)), "abc");
+}
+
 TEST_F(KeyTest, InputMethodsReportAnAction) {
   Focus(kEdit);
   QInputMethodEvent input;

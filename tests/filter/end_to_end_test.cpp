@@ -102,7 +102,7 @@ TEST_P(EveryFormat, WritesWhatTheCommandLineWritesForTheSameChoices) {
     return;
   }
   const char* const fields[] = {"custom-2", "custom-1", "alias", "student-id", "last-name", "first-name"};
-  const uint32_t field = Format().index % std::size(fields);
+  const uint32_t field = Format().index % uint32_t{std::size(fields)};
   ChooseRow(dialog, kFieldPopup, 5 - static_cast<int>(field), By());
   Press(dialog, kSelectAll, By());
   Press(dialog, kClearAll, By());

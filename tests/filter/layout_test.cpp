@@ -37,7 +37,7 @@ class Layout : public FilterTest, public testing::WithParamInterface<std::tuple<
 };
 
 // The size without which the widget cuts its text.
-QSize Needed(const QWidget& widget) {
+QSize _Needed(const QWidget& widget) {
   if (const auto* const label = qobject_cast<const QLabel*>(&widget)) {
     const QRect text =
         label->fontMetrics().boundingRect(QRect(0, 0, label->width(), 0), Qt::TextWordWrap, label->text());
@@ -60,12 +60,12 @@ QSize Needed(const QWidget& widget) {
   return {};
 }
 
-bool MayHold(const QWidget& outer, const QWidget& inner) {
+bool _MayHold(const QWidget& outer, const QWidget& inner) {
   const auto* const group = qobject_cast<const QGroupBox*>(&outer);
   return group != nullptr && group->contentsRect().translated(group->pos()).contains(inner.geometry());
 }
 
-std::vector<QWidget*> VisibleItems(const QWidget& dialog) {
+std::vector<QWidget*> _VisibleItems(const QWidget& dialog) {
   std::vector<QWidget*> items;
   for (QWidget* const item : dialog.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
     if (item->isVisible() && item->objectName().startsWith("item")) items.push_back(item);
@@ -73,22 +73,22 @@ std::vector<QWidget*> VisibleItems(const QWidget& dialog) {
   return items;
 }
 
-std::string NameOf(const QWidget& item) {
+std::string _NameOf(const QWidget& item) {
   return item.objectName().toStdString() + " \"" + item.accessibleName().toStdString() + "\"";
 }
 
-void ExpectRoomForAll(const QWidget& dialog) {
-  const std::vector<QWidget*> items = VisibleItems(dialog);
+void _ExpectRoomForAll(const QWidget& dialog) {
+  const std::vector<QWidget*> items = _VisibleItems(dialog);
   EXPECT_GE(items.size(), 15U);
   for (size_t i = 0; i < items.size(); ++i) {
     const QWidget& item = *items[i];
-    EXPECT_LE(Needed(item).width(), item.width()) << NameOf(item);
-    EXPECT_LE(Needed(item).height(), item.height()) << NameOf(item);
-    EXPECT_TRUE(dialog.rect().contains(item.geometry())) << NameOf(item);
+    EXPECT_LE(_Needed(item).width(), item.width()) << _NameOf(item);
+    EXPECT_LE(_Needed(item).height(), item.height()) << _NameOf(item);
+    EXPECT_TRUE(dialog.rect().contains(item.geometry())) << _NameOf(item);
     for (size_t j = 0; j < i; ++j) {
       const QWidget& other = *items[j];
-      if (MayHold(item, other) || MayHold(other, item)) continue;
-      EXPECT_FALSE(item.geometry().intersects(other.geometry())) << NameOf(item) << ", " << NameOf(other);
+      if (_MayHold(item, other) || _MayHold(other, item)) continue;
+      EXPECT_FALSE(item.geometry().intersects(other.geometry())) << _NameOf(item) << ", " << _NameOf(other);
     }
   }
 }
@@ -98,7 +98,7 @@ TEST_P(Layout, HasRoomForItsTexts) {
     for (uint32_t format = 0; format < Module().formatCount(); ++format) {
       SCOPED_TRACE((spanish ? "Spanish, " : "English, ") + std::to_string(format));
       const QPointer<QWidget> dialog = Open(format, kSampleClass, 306, spanish);
-      ExpectRoomForAll(*dialog);
+      _ExpectRoomForAll(*dialog);
       if (Font().pointSize() <= 11) {
         constexpr int kTitleBar = 40;
         EXPECT_LE(dialog->width(), 1024);
@@ -108,7 +108,7 @@ TEST_P(Layout, HasRoomForItsTexts) {
       }
       QApplication::setFont(QFont(Font().family(), 24));  // the desktop's, while the dialog is open
       RunEvents();
-      ExpectRoomForAll(*dialog);
+      _ExpectRoomForAll(*dialog);
       QApplication::setFont(Font());
       Key(dialog, Qt::Key_Escape);
     }

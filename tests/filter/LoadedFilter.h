@@ -13,6 +13,7 @@ struct LoadedFilter {
   decltype(&QZFilter_GetExportFormatInfoA) formatInfo = nullptr;
   decltype(&QZFilter_ExportBeginA) begin = nullptr;
   decltype(&QZFilter_ExportFileA) exportFile = nullptr;
+  decltype(&QZFilter_ExportEnd) end = nullptr;
   QZFilter_GetExportOutcomeProc outcome = nullptr;
   decltype(&QZFilter_GetCustomMessageA) customMessage = nullptr;
   decltype(&DllMain) dllMain = nullptr;
@@ -27,6 +28,7 @@ struct LoadedFilter {
     Find("QZFilter_GetExportFormatInfoA", &formatInfo);
     Find("QZFilter_ExportBeginA", &begin);
     Find("QZFilter_ExportFileA", &exportFile);
+    Find("QZFilter_ExportEnd", &end);
     Find("QZFilter_GetExportOutcome", &outcome);
     Find("QZFilter_GetCustomMessageA", &customMessage);
     Find("DllMain", &dllMain);

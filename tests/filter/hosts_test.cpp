@@ -50,11 +50,19 @@ TEST_F(HostsTest, RefusesWhatDoesNotExist) {
   QZEXPORTFORMAT format;
   std::memset(&format, 0x5A, sizeof format);
   const QZEXPORTFORMAT before = format;
-  for (const unsigned long index : {Module().formatCount() + 0UL, 1UL << 32, ~0UL}) {
+  QZEXPORTBEGIN begin{};
+  for (const uint32_t index : {Module().formatCount(), Module().formatCount() + 1, UINT32_MAX}) {
     EXPECT_EQ(Module().formatInfo(&format, index), 0U);
+    begin.formatIndex = index;
+    unsigned long session = 77;
+    EXPECT_EQ(Module().begin(nullptr, &begin, &session), QZFILTER_FAILED);
+    EXPECT_EQ(session, 77U);
   }
+  for (const unsigned long index : {1UL << 32, ~0UL}) EXPECT_EQ(Module().formatInfo(&format, index), 0U);
   EXPECT_EQ(std::memcmp(&format, &before, sizeof format), 0);
+  EXPECT_EQ(Module().begin(nullptr, nullptr, nullptr), QZFILTER_FAILED);
   EXPECT_EQ(ExportFile(12345, kSampleClass), QZFILTER_FAILED);
+  EXPECT_EQ(Module().end(12345), QZFILTER_SUCCESS);
   char message[] = "before";
   EXPECT_EQ(Module().customMessage(nullptr, 12345, message, sizeof message), 0U);
   EXPECT_STREQ(message, "before");
@@ -221,6 +229,14 @@ TEST_F(HostsTest, TwoExportsAtATime) {
       EXPECT_EQ(bytes.find("204100") != std::string::npos, isLower) << "the class: " << bytes;
     }
   }
+}
+
+TEST_F(HostsTest, TheDialogKeepsItsSessionWhenTheHostEndsTheRun) {
+  const unsigned long session = Begin(kCanvas);
+  EXPECT_EQ(ExportFile(session, kSampleClass, kQuiz1), 1U);
+  EXPECT_EQ(Module().end(session), QZFILTER_SUCCESS);
+  ASSERT_EQ(Dialogs().size(), 1U);
+  EXPECT_FALSE(Finish(Dialogs().front(), kCanvas).empty());
 }
 
 TEST_F(HostsTest, UnloadsWhileTheUserIsAsked) {

@@ -80,10 +80,13 @@ TEST(EntryPoints, KeepAnOutcomeUntilTheNextSession) {
   EXPECT_EQ(QZFilter_ExportBeginA(nullptr, nullptr, &first), QZFILTER_FAILED);
   ASSERT_EQ(QZFilter_ExportBeginA(nullptr, &begin, &first), QZFILTER_SUCCESS);
   ASSERT_EQ(QZFilter_ExportBeginA(nullptr, &begin, &second), QZFILTER_SUCCESS);
-  EXPECT_EQ(stateOf(first), QZFILTER_PENDING) << "it lives";
+  EXPECT_EQ(QZFilter_ExportEnd(first), QZFILTER_SUCCESS);
+  EXPECT_EQ(stateOf(first), QZFILTER_PENDING) << "the options dialog ends the session, not the host";
+  EXPECT_EQ(QZFilter_ExportEnd(12345), QZFILTER_SUCCESS);
   g_sessionMgr.EndSession(first);
   begin.formatIndex = QZFilter_GetNumExportFormatsA();
   EXPECT_EQ(QZFilter_ExportBeginA(nullptr, &begin, &third), QZFILTER_FAILED);
+  EXPECT_EQ(third, 0UL);
   EXPECT_EQ(stateOf(first), QZFILTER_CANCELLED) << "no session has begun";
   begin.formatIndex = 6;
   ASSERT_EQ(QZFilter_ExportBeginA(nullptr, &begin, &third), QZFILTER_SUCCESS);

@@ -41,8 +41,8 @@ enum class RunOutcome {
 
 struct RunResult {
   RunOutcome outcome = RunOutcome::kCanceled;
-  QString path;   // of the file that was chosen last; empty: none
-  int error = 0;  // why it was not written, an errno value; 0: unknown
+  QString path;             // of the file that was chosen last; empty: none
+  int error = 0;            // why it was not written, an errno value; 0: unknown
   bool incomplete = false;  // not written, and a part of it stands where the earlier file was
   uint32_t replacedCharacters = 0;
   uint32_t studentsWithoutIdentifier = 0;

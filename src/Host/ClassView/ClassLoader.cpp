@@ -1,6 +1,7 @@
 #include "Host/ClassView/ClassLoader.h"
 
-#include <QMetaObject>
+#include <QCoreApplication>
+#include <QEvent>
 #include <utility>
 
 namespace host {
@@ -16,19 +17,18 @@ bool ClassLoader::Load(const QString& path, Done done) {
   m_loading = true;
   m_done = std::move(done);
   m_thread = std::thread([this, path] {
-    const ReadResult result = ReadClass(path);
+    m_result = ReadClass(path);
     // Posted, so a destroyed loader drops it.
-    QMetaObject::invokeMethod(
-        this, [this, result] { Finish(result); }, Qt::QueuedConnection);
+    QCoreApplication::postEvent(this, new QEvent(QEvent::User));
   });
   return true;
 }
 
-void ClassLoader::Finish(const ReadResult& result) {
+void ClassLoader::customEvent(QEvent* /*event*/) {
   m_thread.join();
   m_loading = false;
   const Done done = std::exchange(m_done, nullptr);
-  done(result);
+  done(std::exchange(m_result, {}));
 }
 
 }  // namespace host

@@ -22,10 +22,12 @@ class ClassLoader : public QObject {
   bool Load(const QString& path, Done done);
   bool IsLoading() const { return m_loading; }
 
- private:
-  void Finish(const ReadResult& result);
+ protected:
+  void customEvent(QEvent* event) override;  // the read has ended
 
+ private:
   std::thread m_thread;
+  ReadResult m_result;  // the thread's while it runs
   bool m_loading = false;
   Done m_done;
 };

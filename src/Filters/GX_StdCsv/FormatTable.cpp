@@ -126,9 +126,8 @@ constexpr FormatRow kFormats[] = {
         .popupLabel = "Extract Username from:",
         .prompt =
             "Identify the Gradix student information field that corresponds to the Blackboard Learn 9.1 "
-            "Username. "
-            "Blackboard Learn 9.1 will not process data for any student that is not already entered in the "
-            "Results Center.",
+            "Username. Blackboard Learn 9.1 will not process data for any student that is not already "
+            "entered in the Results Center.",
         .nameWord = "Blackboard Learn 9.1",
         .idWord = "Username",
         .helpTopic = 223,
@@ -157,10 +156,8 @@ constexpr FormatRow kFormats[] = {
         .defaultUserIDField = kUserIDCustom1,
         .popupLabel = "Extract Username from:",
         .prompt = "Identify the Gradix student information field that corresponds to the Brightspace by D2L "
-                  "Username. "
-                  "Brightspace by D2L will not process data for any student that is not already entered in "
-                  "the grade "
-                  "book.",
+                  "Username. Brightspace by D2L will not process data for any student that is not already "
+                  "entered in the grade book.",
         .nameWord = "Brightspace by D2L",
         .idWord = "Username",
         .helpTopic = 227,

@@ -57,9 +57,7 @@ void _CheckClass(const ExportOptions& options, const qz::ClassRecord& record) {
 }
 
 FileOutcome _Write(const std::string& path, Session* session) {
-  constexpr TextEncoding kEncoding = TextEncoding::kMacRoman;
-  return IsStandardOutput(path) ? WriteExport(session, stdout, kEncoding)
-                                : WriteExport(session, path, kEncoding);
+  return IsStandardOutput(path) ? WriteExport(session, stdout) : WriteExport(session, path);
 }
 
 }  // namespace

@@ -6,6 +6,8 @@
 #include <iosfwd>
 #include <string>
 
+#include "Common/QZData/ClassTexts.h"
+#include "Common/QZData/OriginalTexts.h"
 #include "Common/QZData/QZClass.h"
 
 enum class ClassFaultCode {
@@ -30,8 +32,11 @@ struct ClassFile {
   std::string name;                 // the class's own, UTF-8 on one line; empty when the file has none
   qz::ClassRecord record;           // the whole class, or nothing after a fault
   uint64_t replacedCharacters = 0;  // characters that the 8-bit texts of the record have as "?"
+  qz::OriginalTexts originals;      // the texts with such characters
   ClassFault fault;
 
+  // A view of this file's class; valid as long as the file stays where it is.
+  qz::ClassTexts Texts() const { return {record, originals}; }
   bool IsRead() const { return fault.code == ClassFaultCode::kNone; }
 };
 

@@ -1,13 +1,11 @@
 #include "Export/ExportWriter.h"
 
-FileOutcome WriteExport(Session* session, const std::string& path, TextEncoding encoding) {
-  return WriteAtomicFile(
-      path, [session, encoding](std::FILE* stream) { return WriteExport(session, stream, encoding).error; });
+FileOutcome WriteExport(Session* session, const std::string& path) {
+  session->Export(path.c_str());
+  return session->Outcome();
 }
 
-FileOutcome WriteExport(Session* session, std::FILE* stream, TextEncoding encoding) {
-  switch (encoding) {
-    case TextEncoding::kMacRoman: session->ExportTo(stream); break;
-  }
+FileOutcome WriteExport(Session* session, std::FILE* stream) {
+  session->ExportTo(stream);
   return session->Outcome();
 }

@@ -8,14 +8,10 @@
 #include "Common/AtomicFile.h"
 #include "Filters/GX_StdCsv/Session.h"
 
-enum class TextEncoding {
-  kMacRoman,  // the program's own: the bytes as the sessions write them
-};
-
-// Writes the file as WriteAtomicFile does.
-FileOutcome WriteExport(Session* session, const std::string& path, TextEncoding encoding);
+// Writes the classic file as WriteAtomicFile does.
+FileOutcome WriteExport(Session* session, const std::string& path);
 
 // The same to an open stream, which stays open.
-FileOutcome WriteExport(Session* session, std::FILE* stream, TextEncoding encoding);
+FileOutcome WriteExport(Session* session, std::FILE* stream);
 
 #endif  // GRADIX_EXPORT_EXPORTWRITER_H

@@ -6,6 +6,7 @@
 #include <iosfwd>
 #include <string>
 
+#include "Common/QZData/OriginalTexts.h"
 #include "Common/QZData/QZClass.h"
 
 enum QZClassFault : int32_t {
@@ -28,6 +29,10 @@ struct QZClassParseReport {
 
   std::string className;            // UTF-8, as written, up to about 800 bytes; empty when there is none
   uint64_t replacedCharacters = 0;  // became "?" in a text of the records because Mac OS Roman lacks them
+
+  // The texts with such characters, as written. Kept when the caller sets this before the read; what it held
+  // is dropped.
+  qz::OriginalTexts* originals = nullptr;
 };
 
 // Reads a class file (XML: UTF-8, US-ASCII or a declared ISO-8859-1) from `stream` and appends to `record`.

@@ -11,17 +11,20 @@
 #include "gradix/QZFilter.h"
 
 class Session;
+struct GradebookLayout;
 
 // The detailed report: the one format that is no gradebook file. It is about one assignment, has no user
 // identifier, and has options of its own.
 constexpr uint32_t kDetailedResultsFormat = 3;
 
 struct FormatRow {
-  uint32_t index;         // its position in the table, by which the host names it
-  const char* key;        // by which the command line names it
-  const char* name;       // shown to the user, at most 50 characters
-  int spanishNameID = 0;  // string id of the Spanish name, 0 when there is none
+  uint32_t index;               // its position in the table, by which the host names it
+  const char* key;              // by which the command line names it
+  const char* alias = nullptr;  // another word for the same
+  const char* name;             // shown to the user, at most 50 characters
+  int spanishNameID = 0;        // string id of the Spanish name, 0 when there is none
   std::unique_ptr<Session> (*make)(const QZEXPORTBEGIN* begin);
+  const GradebookLayout* layout = nullptr;  // of its file; null: the detailed report
 
   bool isBlackboard = false;        // the dialog has Blackboard's items
   bool hasUnquotedVariant = false;  // Session::m_bUseQuotes has an effect

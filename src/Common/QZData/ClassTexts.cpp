@@ -1,0 +1,49 @@
+#include "Common/QZData/ClassTexts.h"
+
+#include "Common/RomanText.h"
+
+namespace qz {
+
+namespace {
+
+std::string _Text(const std::string* original, const std::string& roman) {
+  return original != nullptr ? *original : Utf8FromRoman(roman);
+}
+
+const std::string& _TextOf(const AssignmentRecord& assignment, AssignmentText text) {
+  switch (text) {
+    case AssignmentText::kName: break;
+    case AssignmentText::kAssignmentID: return assignment.assignmentID;
+    case AssignmentText::kCategory: return assignment.category;
+    case AssignmentText::kOnlineID: return assignment.onlineID;
+    case AssignmentText::kDate: return assignment.date;
+  }
+  return assignment.name;
+}
+
+}  // namespace
+
+std::string ClassTexts::Student(size_t student, const StudentField& field) const {
+  return _Text(m_originals->OfStudent(student, field), field.Value(m_record->students[student]));
+}
+
+std::string ClassTexts::StudentName(size_t student) const {
+  const std::string first = Student(student, FindStudentField(kUserIDFirstName));
+  const std::string last = Student(student, FindStudentField(kUserIDLastName));
+  return first.empty() || last.empty() ? first + last : first + " " + last;
+}
+
+std::string ClassTexts::AssignmentName(size_t assignment) const {
+  return Assignment(assignment, AssignmentText::kName);
+}
+
+std::string ClassTexts::Assignment(size_t assignment, AssignmentText text) const {
+  return _Text(m_originals->OfAssignment(assignment, text), _TextOf(m_record->assignments[assignment], text));
+}
+
+std::string ClassTexts::FieldTitle(const StudentField& field) const {
+  if (field.title != nullptr) return field.title;
+  return _Text(m_originals->OfLabel(field.custom), field.Title(*m_record));
+}
+
+}  // namespace qz

@@ -1,0 +1,81 @@
+// The gradebook that a teacher downloads from a system: which system's it is, and what its columns and rows
+// are.
+#ifndef GRADIX_SYSTEMS_DOWNLOAD_H
+#define GRADIX_SYSTEMS_DOWNLOAD_H
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "Tables/DelimitedTable.h"
+
+struct LearningSystem;
+struct Gradebook;
+
+enum class ColumnRole : uint8_t {
+  kIdentifier,  // may hold what our identifier field holds; goes into the upload
+  kName,        // of the student, or a part of it; goes into the upload
+  kIdentity,    // another column that the upload has to have
+  kItem,        // scores that a teacher may fill in
+  kReadOnly,    // totals and what else the system computes
+  kOther,
+};
+
+struct DownloadColumn {
+  ColumnRole role = ColumnRole::kOther;
+  std::string title;                     // UTF-8; of an item without the system's additions
+  std::optional<double> pointsPossible;  // of an item, where the download tells
+};
+
+// A student of the course.
+struct CourseMember {
+  size_t row;        // in the table
+  std::string name;  // "First Last", UTF-8
+};
+
+// What a system's download looks like.
+struct DownloadLayout {
+  TextEncoding ownEncoding = TextEncoding::kUtf8;
+  const char* expected = "";  // the headings by which it is known, for messages
+
+  // Whether these headings are the system's.
+  bool (*matches)(const DelimitedTable& table) = nullptr;
+
+  // Tells the columns and rows of the table. False, with the reason, when they make no sense.
+  bool (*understand)(Gradebook* gradebook, TableFault* fault) = nullptr;
+
+  // An identifier without the system's additions ("#12", ="12").
+  std::string (*plainIdentifier)(std::string_view cell) = nullptr;
+
+  bool foldsIdentifierCase = false;  // "ANNA" and "anna" are one user
+  bool hasDecimalCommas = false;     // in tables with semicolons
+  int maxDecimals = -1;              // of a score; -1: any
+  const char* noScore = "";          // a cell without a score, as the system writes it
+
+  // The heading of a new column; null: none can be added by an upload.
+  std::string (*newTitle)(const std::string& title, int32_t pointsPossible) = nullptr;
+};
+
+// A download, understood.
+struct Gradebook {
+  const LearningSystem* system = nullptr;
+  DelimitedTable table;
+  std::vector<DownloadColumn> columns;  // by column of the table
+  std::vector<size_t> headerRows;       // rows above the students that go into the upload; the headings first
+  std::vector<CourseMember> members;    // in the order of their rows
+  size_t pointsRow = 0;                 // a row with the points possible of the items; 0: none
+
+  std::string Identifier(const CourseMember& member, size_t column) const;
+  // The score in a cell, nothing for a cell without one. Words like "EX" are no score, but not empty either.
+  std::optional<double> Score(size_t row, size_t column) const;
+  bool HasScore(size_t row, size_t column) const;  // anything that a teacher would miss
+};
+
+// Reads the download at `path`. `system` null: its headings tell which one's it is.
+TableFault ReadGradebook(const std::string& path, const LearningSystem* system, Gradebook* gradebook);
+TableFault ParseGradebook(std::string_view bytes, const LearningSystem* system, Gradebook* gradebook);
+
+#endif  // GRADIX_SYSTEMS_DOWNLOAD_H

@@ -9,10 +9,15 @@
 enum ExitStatus : int {
   kExitDone = 0,
   kExitUsage = 2,
-  kExitClassFile = 3,    // unreadable or malformed
+  kExitClassFile = 3,    // the class file or the download: unreadable or malformed
   kExitIdentifiers = 4,  // the students' identifiers were refused
   kExitOutput = 5,       // not, or not completely, written
+  kExitTrouble = 6,      // found by the check, or left by filling
 };
+
+// The status of several classes together: of 3, 5, 4, 2 (choices that the class does not have) and 6 the
+// first that any of them has.
+ExitStatus Worst(ExitStatus a, ExitStatus b);
 
 // Ends the program with the status. The text, UTF-8 fit for a terminal, goes to standard error; an empty one
 // ends it quietly.

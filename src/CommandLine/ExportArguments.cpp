@@ -142,7 +142,7 @@ ExportOptions MakeExportOptions(const ExportArguments& arguments) {
   choices.format = &_ParseFormat(arguments.format);
   _CheckApplicability(arguments, *choices.format);
   if (arguments.output.empty()) _Fail("-o needs the name of a file");
-  options.classFile = arguments.classFile;
+  options.classFiles = {arguments.classFile};
   options.outputFile = arguments.output;
   options.force = arguments.force;
   choices.assignmentIDs = _ParseAssignments(arguments.assignments);

@@ -17,7 +17,7 @@ namespace {
 }
 
 void _RefuseToOverwrite(const ExportOptions& options) {
-  if (!IsSameFile(options.classFile, options.outputFile)) return;
+  if (!IsSameFile(options.classFiles.front(), options.outputFile)) return;
   _Fail("the output would overwrite the class file; choose another name with -o");
 }
 
@@ -65,7 +65,7 @@ FileOutcome _Write(const std::string& path, Session* session) {
 void RunExport(const ExportOptions& options) {
   _RefuseToOverwrite(options);
   const std::unique_ptr<Session> session = MakeSession(*options.choices.format);
-  *session->GetClass() = ReadClassInput(options.classFile).record;
+  *session->GetClass() = ReadClassInput(options.classFiles.front()).record;
   _ApplyChoices(options.choices, session.get());
   _CheckClass(options, *session->GetClass());
   TellOutcome(options.outputFile, _Write(options.outputFile, session.get()));

@@ -10,6 +10,7 @@
 
 #include "Common/QZData/QZClass.h"
 #include "Filters/GX_StdCsv/FormatTable.h"
+#include "Systems/ExportSubject.h"
 
 // What the detailed report contains.
 struct ReportChoices {
@@ -21,7 +22,9 @@ struct ExportChoices {
   const FormatRow* format = nullptr;
   std::vector<int32_t> assignmentIDs;  // empty: all
   qz::UserIDField identifier = qz::kUserIDAlias;
-  bool useQuotes = true;
+  bool useQuotes = true;  // in the classic file
+  Dialect dialect = Dialect::kClassic;
+  char delimiter = ',';  // in a current file that takes another one
   ReportChoices report;  // of the detailed report only
 };
 

@@ -48,3 +48,12 @@ AppliedChoices Apply(const ExportChoices& choices, Session* session) {
   session->m_bUseQuotes = choices.useQuotes;
   return applied;
 }
+
+ExportSubject MakeExportSubject(const ExportChoices& choices, const Session& session,
+                                const qz::OriginalTexts& originals) {
+  const qz::ClassTexts texts(session.Class(), originals);
+  ExportSubject subject = MakeExportSubject(*choices.format, texts, choices.identifier, choices.dialect);
+  subject.delimiter = choices.delimiter;
+  subject.useQuotes = choices.useQuotes;
+  return subject;
+}

@@ -8,6 +8,7 @@
 #include <memory>
 #include <vector>
 
+#include "Common/QZData/OriginalTexts.h"
 #include "Common/QZData/QZClass.h"
 #include "Filters/GX_StdCsv/FormatTable.h"
 #include "Systems/ExportSubject.h"
@@ -46,5 +47,10 @@ std::unique_ptr<Session> MakeSession(const FormatRow& format);
 // Puts the choices into a session of their format whose class has been read. After a fault the session is not
 // to be exported.
 AppliedChoices Apply(const ExportChoices& choices, Session* session);
+
+// What the export writes of a session to which the choices were applied. The session and the original texts
+// of its class outlive the subject.
+ExportSubject MakeExportSubject(const ExportChoices& choices, const Session& session,
+                                const qz::OriginalTexts& originals);
 
 #endif  // GRADIX_EXPORT_EXPORTCHOICES_H

@@ -32,6 +32,7 @@ class Session {
 
   QZEXPORTBEGIN GetExportInfo() const { return m_begin; }
   qz::ClassRecord* GetClass() { return &m_class; }
+  const qz::ClassRecord& Class() const { return m_class; }
 
   // Whether texts stand in quotes. Read by the formats that have an unquoted variant.
   bool m_bUseQuotes = true;
@@ -39,9 +40,6 @@ class Session {
   // Writes the text with every double quote turned into an apostrophe, so that it can stand between double
   // quotes as it is. Writes no quotes around it.
   static void WriteSafeCSVString(std::FILE* file, const char* text);
-
- protected:
-  const qz::ClassRecord& Class() const { return m_class; }
 
  private:
   // Writes the format. Failures are read off the stream afterwards.

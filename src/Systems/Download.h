@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -26,7 +27,8 @@ enum class ColumnRole : uint8_t {
 
 struct DownloadColumn {
   ColumnRole role = ColumnRole::kOther;
-  std::string title;                     // UTF-8; of an item without the system's additions
+  std::string title;       // UTF-8; of an item without the system's additions
+  std::string otherTitle;  // of an item: without what may belong to the title or not ("Quiz: "); mostly empty
   std::optional<double> pointsPossible;  // of an item, where the download tells
 };
 
@@ -41,15 +43,16 @@ struct DownloadLayout {
   TextEncoding ownEncoding = TextEncoding::kUtf8;
   const char* expected = "";  // the headings by which it is known, for messages
 
-  // Whether these headings are the system's.
-  bool (*matches)(const DelimitedTable& table) = nullptr;
+  // Whether the headings, in the first row, are the system's. Asks for less when the user says that they are.
+  bool (*matches)(const DelimitedTable& table, bool isChosen) = nullptr;
 
-  // Tells the columns and rows of the table. False, with the reason, when they make no sense.
-  bool (*understand)(Gradebook* gradebook, TableFault* fault) = nullptr;
+  // Tells the columns and rows of the table, or the fault why it cannot.
+  TableFault (*understand)(Gradebook* gradebook) = nullptr;
 
   // An identifier without the system's additions ("#12", ="12").
   std::string (*plainIdentifier)(std::string_view cell) = nullptr;
 
+  bool endsEveryRow = false;         // no row is shorter than the headings
   bool foldsIdentifierCase = false;  // "ANNA" and "anna" are one user
   bool hasDecimalCommas = false;     // in tables with semicolons
   int maxDecimals = -1;              // of a score; -1: any
@@ -67,14 +70,25 @@ struct Gradebook {
   std::vector<size_t> headerRows;       // rows above the students that go into the upload; the headings first
   std::vector<CourseMember> members;    // in the order of their rows
   size_t pointsRow = 0;                 // a row with the points possible of the items; 0: none
+  bool decimalCommas = false;           // in its scores
+
+  static constexpr size_t kNone = std::numeric_limits<size_t>::max();
+
+  // The title of a column as it stands in the table, and the first column with that title, in any letter
+  // case, or kNone.
+  std::string_view Heading(size_t column) const { return table.Text(0, column); }
+  size_t FindHeading(std::string_view heading) const;
 
   std::string Identifier(const CourseMember& member, size_t column) const;
   // The score in a cell, nothing for a cell without one. Words like "EX" are no score, but not empty either.
   std::optional<double> Score(size_t row, size_t column) const;
   bool HasScore(size_t row, size_t column) const;  // anything that a teacher would miss
+  // A score as this gradebook writes it.
+  std::string ScoreText(double score) const;
 };
 
-// Reads the download at `path`. `system` null: its headings tell which one's it is.
+// Reads the download at `path`. `system` null: its headings tell which one's it is. Any thread; throws
+// nothing.
 TableFault ReadGradebook(const std::string& path, const LearningSystem* system, Gradebook* gradebook);
 TableFault ParseGradebook(std::string_view bytes, const LearningSystem* system, Gradebook* gradebook);
 

@@ -5,7 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <span>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -40,10 +40,10 @@ class DelimitedTable {
  private:
   friend class TableBuilder;
 
-  struct Extent {
-    size_t begin;
-    size_t size;
-    bool quoted;
+  struct Extent {  // there can be many
+    uint32_t begin;
+    uint32_t size : 31;
+    uint32_t quoted : 1;
   };
   std::string m_text;  // all cells, one behind the other
   std::vector<Extent> m_cells;
@@ -60,16 +60,17 @@ struct TableFault {
   std::string reason;       // English
 };
 
-// What the file could be read as when its bytes do not tell its encoding.
-using EncodingOf = TextEncoding (*)(std::span<const std::string> firstCells);
+// The encoding to assume when the bytes of the file do not tell. Of `headings` there is the first row only,
+// its characters beyond ASCII read as if they were ISO-8859-1.
+using EncodingOf = std::function<TextEncoding(const DelimitedTable& headings)>;
 
-// Reads the file at `path`, at most 256 MB of it. The separator is found out among comma, semicolon, colon
-// and tab. Rows need not be equally long; whoever knows the table decides. Rows without any text are left
-// out. Any thread.
-TableFault ReadTable(const std::string& path, EncodingOf ownEncoding, DelimitedTable* table);
+// Reads the file at `path`, at most 256 MB and 32 million cells of it. The separator is found out among
+// comma, semicolon, tab and colon. Rows need not be equally long; whoever knows the table decides. Rows
+// without any text are left out. Any thread; throws nothing.
+TableFault ReadTable(const std::string& path, const EncodingOf& ownEncoding, DelimitedTable* table);
 
 // The same for bytes in memory.
-TableFault ParseTable(std::string_view bytes, EncodingOf ownEncoding, DelimitedTable* table);
+TableFault ParseTable(std::string_view bytes, const EncodingOf& ownEncoding, DelimitedTable* table);
 
 // Puts the cell into `line` as RFC 4180 wants it: in quotes when `quoted` or when the text needs them, a
 // quote inside doubled. No separator is added.

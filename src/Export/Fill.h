@@ -9,7 +9,6 @@
 #include <cstdint>
 #include <cstdio>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "Common/AtomicFile.h"
@@ -17,19 +16,17 @@
 #include "Systems/ExportSubject.h"
 #include "Systems/GradebookMatch.h"
 
-struct FillChoices {
-  std::vector<std::pair<int32_t, std::string>>
-      titles;               // of columns, UTF-8, by assignment id: chosen by the user
-  bool matchNames = false;  // where identifiers fail, names unique on both sides
+struct FillChoices : MatchChoices {
   bool onlyEmpty = false;   // scores that are there stay
   bool newColumns = false;  // for the assignments that have none
 };
 
 enum class FillKind : uint8_t {
-  kFilled,   // there was no score
-  kChanged,  // there was another one
-  kSame,     // it was there already
-  kKept,     // the gradebook's stays: we have none, or only empty cells are filled
+  kFilled,    // there was no score
+  kChanged,   // there was another one
+  kSame,      // it was there already
+  kKept,      // the gradebook's stays: we have none, or only empty cells are filled
+  kNoNumber,  // ours is none that can be written; the gradebook's stays
 };
 
 struct FillCell {
@@ -40,23 +37,32 @@ struct FillCell {
   std::string newText;  // as it is written; the old one when it is kept
 };
 
+// A column of the file for upload.
+struct FillColumn {
+  size_t column = GradebookMatch::kNone;      // of the download; kNone: a new one
+  size_t assignment = GradebookMatch::kNone;  // position in ExportSubject::assignments; kNone: not filled
+};
+
 // What will be done. `subject` and `gradebook` outlive it.
 struct FillPlan {
   const ExportSubject* subject = nullptr;
   const Gradebook* gradebook = nullptr;
   GradebookMatch match;
-  std::vector<FillCell> cells;               // by student as in the download, then by column
+  std::vector<FillColumn> columns;           // of the file, in its order
+  std::vector<FillCell> cells;               // by student as in the download, then as the columns
   std::vector<size_t> newColumns;            // positions in ExportSubject::assignments
   std::vector<size_t> unmatchedStudents;     // of ours, with a result
   std::vector<size_t> unmatchedMembers;      // positions in Gradebook::members
   std::vector<size_t> unmatchedAssignments;  // positions in ExportSubject::assignments
   std::vector<size_t> unmatchedColumns;      // items of the gradebook that get nothing
+  std::vector<size_t> differentPoints;       // positions in ExportSubject::assignments
   Findings findings;                         // worst first; of what is written
 
-  bool IsNothingMatched() const;
-  bool IsSomethingLeftOut() const;  // a result of ours does not arrive
+  bool IsNothingMatched() const;    // no result of ours has a place: there is nothing to write
+  bool IsSomethingLeftOut() const;  // a result of ours has none, or is none that can be written
 };
 
+// The user's titles have to be sound: see FillPlan::match.titleFaults.
 FillPlan PlanFill(const ExportSubject& subject, const Gradebook& gradebook, const FillChoices& choices);
 
 // Writes the file for upload, in the encoding and style of the download.

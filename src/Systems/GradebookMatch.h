@@ -3,12 +3,58 @@
 #define GRADIX_SYSTEMS_GRADEBOOKMATCH_H
 
 #include <cstddef>
+#include <cstdint>
 #include <limits>
+#include <string>
+#include <utility>
 #include <vector>
 
 #include "Systems/Download.h"
 #include "Systems/ExportSubject.h"
-#include "Systems/Finding.h"
+
+struct MatchChoices {
+  std::vector<std::pair<int32_t, std::string>> titles =
+      {};                   // of columns, UTF-8, by assignment id: the user's
+  bool matchNames = false;  // where identifiers fail, names unique on both sides
+};
+
+// How a student was found in the course, or why not. Nobody is guessed.
+enum class StudentMatch : uint8_t {
+  kIdentifier,
+  kFoldedIdentifier,  // differs in letter case, which is nothing to the system
+  kName,
+  kUnknown,  // no member has the identifier
+  kNoIdentifier,
+  kLetterCase,        // a member's identifier differs in letter case, and so is another one to the system
+  kSharedIdentifier,  // by several of our students
+  kSeveralMembers,    // have the identifier
+};
+
+// How an assignment's column was found, or why not.
+enum class TitleMatch : uint8_t {
+  kExact,
+  kFolded,  // differs in letter case or in repeated blanks
+  kChosen,  // by the user
+  kNoColumn,
+  kReadOnly,        // the column is the system's own
+  kSharedTitle,     // by several of our assignments
+  kSeveralColumns,  // have the title
+};
+
+// What is wrong with a title that the user chose; the assignment then has no column.
+struct ChosenTitleFault {
+  enum class Kind : uint8_t {
+    kUnknownAssignment,   // none of the subject's has the id
+    kSeveralAssignments,  // have the id, or it is given twice
+    kUnknownTitle,
+    kSeveralColumns,  // have the title; their whole headings tell them apart
+    kReadOnly,
+    kTakenColumn,  // chosen for another assignment, too
+  };
+
+  Kind kind;
+  size_t choice;  // position in MatchChoices::titles
+};
 
 struct GradebookMatch {
   static constexpr size_t kNone = std::numeric_limits<size_t>::max();
@@ -16,18 +62,24 @@ struct GradebookMatch {
   size_t identifierColumn = kNone;  // whose values the identifier field has; kNone: no column has any of them
   std::vector<size_t> memberOf;     // by position in ClassRecord::students: in Gradebook::members, or kNone
   std::vector<size_t> studentOf;    // the other way round
-  std::vector<size_t> columnOf;     // by position in ExportSubject::assignments: column, or kNone
+  std::vector<StudentMatch> students;  // by position in ClassRecord::students
+  std::vector<size_t> likeMember;      // by the same: whose identifier differs in letter case only, or kNone
+
+  std::vector<size_t> columnOf;  // by position in ExportSubject::assignments: column, or kNone
   std::vector<size_t>
-      assignmentOf;  // by column of the table: position in ExportSubject::assignments, or kNone
-  std::vector<size_t> matchedByCase;  // students whose identifier differs in letter case
-  std::vector<size_t> matchedByName;  // students
-  std::vector<size_t>
-      ambiguousTitles;  // positions in ExportSubject::assignments: several columns have the title
+      assignmentOf;                // by column of the table: position in ExportSubject::assignments, or kNone
+  std::vector<TitleMatch> titles;  // by position in ExportSubject::assignments
+  std::vector<ChosenTitleFault> titleFaults;
+
+  bool HasStudents() const;  // anybody is in the course
 };
 
-// What only the download can tell, for an upload of the subject's own file (Dialect::kClassic or kCurrent)
-// into this course, or for the filled gradebook (kFilled). Each system's part is in its file.
-Findings CheckAgainstGradebook(const ExportSubject& subject, const Gradebook& gradebook,
-                               const GradebookMatch& match);
+// Linear in the class and the gradebook.
+GradebookMatch MatchGradebook(const ExportSubject& subject, const Gradebook& gradebook,
+                              const MatchChoices& choices);
+
+// Positions in ExportSubject::assignments whose column is worth other points than ours.
+std::vector<size_t> DifferentPoints(const ExportSubject& subject, const Gradebook& gradebook,
+                                    const GradebookMatch& match);
 
 #endif  // GRADIX_SYSTEMS_GRADEBOOKMATCH_H

@@ -10,6 +10,7 @@
 
 struct CurrentFile;
 struct DownloadLayout;
+struct UploadRules;
 
 // A format that the system takes.
 struct SystemFormat {
@@ -22,6 +23,7 @@ struct LearningSystem {
   const char* name;                          // as its makers write it
   std::span<const SystemFormat> formats;     // the present one first
   const DownloadLayout* download = nullptr;  // the gradebook that teachers download from it; null: unknown
+  const UploadRules* upload = nullptr;       // with a gradebook at hand; null: what is true of every system
   bool isRetired = false;                    // no longer sold
 
   // Adds what is peculiar to the system; CheckExport adds what is true of all.

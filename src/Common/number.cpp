@@ -57,6 +57,50 @@ size_t _Terminate(char* buffer, const std::to_chars_result& result) {
   return static_cast<size_t>(result.ptr - buffer);
 }
 
+// A decimal number: digits * 10 ^ exponent.
+struct Decimal {
+  uint64_t digits = 0;
+  int32_t exponent = 0;
+};
+
+// The nearest one of ten digits.
+Decimal _TenDigits(double magnitude) {
+  char text[32];
+  const auto result =
+      std::to_chars(text, std::end(text), magnitude, std::chars_format::scientific, 9);  // "1.234567890e-05"
+  Decimal decimal;
+  std::from_chars(text, text + 1, decimal.digits);
+  uint64_t behindPoint = 0;
+  const char* const exponent = std::from_chars(text + 2, result.ptr, behindPoint).ptr + 1;
+  decimal.digits = decimal.digits * 1'000'000'000 + behindPoint;
+  std::from_chars(*exponent == '+' ? exponent + 1 : exponent, result.ptr, decimal.exponent);
+  decimal.exponent -= 9;
+  return decimal;
+}
+
+// A half goes up.
+void _Round(Decimal* decimal, int32_t maxDecimals) {
+  const int32_t surplus = -maxDecimals - decimal->exponent;
+  if (surplus <= 0) return;
+  uint64_t unit = 1;
+  for (int32_t i = 0; i < std::min(surplus, 11); ++i) unit *= 10;  // eleven: less than a half in any case
+  decimal->digits = (decimal->digits + unit / 2) / unit;
+  decimal->exponent = -maxDecimals;
+}
+
+std::string _Text(Decimal decimal) {
+  while (decimal.digits != 0 && decimal.digits % 10 == 0) {
+    decimal.digits /= 10;
+    ++decimal.exponent;
+  }
+  std::string text = std::to_string(decimal.digits);
+  if (decimal.digits == 0) return text;
+  if (decimal.exponent >= 0) return text.append(static_cast<size_t>(decimal.exponent), '0');
+  const auto decimals = static_cast<size_t>(-decimal.exponent);
+  if (text.size() <= decimals) text.insert(0, decimals - text.size() + 1, '0');
+  return text.insert(text.size() - decimals, 1, '.');
+}
+
 }  // namespace
 
 int32_t ParseInt32(const char* text) {
@@ -89,6 +133,14 @@ double ParseDouble(const char* text, size_t length) {
 size_t FormatGeneral(char (&buffer)[32], double value) {
   return _Terminate(buffer,
                     std::to_chars(buffer, std::end(buffer) - 1, value, std::chars_format::general, 6));
+}
+
+std::string PlainNumber(double value, int32_t maxDecimals) {
+  Decimal decimal = _TenDigits(std::fabs(value));
+  if (maxDecimals >= 0) _Round(&decimal, maxDecimals);
+  std::string text = _Text(decimal);
+  if (value < 0.0 && text != "0") text.insert(0, 1, '-');
+  return text;
 }
 
 size_t FormatFixed(char (&buffer)[kFixedTextSize], double value, int32_t decimals) {

@@ -113,6 +113,41 @@ TEST(Number, FixedTakesAnyNumberOfDecimals) {
   EXPECT_EQ(_Fixed(-DBL_MAX, kMaxDecimals).size(), kFixedTextSize - 1);
 }
 
+TEST(Number, PlainIsWhatPeopleWrite) {
+  const struct {
+    double value;
+    int32_t decimals;
+    const char* text;
+  } rows[] = {
+      {0.0, -1, "0"},
+      {-0.0, -1, "0"},
+      {7.5, -1, "7.5"},
+      {-0.25, -1, "-0.25"},
+      {0.1 + 0.2, -1, "0.3"},
+      {1e6, -1, "1000000"},
+      {1234.567, -1, "1234.567"},
+      {1.0 / 3, -1, "0.3333333333"},
+      {12345678901.5, -1, "12345678900"},
+      {1e-7, -1, "0.0000001"},
+      {9999999999.9, -1, "10000000000"},
+      {2.675, 2, "2.68"},  // as a double a little less
+      {-2.675, 2, "-2.68"},
+      {2.674, 2, "2.67"},
+      {0.00499999, 2, "0"},
+      {-0.004, 2, "0"},
+      {0.005, 2, "0.01"},
+      {9.999, 2, "10"},
+      {2.5, 0, "3"},
+      {0.5, 0, "1"},
+      {1e-300, 2, "0"},
+      {1e12, 2, "1000000000000"},
+  };
+  for (const auto& row : rows) {
+    EXPECT_EQ(PlainNumber(row.value, row.decimals), row.text) << row.value << ' ' << row.decimals;
+  }
+  EXPECT_EQ(PlainNumber(1e300), "1" + std::string(300, '0'));
+}
+
 TEST(Number, ParsesIntegers) {
   const struct {
     const char* text;

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "Common/QZData/QZClass.h"
+#include "Systems/ExportSubject.h"
 
 // Students are given by their position in ClassRecord::students.
 struct IdentifierCheck {
@@ -21,5 +22,9 @@ struct IdentifierCheck {
 };
 
 IdentifierCheck CheckIdentifiers(const qz::ClassRecord& record, qz::UserIDField field);
+
+// The same of the identifiers as the subject's file has them. In a current file, which leaves students
+// without one out, these share nothing.
+IdentifierCheck CheckIdentifiers(const ExportSubject& subject);
 
 #endif  // GRADIX_EXPORT_IDENTIFIERCHECK_H

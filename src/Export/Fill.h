@@ -14,6 +14,7 @@
 #include "Common/AtomicFile.h"
 #include "Systems/Download.h"
 #include "Systems/ExportSubject.h"
+#include "Systems/Finding.h"
 #include "Systems/GradebookMatch.h"
 
 struct FillChoices : MatchChoices {

@@ -32,7 +32,7 @@ class DelimitedTable {
   size_t ColumnCount() const { return RowCount() == 0 ? 0 : CellCount(0); }  // of the first row, the headings
   size_t CellCount(size_t row) const { return m_rowBegins[row + 1] - m_rowBegins[row]; }
 
-  // Empty behind the row's last cell: programs leave out empty cells at the end.
+  // Empty behind the row's last cell and below the last row: programs leave out empty cells at the end.
   Cell At(size_t row, size_t column) const;
   std::string_view Text(size_t row, size_t column) const { return At(row, column).text; }
   uint64_t LineOf(size_t row) const { return m_lines[row]; }  // in the file, 1-based: where the row begins

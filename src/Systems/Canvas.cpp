@@ -1,7 +1,91 @@
 // What we know of Canvas.
+#include <algorithm>
+
+#include "Systems/Download.h"
+#include "Systems/DownloadText.h"
 #include "Systems/Systems.h"
 
 namespace {
+
+// Download
+
+constexpr FixedColumn kDownloadColumns[] = {
+    {"Student", ColumnRole::kName, NamePart::kSorted},
+    {"LastName", ColumnRole::kName, NamePart::kLast},
+    {"FirstName", ColumnRole::kName, NamePart::kFirst},
+    {"ID", ColumnRole::kIdentity},  // Canvas's own number of the user
+    {"SIS User ID", ColumnRole::kIdentifier},
+    {"SIS Login ID", ColumnRole::kIdentifier},
+    {"Integration ID", ColumnRole::kIdentifier},
+    {"Root Account", ColumnRole::kIdentity},
+    {"Section", ColumnRole::kIdentity},
+};
+
+constexpr std::string_view kTotals[] = {
+    "Current Points", "Current Score",  "Current Grade",  "Final Points",    "Final Score",
+    "Final Grade",    "Override Score", "Override Grade", "Override Status",
+};
+
+bool _IsDownload(const DelimitedTable& table, bool) {
+  const auto begins = [&table](std::initializer_list<const char*> headings) {
+    size_t column = 0;
+    return std::all_of(headings.begin(), headings.end(),
+                       [&](const char* heading) { return IsHeading(table.Text(0, column++), heading); });
+  };
+  return (begins({"Student", "ID"}) || begins({"LastName", "FirstName", "ID"})) &&
+         HasHeading(table, "Section");
+}
+
+// "Quiz 1 (12345)" is the column of an assignment; totals come for the course and for each group.
+DownloadColumn _DescribeColumn(std::string_view heading) {
+  std::string_view title = heading;
+  const auto number = CutBracket(&title, " (", ')');
+  const bool isNumber =
+      number && !number->empty() && number->find_first_not_of("0123456789") == std::string_view::npos;
+  if (isNumber) return {.role = ColumnRole::kItem, .title = std::string(title)};
+  const std::string_view text = TrimBlanks(heading);
+  const bool isTotal = std::any_of(std::begin(kTotals), std::end(kTotals),
+                                   [text](std::string_view total) { return EndsWithNoCase(text, total); });
+  return {.role = isTotal ? ColumnRole::kReadOnly : ColumnRole::kOther};
+}
+
+// A row with the points possible stands above the students, one about manual posting possibly above it.
+TableFault _FindPoints(Gradebook* gradebook) {
+  const DelimitedTable& table = gradebook->table;
+  for (size_t row = 1; row <= 2 && gradebook->pointsRow == 0; ++row) {
+    if (IsHeading(table.Text(row, 0), "Points Possible")) gradebook->pointsRow = row;
+  }
+  if (gradebook->pointsRow == 0) return {};
+  gradebook->headerRows.push_back(gradebook->pointsRow);
+  for (size_t i = 0; i < gradebook->columns.size(); ++i) {
+    DownloadColumn& column = gradebook->columns[i];
+    const std::string_view points = table.Text(gradebook->pointsRow, i);
+    if (IsHeading(points, "(read only)")) column.role = ColumnRole::kReadOnly;
+    if (column.role == ColumnRole::kItem) column.pointsPossible = ParseCellNumber(points);
+  }
+  return {};
+}
+
+// ="12" of a text that a spreadsheet could take for a formula or a number.
+std::string _PlainText(std::string_view cell) {
+  if (cell.size() < 3 || !cell.starts_with("=\"") || !cell.ends_with('"')) return std::string(cell);
+  std::string plain;
+  for (size_t i = 2; i + 1 < cell.size(); ++i) {
+    plain += cell[i];
+    if (cell[i] == '"' && i + 2 < cell.size() && cell[i + 1] == '"') ++i;
+  }
+  return plain;
+}
+
+constexpr DownloadLayout kDownload = {
+    .expected = "\"Student\", \"ID\", ... \"Section\"",
+    .matches = _IsDownload,
+    .columns = kDownloadColumns,
+    .describe = _DescribeColumn,
+    .complete = _FindPoints,
+    .plainText = _PlainText,
+    .newTitle = [](const std::string& title, int32_t) { return title; },
+};
 
 constexpr SystemFormat kFormats[] = {{.key = "canvas"}};
 
@@ -11,4 +95,5 @@ const LearningSystem kCanvasSystem = {
     .key = "canvas",
     .name = "Canvas",
     .formats = kFormats,
+    .download = &kDownload,
 };

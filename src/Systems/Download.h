@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <limits>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,11 +26,15 @@ enum class ColumnRole : uint8_t {
   kOther,
 };
 
+enum class NamePart : uint8_t { kNone, kFirst, kLast, kSorted };  // kSorted: "Last, First"
+
 struct DownloadColumn {
   ColumnRole role = ColumnRole::kOther;
-  std::string title;       // UTF-8; of an item without the system's additions
-  std::string otherTitle;  // of an item: without what may belong to the title or not ("Quiz: "); mostly empty
-  std::optional<double> pointsPossible;  // of an item, where the download tells
+  NamePart namePart = NamePart::kNone;
+  std::string title = {};  // UTF-8; of an item without the system's additions
+  std::string otherTitle =
+      {};  // of an item: without what may belong to the title or not ("Quiz: "); mostly empty
+  std::optional<double> pointsPossible = {};  // of an item, where the download tells
 };
 
 // A student of the course.
@@ -38,23 +43,32 @@ struct CourseMember {
   std::string name;  // "First Last", UTF-8
 };
 
-// What a system's download looks like.
+// A column whose heading is always the same, in any letter case.
+struct FixedColumn {
+  const char* heading;
+  ColumnRole role;
+  NamePart namePart = NamePart::kNone;
+};
+
+// What a system's download looks like. The headings are its first row.
 struct DownloadLayout {
   TextEncoding ownEncoding = TextEncoding::kUtf8;
   const char* expected = "";  // the headings by which it is known, for messages
 
-  // Whether the headings, in the first row, are the system's. Asks for less when the user says that they are.
+  // Whether the headings are the system's. Asks for less when the user says that they are.
   bool (*matches)(const DelimitedTable& table, bool isChosen) = nullptr;
 
-  // Tells the columns and rows of the table, or the fault why it cannot.
-  TableFault (*understand)(Gradebook* gradebook) = nullptr;
+  std::span<const FixedColumn> columns = {};
+  DownloadColumn (*describe)(std::string_view heading) = nullptr;  // every other column
+  // What the headings do not tell: the rows above the students, columns that depend on others; or the fault
+  // for which the gradebook is of no use. May be null.
+  TableFault (*complete)(Gradebook* gradebook) = nullptr;
 
-  // An identifier without the system's additions ("#12", ="12").
-  std::string (*plainIdentifier)(std::string_view cell) = nullptr;
+  // An identifier or a name without the system's additions ("#12", ="12"); null: it has none.
+  std::string (*plainText)(std::string_view cell) = nullptr;
 
-  bool endsEveryRow = false;         // no row is shorter than the headings
   bool foldsIdentifierCase = false;  // "ANNA" and "anna" are one user
-  bool hasDecimalCommas = false;     // in tables with semicolons
+  bool hasDecimalCommas = false;     // in tables with semicolons, unless the scores show otherwise
   int maxDecimals = -1;              // of a score; -1: any
   const char* noScore = "";          // a cell without a score, as the system writes it
 

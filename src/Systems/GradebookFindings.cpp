@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <cmath>
 
 #include "Common/KeyIndex.h"
 #include "Systems/LearningSystem.h"
@@ -34,7 +33,7 @@ class GradebookFindings {
         FindOtherCase();
         FindMembersWithoutResult();
       } else {
-        Add("gradebook-no-ids", Consequence::kNote, {{}});
+        m_findings.push_back({"gradebook-no-ids", Consequence::kNote});
       }
       FindSecondColumns();
     }

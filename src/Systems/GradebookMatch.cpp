@@ -1,6 +1,7 @@
 #include "Systems/GradebookMatch.h"
 
 #include <algorithm>
+#include <cmath>
 #include <string_view>
 
 #include "Common/CaseFold.h"
@@ -357,7 +358,7 @@ GradebookMatch MatchGradebook(const ExportSubject& subject, const Gradebook& gra
 
 bool IsSameScore(const Gradebook& gradebook, size_t row, size_t column, double score) {
   const std::optional<double> theirs = gradebook.Score(row, column);
-  return theirs && (*theirs == score || gradebook.ScoreText(*theirs) == gradebook.ScoreText(score));
+  return theirs && std::isfinite(score) && (*theirs == score || gradebook.ScoreText(*theirs) == gradebook.ScoreText(score));
 }
 
 std::vector<size_t> DifferentPoints(const ExportSubject& subject, const Gradebook& gradebook,

@@ -53,7 +53,7 @@ class FillPlanner {
     }
   }
 
-  // New columns come behind the others, but for a column that ends the rows.
+  // New columns come behind the others, but for the one that has to stay the last.
   void ListColumns() {
     const size_t count = m_gradebook.columns.size();
     for (size_t column = 0; column < count; ++column) {
@@ -61,8 +61,8 @@ class FillPlanner {
       if (assignment == kNone && !_IsIdentity(m_gradebook.columns[column].role)) continue;
       m_plan.columns.push_back({column, assignment});
     }
-    const bool hasEnd = m_gradebook.system->download->endsEveryRow && count > 0 &&
-                        m_gradebook.columns.back().role == ColumnRole::kIdentity;
+    const char* last = m_gradebook.system->download->lastHeading;
+    const bool hasEnd = last != nullptr && m_gradebook.FindHeading(last) + 1 == count;
     const auto end = m_plan.columns.end() - (hasEnd ? 1 : 0);
     std::vector<FillColumn> added;
     for (const size_t assignment : m_plan.newColumns) added.push_back({kNone, assignment});
@@ -197,7 +197,8 @@ bool FillPlan::IsSomethingLeftOut() const {
   if (!unmatchedStudents.empty()) return true;
   std::vector<bool> hasResult(subject->assignments.size());
   for (const size_t student : subject->students) {
-    for (const ScoreTable::Score& score : subject->scores.ScoresOf(student)) hasResult[score.assignment] = true;
+    for (const ScoreTable::Score& score : subject->scores.ScoresOf(student))
+      hasResult[score.assignment] = true;
   }
   return std::ranges::any_of(unmatchedAssignments, [&hasResult](size_t i) { return hasResult[i]; }) ||
          std::ranges::any_of(cells, [](const FillCell& cell) { return cell.kind == FillKind::kNoNumber; });

@@ -54,7 +54,7 @@ TEST(ClassFile, TellsTheFaultsApart) {
   } rows[] = {
       {"nothing", "", Code::kDamaged, 1, 1, "no element found"},
       {"cut short", "<class>\né<a>", Code::kDamaged, 2, 5, "no element found"},
-      {"cut short behind a student", "<class>\n" + kStudents, Code::kDamaged, 2, 87, "no element found"},
+      {"cut short behind a student", "<class>\n" + kStudents, Code::kDamaged, 2, 84, "no element found"},
       {"wrong end", "<class>\n <a>\n</class>", Code::kDamaged, 3, 3, "mismatched tag"},
       {"another document", "\n<html></html>", Code::kNotAClass, 2, 1, "not class"},
       {"little-endian UTF-16", _Utf16("<class/>", false), Code::kUnsupportedEncoding, 1, 2, "UTF-16"},

@@ -22,7 +22,7 @@ std::string _Labels(const std::string& first, const std::string& second) {
          second + "</custom-2></preferences></class>";
 }
 
-// Reads the document, and gives each text with an original one as "text=original;".
+// Reads the document, and gives each text with an original one as "text:original;".
 std::string _Originals(const std::string& document, qz::ClassRecord* record) {
   std::istringstream stream(document);
   qz::OriginalTexts originals;
@@ -33,7 +33,7 @@ std::string _Originals(const std::string& document, qz::ClassRecord* record) {
   std::string list;
   size_t count = 0;
   ForEachOriginal(*record, originals, [&](const std::string& text, const std::string& original) {
-    list += text + "=" + original + ";";
+    list += text + ":" + original + ";";
     ++count;
   });
   EXPECT_EQ(originals.Count(), count) << "texts of no record";
@@ -49,7 +49,7 @@ TEST(OriginalTexts, AreThoseThatLostALetter) {
       "<state-standard>S語</state-standard><num-choices>語</num-choices></question></question-list>"
       "<results-list><results/><results><response-list><response/><response><text>r語</text></response>"
       "</response-list></results></results-list>";
-  const std::string ofAssignment = "n?=n語;a?=a語;c?=c語;o?=o語;d?=d語;A?=A語;R?=R語;L?=L語;S?=S語;r?=r語;";
+  const std::string ofAssignment = "n?:n語;a?:a語;c?:c語;o?:o語;d?:d語;A?:A語;R?:R語;L?:L語;S?:S語;r?:r語;";
   const std::string a199(199, 'a');
   const std::string a198(198, 'a');
   const struct {
@@ -61,28 +61,28 @@ TEST(OriginalTexts, AreThoseThatLostALetter) {
       {"every field of a student",
        "<class><student-list><student/><student><pad-id>ł</pad-id><custom-3>Ł</custom-3><gender>Ž</gender>"
        "<first-name>Łukasz</first-name><password>密</password></student></student-list></class>",
-       "?ukasz=Łukasz;?=密;?=ł;?=Ž;?=Ł;"},
+       "?ukasz:Łukasz;?:密;?:ł;?:Ž;?:Ł;"},
       {"every text of an assignment", assignment + "</assignment></assignment-list></class>", ofAssignment},
       {"nothing of an unfinished assignment", assignment, ""},
       {"nothing of an unfinished student",
-       "<class><student-list><student><alias>Ł</alias></student><student><alias>Ž</alias></x>", "?=Ł;"},
+       "<class><student-list><student><alias>Ł</alias></student><student><alias>Ž</alias></x>", "?:Ł;"},
       {"nothing of a second list",
        "<class><assignment-list><assignment><question-list/><question-list><question><answer>語</answer>"
        "</question></question-list></assignment></assignment-list></class>",
        ""},
-      {"a label", _Labels("Ł", ""), "?=Ł;"},
+      {"a label", _Labels("Ł", ""), "?:Ł;"},
       {"a label that preferences behind replace", _Labels("Ł", "L"), ""},
-      {"the last label", _Labels("Ł", "Ž"), "?=Ž;"},
-      {"199 characters", _Alias(a198 + "Łb"), a198 + "?=" + a198 + "Ł;"},
+      {"the last label", _Labels("Ł", "Ž"), "?:Ž;"},
+      {"199 characters", _Alias(a198 + "Łb"), a198 + "?:" + a198 + "Ł;"},
       {"not what is cut", _Alias(a199 + "Ł"), ""},
-      {"200 characters of a label", _Labels(a199 + "Łb", ""), a199 + "?=" + a199 + "Ł;"},
+      {"200 characters of a label", _Labels(a199 + "Łb", ""), a199 + "?:" + a199 + "Ł;"},
       {"characters of four bytes", _Alias(_Repeated("😀", 300)),
-       _Repeated("?", 199) + "=" + _Repeated("😀", 199) + ";"},
-      {"blanks of all kinds", _Alias(" Ł\n\tb &#13; "), " ?  b= Ł  b;"},
-      {"pieces", _Alias("Ł&amp;<x>x</x>é<![CDATA[Ž]]>"), "?&\x8E?=Ł&éŽ;"},
+       _Repeated("?", 199) + ":" + _Repeated("😀", 199) + ";"},
+      {"blanks of all kinds", _Alias(" Ł\n\tb &#13; "), " ?  b: Ł  b;"},
+      {"pieces", _Alias("Ł&amp;<x>x</x>é<![CDATA[Ž]]>"), "?&\x8E?:Ł&éŽ;"},
       {"unusual characters", _Alias("\uFFFDe\u0301\u202E\u2028\u0085"),
-       "?e????=\uFFFDe\u0301\u202E\u2028\u0085;"},
-      {"ISO-8859-1", "<?xml version='1.0' encoding='iso-8859-1'?>" + _Alias("\xBE\xE9"), "?\x8E=¾é;"},
+       "?e????:\uFFFDe\u0301\u202E\u2028\u0085;"},
+      {"ISO-8859-1", "<?xml version='1.0' encoding='iso-8859-1'?>" + _Alias("\xBE\xE9"), "?\x8E:¾é;"},
   };
   for (const auto& row : rows) {
     qz::ClassRecord record;
@@ -99,7 +99,7 @@ TEST(OriginalTexts, AreThoseOfTheRecordsAfterTheRead) {
                  "<assignment><category>Ž</category></assignment><assignment><category>Ż</category>"
                  "</assignment></assignment-list></class>",
                  &record),
-      "?=Ł;?=Ž;?=Ż;");
+      "?:Ł;?:Ž;?:Ż;");
   EXPECT_EQ(record.assignments.at(3).category, "?");
 }
 

@@ -1,15 +1,15 @@
 #include "CommandLine/CommandError.h"
 
-#include <algorithm>
-#include <iterator>
-
 namespace {
 
-constexpr ExitStatus kWorstFirst[] = {kExitClassFile, kExitOutput, kExitIdentifiers, kExitTrouble, kExitDone};
+constexpr ExitStatus kWorstFirst[] = {kExitClassFile, kExitOutput, kExitIdentifiers, kExitUsage,
+                                      kExitTrouble};
 
 }  // namespace
 
 ExitStatus Worst(ExitStatus a, ExitStatus b) {
-  return *std::find_if(std::begin(kWorstFirst), std::end(kWorstFirst),
-                       [a, b](ExitStatus status) { return status == a || status == b; });
+  for (const ExitStatus status : kWorstFirst) {
+    if (status == a || status == b) return status;
+  }
+  return kExitDone;
 }

@@ -1,20 +1,19 @@
 #include "CommandLine/CommandOptions.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <sstream>
 
-#include "CommandLine/ClassInput.h"
+#include "CommandLine/ChoiceArguments.h"
 #include "CommandLine/CommandError.h"
-#include "CommandLine/ExportArguments.h"
+#include "CommandLine/CommandSyntax.h"
+#include "CommandLine/Suggestion.h"
 #include "CommandLine/TerminalText.h"
-#include "Common/QZData/StudentFields.h"
 
 namespace {
 
 constexpr size_t kHelpWidth = 79;
 constexpr size_t kHelpColumn = 24;
-
-const char* const kReportGroup = "Options of the detailed report";
 
 const char* const kDescription =
     "Turns the results in a class file into a file that the gradebook of a learning\n"
@@ -39,14 +38,9 @@ const char* const kInspectFooter =
     "  gxexport inspect class.xml\n"
     "  gxexport inspect --json class.xml";
 
-const char* const kExportExamples =
-    "Examples:\n"
-    "  gxexport export -f canvas -o grades.csv class.xml\n"
-    "      all assignments, for Canvas\n"
-    "  gxexport export -f moodle -u custom-2 -a 301 -a 302 -o grades.csv class.xml\n"
-    "      two assignments, with the identifier taken from the second custom field\n"
-    "  gxexport export -f detailed -a 301 --columns both --answer-key class.xml\n"
-    "      every answer to one assignment, on the screen";
+// In the order in which help lists them.
+constexpr CommandSyntax (*kCommands[])(CLI::App* program) = {DefineFormats, DefineInspect, DefineExport,
+                                                             DefineHelp};
 
 // Keeps the descriptions within the width of a terminal.
 class HelpFormatter : public CLI::Formatter {
@@ -62,155 +56,144 @@ class HelpFormatter : public CLI::Formatter {
   }
 };
 
-[[noreturn]] void _Fail(const std::string& text) {
-  throw CommandError(kExitUsage, text);
+std::vector<const CLI::App*> _Commands(const CLI::App& program) {
+  return program.get_subcommands([](const CLI::App*) { return true; });
 }
 
-std::string _IndentedList(const std::string& list) {
-  return "  " + Join(WrapText(list, kHelpWidth - 2), "\n  ") + "\n";
+std::vector<std::string> _CommandNames(const CLI::App& program) {
+  std::vector<std::string> names;
+  for (const CLI::App* command : _Commands(program)) names.push_back(command->get_name());
+  return names;
 }
 
-std::string _ExportFooter() {
-  std::vector<std::vector<std::string>> formats;
-  for (const FormatRow& row : FormatTable()) {
-    const char* field = row.idName == nullptr ? "" : qz::FindStudentField(row.defaultUserIDField).key;
-    formats.push_back({"  " + std::string(row.key), row.name, field});
+// "the commands are a, b and c"
+std::string _CommandList(const CLI::App& program) {
+  std::vector<std::string> names = _CommandNames(program);
+  const std::string last = names.back();
+  names.pop_back();
+  return "the commands are " + Join(names, ", ") + " and " + last;
+}
+
+std::string _UnknownCommand(const CLI::App& program, const std::string& name) {
+  return UnknownText("unknown command '" + name + "'", name, _CommandNames(program), _CommandList(program));
+}
+
+std::string _EndWithLine(std::string text) {
+  if (!text.ends_with('\n')) text += '\n';
+  return text;
+}
+
+ShowOptions _HelpOn(const CLI::App* program, const std::string& name) {
+  if (name.empty()) {
+    return {_EndWithLine(program->get_formatter()->make_help(program, program->get_name(), {}))};
   }
-  return "Formats, with the student field that is used without -u:\n" + AlignColumns(formats) +
-         "\nStudent fields for -u:\n" + _IndentedList(IdentifierKeys()) + "\nStudent fields for --fields:\n" +
-         _IndentedList(ReportFieldKeys()) + "\n" + kExportExamples;
+  for (const CLI::App* command : _Commands(*program)) {
+    if (command->get_name() == name) return {_EndWithLine(command->help(program->get_name()))};
+  }
+  FailUsage(_UnknownCommand(*program, name));
 }
 
-void _DefineClassFile(CLI::App* command, std::string* classFile) {
-  command->add_option("CLASSFILE", *classFile, "The class file; - is standard input.")
-      ->required()
-      ->type_name("");
-}
-
-CLI::App* _DefineFormats(CLI::App* app, FormatsOptions* options) {
-  CLI::App* command = app->add_subcommand("formats", "Lists the formats.");
-  command->add_flag("--json", options->json, "As JSON, for programs.");
-  return command;
-}
-
-CLI::App* _DefineInspect(CLI::App* app, InspectOptions* options) {
-  CLI::App* command = app->add_subcommand("inspect", "Shows what is in a class file.");
-  _DefineClassFile(command, &options->classFile);
-  command->add_flag("--json", options->json,
-                    "As JSON, for programs: with all student fields but the password.");
-  command->footer(kInspectFooter);
-  return command;
-}
-
-void _DefineGradebookOptions(CLI::App* command, ExportArguments* arguments) {
-  command->add_option("-f,--format", arguments->format, "One of the formats below, or its number.")
-      ->required()
-      ->type_name("FORMAT");
-  command
-      ->add_option("-a,--assignment", arguments->assignments,
-                   "The id of an assignment to export, as 'inspect' shows it; may be given several times. "
-                   "Without it all are exported. The detailed report is about exactly one.")
-      ->type_name("ID")
-      ->allow_extra_args(false);
-  command
-      ->add_option("-u,--user-id", arguments->identifier,
-                   "The student field that holds the name or number by which the learning system knows a "
-                   "student.")
-      ->type_name("FIELD");
-  command
-      ->add_option("-o,--output", arguments->output,
-                   "The file to write; an old one is replaced. Without it, or with -, the text goes to "
-                   "standard output.")
-      ->type_name("FILE");
-  command->add_flag("--no-quotes", arguments->noQuotes,
-                    "Write texts without quotation marks. Only for " + UnquotedFormatKeys() + ".");
-  command->add_flag("--force", arguments->force,
-                    "Export even if no student has an identifier, or if students share one.");
-}
-
-void _DefineReportOptions(CLI::App* command, ExportArguments* arguments) {
-  command->option_defaults()->group(kReportGroup);
-  command
-      ->add_option("--fields", arguments->fields,
-                   "The student fields to write, separated by commas; or all, or none. Without it: " +
-                       DefaultReportFields() + ".")
-      ->type_name("LIST");
-  command
-      ->add_option("--columns", arguments->columns,
-                   "What to write of each question: responses, points, or both. Without it: " +
-                       DefaultReportColumns() + ".")
-      ->type_name("WHAT");
-  command->add_flag("--answer-key", arguments->answerKey, "Add a line with the correct answers.");
-  command->add_flag("--points-possible", arguments->pointsPossible,
-                    "Add a line with the points that each question is worth.");
-  command->add_flag("--no-asterisks", arguments->noAsterisks,
-                    "Do not mark fully correct responses with an asterisk.");
-}
-
-CLI::App* _DefineExport(CLI::App* app, ExportArguments* arguments) {
-  CLI::App* command = app->add_subcommand("export", "Writes a gradebook file or the detailed report.");
-  arguments->output = kStandardStream;
-  arguments->fields = DefaultReportFields();
-  arguments->columns = DefaultReportColumns();
-  _DefineClassFile(command, &arguments->classFile);
-  _DefineGradebookOptions(command, arguments);
-  _DefineReportOptions(command, arguments);
-  command->footer(_ExportFooter());
-  return command;
-}
-
-void _NoteReportOptions(const CLI::App& command, ExportArguments* arguments) {
+std::vector<std::string> _LongOptions(const CLI::App& command) {
+  std::vector<std::string> names;
   for (const CLI::Option* option : command.get_options()) {
-    if (option->get_group() == kReportGroup && option->count() > 0) {
-      arguments->reportOptions.push_back(option->get_name());
-    }
+    for (const std::string& name : option->get_lnames()) names.push_back("--" + name);
   }
+  return names;
 }
 
-std::string _UsageText(const CLI::App& app, const CLI::ParseError& error) {
-  const auto commands = app.get_subcommands();
-  if (!commands.empty()) {
-    return std::string(error.what()) + "\nTry 'gxexport " + commands.front()->get_name() + " --help'.";
+// What the parser had no use for: the name of the first option among it, or nothing.
+std::string _UnknownOption(const CLI::App& command) {
+  for (const std::string& text : command.remaining()) {
+    if (text == "--") break;
+    if (text.size() > 1 && text.front() == '-') return text.substr(0, text.find('='));
   }
-  const std::vector<std::string> unknown = app.remaining();
-  return (unknown.empty() ? "a command is missing" : "unknown command '" + unknown.front() + "'") +
-         std::string("; the commands are formats, inspect and export\nTry 'gxexport --help'.");
+  return {};
+}
+
+std::string _OptionText(const CLI::App& command, const std::string& option) {
+  return UnknownText("unknown option '" + option + "'", option, _LongOptions(command), "");
+}
+
+std::string _CommandUsageText(const CLI::App& program, const CLI::App& command,
+                              const CLI::ParseError& error) {
+  std::string text = error.what();
+  for (const CLI::App* part : {&program, &command}) {
+    const std::string unknown = _UnknownOption(*part);
+    if (!unknown.empty()) text = _OptionText(*part, unknown);
+  }
+  return text + "\nTry 'gxexport " + command.get_name() + " --help'.";
+}
+
+std::string _UsageText(const CLI::App& program, const CLI::ParseError& error) {
+  const auto commands = program.get_subcommands();
+  if (!commands.empty()) return _CommandUsageText(program, *commands.front(), error);
+  const std::vector<std::string> unknown = program.remaining();
+  std::string text;
+  if (unknown.empty()) {
+    text = "a command is missing; " + _CommandList(program);
+  } else if (unknown.front().starts_with('-')) {
+    text = _OptionText(program, _UnknownOption(program));
+  } else {
+    text = _UnknownCommand(program, unknown.front());
+  }
+  return text + "\nTry 'gxexport --help'.";
 }
 
 // What the parser throws is a request for help or an error.
-ShowOptions _Answer(const CLI::App& app, const CLI::ParseError& thrown) {
+ShowOptions _Answer(const CLI::App& program, const CLI::ParseError& thrown) {
   if (thrown.get_exit_code() != static_cast<int>(CLI::ExitCodes::Success)) {
-    _Fail(PrintableUtf8(_UsageText(app, thrown), true));
+    throw CommandError(kExitUsage, PrintableUtf8(_UsageText(program, thrown), true));
   }
   std::ostringstream text;
-  app.exit(thrown, text, text);
-  std::string shown = text.str();
-  if (!shown.ends_with('\n')) shown += '\n';
-  return {shown};
+  program.exit(thrown, text, text);
+  return {_EndWithLine(text.str())};
+}
+
+void _SetUp(CLI::App* program) {
+  program->formatter(std::make_shared<HelpFormatter>());
+  program->set_help_flag("-h,--help", "Shows this text.");
+  program->set_version_flag("-V,--version", "gxexport " GRADIX_VERSION, "Shows the version.");
+  program->require_subcommand(1);
+  program->footer(kFooter);
 }
 
 }  // namespace
 
+CommandSyntax DefineHelp(CLI::App* program) {
+  CLI::App* command = program->add_subcommand("help", "Explains a command.");
+  const auto name = std::make_shared<std::string>();
+  command->add_option("COMMAND", *name, "The command. Without it, the program is explained.")->type_name("");
+  return {command, [program, name] { return _HelpOn(program, *name); }};
+}
+
+CommandSyntax DefineFormats(CLI::App* program) {
+  CLI::App* command = program->add_subcommand("formats", "Lists the formats.");
+  const auto options = std::make_shared<FormatsOptions>();
+  command->add_flag("--json", options->json, "As JSON, for programs.");
+  return {command, [options] { return *options; }};
+}
+
+CommandSyntax DefineInspect(CLI::App* program) {
+  CLI::App* command = program->add_subcommand("inspect", "Shows what is in a class file.");
+  const auto options = std::make_shared<InspectOptions>();
+  DefineClassFile(command, &options->classFile);
+  command->add_flag("--json", options->json,
+                    "As JSON, for programs: with all student fields but the password.");
+  command->footer(kInspectFooter);
+  return {command, [options] { return *options; }};
+}
+
 CommandOptions ReadCommandLine(int argc, const char* const* argv) {
-  CLI::App app(kDescription, "gxexport");
-  app.formatter(std::make_shared<HelpFormatter>());
-  app.set_help_flag("-h,--help", "Shows this text.");
-  app.set_version_flag("--version", "gxexport " GRADIX_VERSION, "Shows the version.");
-  app.require_subcommand(1);
-  app.footer(kFooter);
-  FormatsOptions formatsOptions;
-  InspectOptions inspectOptions;
-  ExportArguments exportArguments;
-  const CLI::App* formats = _DefineFormats(&app, &formatsOptions);
-  const CLI::App* inspect = _DefineInspect(&app, &inspectOptions);
-  const CLI::App* exporting = _DefineExport(&app, &exportArguments);
+  CLI::App program(kDescription, "gxexport");
+  _SetUp(&program);
+  std::vector<CommandSyntax> commands;
+  for (const auto define : kCommands) commands.push_back(define(&program));
   try {
-    app.parse(argc, argv);
+    program.parse(argc, argv);
   } catch (const CLI::ParseError& thrown) {
-    return _Answer(app, thrown);
+    return _Answer(program, thrown);
   }
-  if (formats->parsed()) return formatsOptions;
-  if (inspect->parsed()) return inspectOptions;
-  _NoteReportOptions(*exporting, &exportArguments);
-  return MakeExportOptions(exportArguments);
+  const auto given = std::find_if(commands.begin(), commands.end(),
+                                  [](const CommandSyntax& syntax) { return syntax.command->parsed(); });
+  return given->read();
 }

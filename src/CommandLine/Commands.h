@@ -1,11 +1,12 @@
-// The commands. Each throws CommandError when it cannot do its work.
+// The commands. Each returns the program's exit status, and throws CommandError when it cannot do its work.
 #ifndef GRADIX_COMMANDS_H
 #define GRADIX_COMMANDS_H
 
+#include "CommandLine/CommandError.h"
 #include "CommandLine/CommandOptions.h"
 
-void RunFormats(const FormatsOptions& options);
-void RunInspect(const InspectOptions& options);
-void RunExport(const ExportOptions& options);
+ExitStatus RunFormats(const FormatsOptions& options);
+ExitStatus RunInspect(const InspectOptions& options);
+ExitStatus RunExport(const ExportOptions& options);
 
 #endif  // GRADIX_COMMANDS_H

@@ -62,11 +62,12 @@ FileOutcome _Write(const std::string& path, Session* session) {
 
 }  // namespace
 
-void RunExport(const ExportOptions& options) {
+ExitStatus RunExport(const ExportOptions& options) {
   _RefuseToOverwrite(options);
   const std::unique_ptr<Session> session = MakeSession(*options.choices.format);
   *session->GetClass() = ReadClassInput(options.classFiles.front()).record;
   _ApplyChoices(options.choices, session.get());
   _CheckClass(options, *session->GetClass());
   TellOutcome(options.outputFile, _Write(options.outputFile, session.get()));
+  return kExitDone;
 }

@@ -42,6 +42,7 @@ std::string _AsTable() {
 
 }  // namespace
 
-void RunFormats(const FormatsOptions& options) {
+ExitStatus RunFormats(const FormatsOptions& options) {
   WriteStandardOutput(options.json ? _AsJson() : _AsTable());
+  return kExitDone;
 }

@@ -123,7 +123,8 @@ std::string _AsJson(const qz::ClassRecord& record) {
 
 }  // namespace
 
-void RunInspect(const InspectOptions& options) {
+ExitStatus RunInspect(const InspectOptions& options) {
   const qz::ClassRecord record = ReadClassInput(options.classFile).record;
   WriteStandardOutput(options.json ? _AsJson(record) : _AsText(record));
+  return kExitDone;
 }

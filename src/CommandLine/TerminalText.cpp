@@ -104,6 +104,16 @@ std::string Join(const std::vector<std::string>& texts, std::string_view separat
   return joined;
 }
 
+std::vector<std::string> Split(std::string_view text, char separator) {
+  std::vector<std::string> parts;
+  for (;;) {
+    const size_t end = text.find(separator);
+    parts.emplace_back(text.substr(0, end));
+    if (end == std::string_view::npos) return parts;
+    text.remove_prefix(end + 1);
+  }
+}
+
 void Say(const std::string& text) {
   _WriteMessage("gxexport: " + text + "\n");
 }

@@ -23,6 +23,9 @@ std::vector<std::string> WrapText(const std::string& text, size_t width);
 // The texts with `separator` between them.
 std::string Join(const std::vector<std::string>& texts, std::string_view separator);
 
+// The parts between the separators: one more than there are separators.
+std::vector<std::string> Split(std::string_view text, char separator);
+
 // Writes one message to standard error, with the program's name in front.
 void Say(const std::string& text);
 void Warn(const std::string& text);

@@ -5,6 +5,7 @@
 #include <exception>
 #include <iostream>
 #include <new>
+#include <stdexcept>
 #include <variant>
 
 #include "CommandLine/CommandError.h"
@@ -16,10 +17,14 @@
 namespace {
 
 struct CommandRunner {
-  void operator()(const ShowOptions& options) const { WriteStandardOutput(options.text); }
-  void operator()(const FormatsOptions& options) const { RunFormats(options); }
-  void operator()(const InspectOptions& options) const { RunInspect(options); }
-  void operator()(const ExportOptions& options) const { RunExport(options); }
+  ExitStatus operator()(const ShowOptions& options) const {
+    WriteStandardOutput(options.text);
+    return kExitDone;
+  }
+  ExitStatus operator()(const FormatsOptions& options) const { return RunFormats(options); }
+  ExitStatus operator()(const InspectOptions& options) const { return RunInspect(options); }
+  ExitStatus operator()(const ExportOptions& options) const { return RunExport(options); }
+  ExitStatus operator()(const FillOptions& /*options*/) const { throw std::logic_error("no such command"); }
 };
 
 // A closed pipe and a size limit are failed writes, not reasons to die with a half-written file.
@@ -34,8 +39,7 @@ void _SetUpProcess() {
 int main(int argc, char** argv) {
   _SetUpProcess();
   try {
-    std::visit(CommandRunner(), ReadCommandLine(argc, argv));
-    return kExitDone;
+    return std::visit(CommandRunner(), ReadCommandLine(argc, argv));
   } catch (const CommandError& error) {
     if (*error.what() != '\0') Say(error.what());
     return error.Status();

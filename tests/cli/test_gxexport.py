@@ -22,8 +22,16 @@ CONTROL = re.compile(r"[\x00-\x09\x0b-\x1f\x7f-\x9f]")  # all but the line feed
 class Usage(FolderTest):
     def test_refusals(self):
         rows = {
-            "no command": ([], "formats, inspect and export"),
-            "unknown command": (["convert"], "unknown command 'convert'"),
+            "no command": ([], "a command is missing; the commands are formats, inspect"),
+            "unknown command": (["convert"], "unknown command 'convert'; the commands are formats, inspect"),
+            "nearly a command": (["exprot"], "'exprot'; did you mean 'export'? The commands are"),
+            "help on nothing": (["help", "insect"], "did you mean 'inspect'?"),
+            "nearly an option": (["export", "--foramt", "canvas", SAMPLE], "unknown option '--foramt'; did you mean '--format'?"),
+            "nearly an option with a value": (["export", "--colums=both"], "option '--colums'; did you mean '--columns'?"),
+            "an option like no other": (["inspect", "--quick"], "unknown option '--quick'\n"),
+            "nearly a format": (["export", "-f", "BlackBord", SAMPLE], "did you mean 'blackboard'? The formats are webct"),
+            "nearly a field": (["export", "-f", "6", "-u", "Sudent-ID", SAMPLE], "mean 'student-id'? The fields are"),
+            "nearly a column": (["export", "-f", "3", "-a", "301", "--fields", "alais", SAMPLE], "did you mean 'alias'?"),
             "no class file": (["inspect"], "CLASSFILE"),
             "no format": (["export", SAMPLE], "--format"),
             "unknown format": (["export", "-f", "excel", SAMPLE], "schoology, sakai"),
@@ -32,8 +40,10 @@ class Usage(FolderTest):
             "index with a tail": (["export", "-f", "6x", SAMPLE], "unknown format '6x'"),
             "two formats": (["export", "-f", "6", "-f", "7", SAMPLE], "--format"),
             "unknown option": (["export", "-f", "6", "--quotes", SAMPLE], "--quotes"),
-            "two class files": (["export", "-f", "6", SAMPLE, SAMPLE], "not expected"),
+            "two class files": (["export", "-f", "6", SAMPLE, SAMPLE], "need --output-dir"),
+            "two to inspect": (["inspect", SAMPLE, "b"], "not expected: b"),
             "id is no number": (["export", "-f", "6", "-a", "12x", SAMPLE], "'12x' is no assignment id"),
+            "an id left out": (["export", "-f", "6", "-a", "301,,302", SAMPLE], "'' is no assignment id"),
             "id beyond 32 bits": (["export", "-f", "6", "-a", "2147483648", SAMPLE], "'2147483648'"),
             "unknown id": (["export", "-f", "6", "-a", "301", "-a", "-7", SAMPLE], "id -7", "302  Quiz 2: Membranes"),
             "unknown user field": (["export", "-f", "6", "-u", "password", SAMPLE], "'password'", "alias, custom-1"),
@@ -62,8 +72,9 @@ class Usage(FolderTest):
                 self.assertEqual(result.stdout, run("export", *plain, SAMPLE).stdout)
 
     def test_help_and_version(self):
-        for args, text in [(["--help"], "Exit status"), (["--version"], "gxexport 1"), (["export", "--help"], "-u"),
-                           (["inspect", "-h"], "CLASSFILE"), (["formats", "-h"], "--json")]:
+        for args, text in [(["--help"], "Exit status"), (["--version"], "gxexport 1"), (["-V"], "gxexport 1"),
+                           (["export", "--help"], "-u"), (["inspect", "-h"], "CLASSFILE"), (["formats", "-h"], "--json"),
+                           (["help"], "Exit status"), (["help", "export"], "--no-asterisks")]:
             with self.subTest(args):
                 result = run(*args)
                 self.check(result, DONE)
@@ -135,10 +146,13 @@ class Reading(FolderTest):
 class Export(FolderTest):
     def test_choices(self):
         path = self.write_class([ANN], [assignment(7, "One"), QUIZ, assignment(7, "Three")])
-        for ids, names in [([], "One,Quiz,Three"), ([7], "One,Three"), ([12, 7, 12], "One,Quiz,Three")]:
+        for ids, names in [([], "One,Quiz,Three"), ([7], "One,Three"), ([12, 7, 12], "One,Quiz,Three"),
+                           (["12,7"], "One,Quiz,Three")]:
             with self.subTest(ids):
                 header = run("export", "-f", "canvas", *(f"-a{n}" for n in ids), path).stdout.decode().split("\n")[0]
                 self.assertTrue(header.endswith("," + names), header)
+        for plain, word in [("6", "CANVAS"), ("7", "Brightspace"), ("5", "blackboard")]:
+            self.assertEqual(run("export", "-f", word, path).stdout, run("export", "-f", plain, path).stdout)
         self.check(run("export", "-f", "detailed", "-a", "7", path), DONE, "several assignments have this id")
         one = self.write_class([ANN], [QUIZ])  # the report's, so that it need not be named
         self.assertEqual(run("export", "-f", "detailed", one).stdout.decode(),

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "Common/asciicase.h"
 #include "Filters/GX_StdCsv/formats/ANGEL.h"
 #include "Filters/GX_StdCsv/formats/Blackboard.h"
 #include "Filters/GX_StdCsv/formats/Canvas.h"
@@ -230,6 +231,10 @@ constexpr bool _IsInOrder() {
 }
 static_assert(_IsInOrder());
 
+bool _IsNamed(const FormatRow& row, std::string_view word) {
+  return AsciiEqualNoCase(row.key, word) || (row.alias != nullptr && AsciiEqualNoCase(row.alias, word));
+}
+
 }  // namespace
 
 std::span<const FormatRow> FormatTable() {
@@ -240,8 +245,8 @@ const FormatRow* FindFormat(uint32_t index) {
   return index < std::size(kFormats) ? &kFormats[index] : nullptr;
 }
 
-const FormatRow* FindFormat(std::string_view key) {
+const FormatRow* FindFormat(std::string_view word) {
   const auto* found = std::find_if(std::begin(kFormats), std::end(kFormats),
-                                   [key](const FormatRow& row) { return row.key == key; });
+                                   [word](const FormatRow& row) { return _IsNamed(row, word); });
   return found == std::end(kFormats) ? nullptr : found;
 }

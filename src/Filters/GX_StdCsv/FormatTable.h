@@ -50,8 +50,8 @@ struct FormatRow {
 
 std::span<const FormatRow> FormatTable();
 
-// The row, or null.
+// The row, or null. A word is a key or an alias, in letters of any case.
 const FormatRow* FindFormat(uint32_t index);
-const FormatRow* FindFormat(std::string_view key);
+const FormatRow* FindFormat(std::string_view word);
 
 #endif  // GRADIX_FORMATTABLE_H

@@ -1,7 +1,70 @@
 // What we know of Brightspace.
+#include <string>
+
+#include "Systems/Download.h"
+#include "Systems/DownloadText.h"
 #include "Systems/Systems.h"
 
 namespace {
+
+// Download
+
+constexpr FixedColumn kDownloadColumns[] = {
+    {"OrgDefinedId", ColumnRole::kIdentifier},
+    {"Username", ColumnRole::kIdentifier},
+    {"Last Name", ColumnRole::kName, NamePart::kLast},
+    {"First Name", ColumnRole::kName, NamePart::kFirst},
+    {"Email", ColumnRole::kIdentifier},
+    {"End-of-Line Indicator", ColumnRole::kIdentity},
+};
+
+constexpr std::string_view kPointsGrade = " Points Grade";
+constexpr std::string_view kMaxPoints = "MaxPoints:";
+
+// Whether the system computes the grade: final grades, and the totals of categories.
+bool _IsComputed(std::string_view title, std::string_view kind) {
+  return kind.starts_with("Calculated") || kind.starts_with("Formula") ||
+         title.starts_with("Calculated Final Grade") || title.starts_with("Adjusted Final Grade") ||
+         title.find(" Subtotal") != std::string_view::npos;
+}
+
+// "Quiz 1 Points Grade <Numeric MaxPoints:10 Weight:1>" is an item; the kind is left out at times.
+DownloadColumn _DescribeColumn(std::string_view heading) {
+  std::string_view title = TrimBlanks(heading);
+  const std::string_view kind = CutBracket(&title, " <", '>').value_or(std::string_view());
+  if (_IsComputed(title, kind)) return {.role = ColumnRole::kReadOnly};
+  if (!title.ends_with(kPointsGrade) || (!kind.empty() && !kind.starts_with("Numeric"))) return {};
+  title.remove_suffix(kPointsGrade.size());
+  DownloadColumn column = {.role = ColumnRole::kItem, .title = std::string(TrimBlanks(title))};
+  if (const size_t points = kind.find(kMaxPoints); points != std::string_view::npos) {
+    const std::string_view number = kind.substr(points + kMaxPoints.size());
+    column.pointsPossible = ParseCellNumber(number.substr(0, number.find(' ')));
+  }
+  return column;
+}
+
+bool _IsDownload(const DelimitedTable& table, bool) {
+  if (!HasHeading(table, "OrgDefinedId") && !HasHeading(table, "Username")) return false;
+  if (HasHeading(table, "End-of-Line Indicator")) return true;
+  for (size_t i = 0; i < table.ColumnCount(); ++i) {
+    if (_DescribeColumn(table.Text(0, i)).role == ColumnRole::kItem) return true;
+  }
+  return false;
+}
+
+// "#" protects an identifier from spreadsheets.
+std::string _PlainText(std::string_view cell) {
+  return std::string(cell.substr(cell.starts_with('#') ? 1 : 0));
+}
+
+constexpr DownloadLayout kDownload = {
+    .expected = "\"OrgDefinedId\" or \"Username\", ... \"End-of-Line Indicator\"",
+    .matches = _IsDownload,
+    .columns = kDownloadColumns,
+    .describe = _DescribeColumn,
+    .plainText = _PlainText,
+    .newTitle = [](const std::string& title, int32_t) { return title + std::string(kPointsGrade); },
+};
 
 constexpr SystemFormat kFormats[] = {{.key = "d2l"}};
 
@@ -11,4 +74,5 @@ const LearningSystem kBrightspaceSystem = {
     .key = "brightspace",
     .name = "Brightspace",
     .formats = kFormats,
+    .download = &kDownload,
 };

@@ -1,10 +1,11 @@
 #include "Systems/Download.h"
 
 #include <algorithm>
-#include <array>
 #include <exception>
 #include <new>
+#include <unordered_set>
 
+#include "Common/SeededHash.h"
 #include "Common/asciicase.h"
 #include "Common/number.h"
 #include "Systems/DownloadText.h"
@@ -80,16 +81,14 @@ bool _IsIdentifying(const DownloadColumn& column) {
 }
 
 TableFault _CheckHeadings(const Gradebook& gradebook) {
-  std::vector<std::string_view> seen;
+  std::unordered_set<std::string, SeededHash> seen;
   for (size_t i = 0; i < gradebook.columns.size(); ++i) {
     if (!_IsIdentifying(gradebook.columns[i])) continue;
-    const std::string_view heading = TrimBlanks(gradebook.Heading(i));
-    const auto isEqual = [heading](std::string_view other) { return AsciiEqualNoCase(heading, other); };
-    if (std::any_of(seen.begin(), seen.end(), isEqual)) {
-      return {.line = gradebook.table.LineOf(0),
-              .reason = "the heading " + _Shown(heading) + " stands there twice"};
-    }
-    seen.push_back(heading);
+    std::string heading(TrimBlanks(gradebook.Heading(i)));
+    std::transform(heading.begin(), heading.end(), heading.begin(), AsciiLower);
+    if (seen.insert(std::move(heading)).second) continue;
+    return {.line = gradebook.table.LineOf(0),
+            .reason = "the heading " + _Shown(TrimBlanks(gradebook.Heading(i))) + " stands there twice"};
   }
   return {};
 }
@@ -120,7 +119,7 @@ std::string _PlainText(const Gradebook& gradebook, size_t row, size_t column) {
 std::string _NameAt(const Gradebook& gradebook, size_t row) {
   std::string first;
   std::string last;
-  for (size_t i = 0; i < gradebook.columns.size(); ++i) {
+  for (size_t i = 0; i < gradebook.table.CellCount(row); ++i) {
     if (gradebook.columns[i].namePart == NamePart::kNone) continue;
     const std::string text = _PlainText(gradebook, row, i);
     const std::string_view cell = TrimBlanks(text);
@@ -135,7 +134,7 @@ std::string _NameAt(const Gradebook& gradebook, size_t row) {
 }
 
 bool _HasIdentifier(const Gradebook& gradebook, size_t row) {
-  for (size_t i = 0; i < gradebook.columns.size(); ++i) {
+  for (size_t i = 0; i < gradebook.table.CellCount(row); ++i) {
     if (gradebook.columns[i].role != ColumnRole::kIdentifier) continue;
     if (!TrimBlanks(gradebook.table.Text(row, i)).empty()) return true;
   }
@@ -157,11 +156,11 @@ TableFault _FindMembers(Gradebook* gradebook) {
 bool _FindDecimalCommas(const Gradebook& gradebook) {
   size_t commas = 0;
   size_t points = 0;
-  for (size_t column = 0; column < gradebook.columns.size(); ++column) {
-    const ColumnRole role = gradebook.columns[column].role;
-    if (role != ColumnRole::kItem && role != ColumnRole::kReadOnly) continue;
-    for (const CourseMember& member : gradebook.members) {
-      const std::string_view cell = gradebook.table.Text(member.row, column);
+  for (const CourseMember& member : gradebook.members) {
+    for (size_t i = 0; i < gradebook.table.CellCount(member.row); ++i) {
+      const ColumnRole role = gradebook.columns[i].role;
+      if (role != ColumnRole::kItem && role != ColumnRole::kReadOnly) continue;
+      const std::string_view cell = gradebook.table.Text(member.row, i);
       const size_t mark = cell.find_first_of(".,");
       if (mark == std::string_view::npos || !ParseCellNumber(cell)) continue;
       ++(cell[mark] == ',' ? commas : points);

@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <exception>
+#include <filesystem>
 #include <limits>
 #include <memory>
 #include <new>
@@ -104,14 +105,22 @@ TableFault _SystemFault(int error) {
   return {.unreadable = true, .reason = std::generic_category().message(error != 0 ? error : EIO)};
 }
 
+TableFault _TooLarge() {
+  return {.reason = "the file is larger than 256 MB"};
+}
+
 TableFault _ReadBytes(const std::string& path, std::string* bytes) {
+  std::error_code unknown;  // the size of what is no plain file
+  const uintmax_t size = std::filesystem::file_size(path, unknown);
+  if (!unknown && size > kMostBytes) return _TooLarge();
+  if (!unknown) bytes->reserve(static_cast<size_t>(size));
   errno = 0;
   const std::unique_ptr<std::FILE, FileCloser> file(std::fopen(path.c_str(), "rbe"));
   if (file == nullptr) return _SystemFault(errno);
   std::vector<char> buffer(size_t{256} * 1024);
   for (size_t count = 0; (count = std::fread(buffer.data(), 1, buffer.size(), file.get())) > 0;) {
     bytes->append(buffer.data(), count);
-    if (bytes->size() > kMostBytes) return {.reason = "the file is larger than 256 MB"};
+    if (bytes->size() > kMostBytes) return _TooLarge();
   }
   return std::ferror(file.get()) != 0 ? _SystemFault(errno) : TableFault{};
 }
@@ -255,7 +264,7 @@ TextEncoding _OwnEncoding(std::string_view bytes, const EncodingOf& ownEncoding)
 }
 
 TableFault _Parse(std::string_view bytes, const EncodingOf& ownEncoding, DelimitedTable* table) {
-  if (bytes.size() > kMostBytes) return {.reason = "the file is larger than 256 MB"};
+  if (bytes.size() > kMostBytes) return _TooLarge();
   TableStyle style;
   const auto detected = DetectEncoding(bytes);
   style.encoding = detected ? *detected : _OwnEncoding(bytes, ownEncoding);

@@ -63,6 +63,7 @@ constexpr DownloadLayout kDownload = {
     .columns = kDownloadColumns,
     .describe = _DescribeColumn,
     .plainText = _PlainText,
+    .lastHeading = "End-of-Line Indicator",
     .newTitle = [](const std::string& title, int32_t) { return title + std::string(kPointsGrade); },
 };
 

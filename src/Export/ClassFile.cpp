@@ -3,7 +3,6 @@
 #include <cerrno>
 #include <fstream>
 #include <istream>
-#include <mutex>
 #include <new>
 #include <sstream>
 #include <system_error>
@@ -14,9 +13,6 @@
 namespace {
 
 constexpr size_t kBufferSize = size_t{64} * 1024;
-
-// The reader's element tables are those of the process.
-std::mutex gReading;
 
 std::string _SystemReason(int error) {
   return std::generic_category().message(error != 0 ? error : EIO);
@@ -50,6 +46,7 @@ std::string _OnOneLine(const std::string& text) {
 
 void _Read(std::istream& stream, ClassFile* file) {
   QZClassParseReport report;
+  report.originals = &file->originals;
   errno = 0;
   const bool parsed = QZClassParse(&file->record, stream, &report);
   // What could not be read to its end looks damaged, so this comes first. And a parse that ran out of memory
@@ -82,12 +79,14 @@ ClassFile _Make(const std::string& path, Action action) {
   ClassFile file;
   file.path = path;
   try {
-    const std::lock_guard lock(gReading);
     action(&file);
   } catch (const std::bad_alloc&) {
     file.fault = {ClassFaultCode::kOutOfMemory, 0, 0, "out of memory"};
   }
-  if (!file.IsRead()) file.record = {};
+  if (!file.IsRead()) {
+    file.record = {};
+    file.originals = {};
+  }
   return file;
 }
 

@@ -40,7 +40,7 @@ struct ClassFile {
   bool IsRead() const { return fault.code == ClassFaultCode::kNone; }
 };
 
-// Any thread; reads take turns.
+// Any thread; reads may run at the same time.
 ClassFile ReadClassFile(const std::string& path);
 
 // The same from an open stream, to its end.

@@ -36,6 +36,11 @@ struct FillCell {
   size_t assignment;    // position in ExportSubject::assignments
   std::string oldText;  // UTF-8, as it stands in the download
   std::string newText;  // as it is written; the old one when it is kept
+
+  // The file has a result of ours there.
+  bool IsWritten() const {
+    return kind == FillKind::kFilled || kind == FillKind::kChanged || kind == FillKind::kSame;
+  }
 };
 
 // A column of the file for upload.

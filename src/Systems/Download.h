@@ -72,6 +72,8 @@ struct DownloadLayout {
   int maxDecimals = -1;              // of a score; -1: any
   const char* noScore = "";          // a cell without a score, as the system writes it
 
+  const char* lastHeading = nullptr;  // of a column that has to stay the last; null: there is none
+
   // The heading of a new column; null: none can be added by an upload.
   std::string (*newTitle)(const std::string& title, int32_t pointsPossible) = nullptr;
 };

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <limits>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -77,6 +78,12 @@ struct GradebookMatch {
 // Linear in the class and the gradebook.
 GradebookMatch MatchGradebook(const ExportSubject& subject, const Gradebook& gradebook,
                               const MatchChoices& choices);
+
+// A name or a title without regard to letter case and repeated blanks.
+std::string ComparableText(std::string_view text);
+
+// Whether the cell has the score already, in the precision in which the gradebook would write it.
+bool IsSameScore(const Gradebook& gradebook, size_t row, size_t column, double score);
 
 // Positions in ExportSubject::assignments whose column is worth other points than ours.
 std::vector<size_t> DifferentPoints(const ExportSubject& subject, const Gradebook& gradebook,

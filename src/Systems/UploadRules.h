@@ -20,6 +20,7 @@ enum class BlankScore : uint8_t {
 struct UploadRules {
   BlankScore blank = BlankScore::kUnknown;
   Consequence unknownStudent = Consequence::kLost;
+  bool showsAllIdentifiers = false;              // whoever is not in the download is not in the course
   bool refusesUnknownRows = false;               // also of students who have no result
   Consequence otherCase = Consequence::kNote;    // an identifier in another letter case
   std::optional<Consequence> secondColumn = {};  // a title in another letter case makes a column of its own
@@ -27,8 +28,8 @@ struct UploadRules {
   bool capsScores = false;                       // at the points of the column
   bool matchesNames = false;                     // of students whom it does not know by the identifier
 
-  // The heading of the system's own numbers of users, as which it reads identifiers that begin with a digit;
-  // null: there is nothing of the kind.
+  // The heading of the system's own numbers of users, as which it reads the identifiers of a classic file
+  // that begin with a digit; null: there is nothing of the kind.
   const char* ownNumbers = nullptr;
 
   // Codes of findings that say "possibly" as long as the gradebook is not known.

@@ -3,10 +3,14 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <sstream>
 #include <string>
 #include <thread>
+#include <utility>
 #include <vector>
+
+#include "tests/support/ClassDump.h"
 
 namespace {
 
@@ -36,6 +40,7 @@ TEST(ClassFile, GivesTheClassItsNameAndWhatWasReplaced) {
   ASSERT_EQ(file.record.students.size(), 1U);
   EXPECT_EQ(file.record.students[0].lastName, "Zo\x8E ?");
   EXPECT_EQ(file.replacedCharacters, 1U);
+  EXPECT_EQ(file.Texts().StudentName(0), "Zoé 語");
 }
 
 TEST(ClassFile, TellsTheFaultsApart) {
@@ -49,6 +54,7 @@ TEST(ClassFile, TellsTheFaultsApart) {
   } rows[] = {
       {"nothing", "", Code::kDamaged, 1, 1, "no element found"},
       {"cut short", "<class>\né<a>", Code::kDamaged, 2, 5, "no element found"},
+      {"cut short behind a student", "<class>\n" + kStudents, Code::kDamaged, 2, 84, "no element found"},
       {"wrong end", "<class>\n <a>\n</class>", Code::kDamaged, 3, 3, "mismatched tag"},
       {"another document", "\n<html></html>", Code::kNotAClass, 2, 1, "not class"},
       {"little-endian UTF-16", _Utf16("<class/>", false), Code::kUnsupportedEncoding, 1, 2, "UTF-16"},
@@ -64,15 +70,32 @@ TEST(ClassFile, TellsTheFaultsApart) {
     EXPECT_EQ(file.fault.column, row.column);
     EXPECT_NE(file.fault.reason.find(row.reason), std::string::npos) << file.fault.reason;
     EXPECT_TRUE(file.record.students.empty());  // no half class
+    EXPECT_TRUE(file.originals.IsEmpty());
   }
 }
 
-TEST(ClassFile, IsReadFromSeveralThreads) {
+std::string _DumpOf(const std::string& path) {
+  const ClassFile file = ReadClassFile(path);
+  std::string dump = file.name + file.fault.reason + std::to_string(file.fault.line) + Dump(file.record);
+  ForEachOriginal(file.record, file.originals,
+                  [&dump](const std::string&, const std::string& original) { dump += original + '\n'; });
+  return dump;
+}
+
+TEST(ClassFile, ThreadsReadAtOnceWhatOneReads) {
+  std::vector<std::pair<std::string, std::string>> files;  // and their dumps
+  for (const char* folder : {SAMPLES, HOSTILE_CLASSES}) {
+    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+      if (entry.path().extension() == ".xml") files.emplace_back(entry.path(), _DumpOf(entry.path()));
+    }
+  }
+  ASSERT_GT(files.size(), 10U);
   std::vector<std::thread> threads;
-  for (int i = 0; i < 4; ++i) {
-    threads.emplace_back([] {
-      for (int read = 0; read < 200; ++read) {
-        EXPECT_EQ(_Read("<class>" + kStudents + "</class>").record.students.size(), 1U);
+  for (size_t thread = 0; thread < 4; ++thread) {
+    threads.emplace_back([&files, thread] {
+      for (size_t i = 0; i < 4 * files.size(); ++i) {
+        const auto& [path, dump] = files[(thread * 3 + i) % files.size()];
+        EXPECT_EQ(_DumpOf(path), dump) << path;
       }
     });
   }

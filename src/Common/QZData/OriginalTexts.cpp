@@ -59,4 +59,21 @@ void OriginalTexts::KeepLabel(size_t custom, std::string text) {
   m_texts.insert_or_assign({Owner::kClass, 0, 0, custom}, std::move(text));
 }
 
+void OriginalTexts::DropLabel(size_t custom) {
+  m_texts.erase({Owner::kClass, 0, 0, custom});
+}
+
+void OriginalTexts::DropStudent(size_t student) {
+  std::erase_if(m_texts, [student](const auto& entry) {
+    return entry.first.owner == Owner::kStudent && entry.first.record == student;
+  });
+}
+
+void OriginalTexts::DropAssignment(size_t assignment) {
+  std::erase_if(m_texts, [assignment](const auto& entry) {
+    const Owner owner = entry.first.owner;
+    return owner != Owner::kClass && owner != Owner::kStudent && entry.first.record == assignment;
+  });
+}
+
 }  // namespace qz

@@ -21,6 +21,7 @@ enum class QuestionText : uint8_t { kAnswer, kReference, kLearningObjective, kSt
 class OriginalTexts {
  public:
   bool IsEmpty() const { return m_texts.empty(); }
+  size_t Count() const { return m_texts.size(); }
 
   // UTF-8, treated as the record's text was: at most as many characters, no control characters, no blanks at
   // the end. Null where the record's text is whole. Valid until the next Keep.
@@ -35,6 +36,11 @@ class OriginalTexts {
   void KeepQuestion(size_t assignment, size_t question, QuestionText which, std::string text);
   void KeepResponse(size_t assignment, size_t results, size_t response, std::string text);
   void KeepLabel(size_t custom, std::string text);
+
+  void DropLabel(size_t custom);
+  // What was kept of a student, and of an assignment with all that is in it, who did not become a record.
+  void DropStudent(size_t student);
+  void DropAssignment(size_t assignment);
 
  private:
   enum class Owner : uint8_t { kClass, kStudent, kAssignment, kQuestion, kResponse };

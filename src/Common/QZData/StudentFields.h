@@ -29,6 +29,9 @@ struct StudentField {
   const std::string& Value(const StudentRecord& student) const {
     return text != nullptr ? student.*text : student.custom[custom];
   }
+  std::string& Value(StudentRecord& student) const {
+    return text != nullptr ? student.*text : student.custom[custom];
+  }
   std::string Title(const ClassRecord& record) const {
     return title != nullptr ? title : record.customLabels[custom];
   }

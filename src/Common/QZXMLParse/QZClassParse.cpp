@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <mutex>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -53,12 +54,40 @@ void _SetCallbacks() {
                _HandleResponse);
 }
 
+std::mutex gTablesMutex;
+size_t gParses = 0;  // that use the tables
+
+// The element tables with the reader's handlers: set up by the first of the parses that run at once, and left
+// alone until none does any more.
+class SharedTables {
+ public:
+  SharedTables() {
+    const std::lock_guard lock(gTablesMutex);
+    if (gParses == 0) _SetCallbacks();
+    ++gParses;
+  }
+  ~SharedTables() {
+    const std::lock_guard lock(gTablesMutex);
+    --gParses;
+  }
+  SharedTables(const SharedTables&) = delete;
+  SharedTables& operator=(const SharedTables&) = delete;
+};
+
+// Without what was kept of a record that a fault cut off.
+void _DropUnfinished(const cXmlParserContext& context, qz::OriginalTexts* originals) {
+  originals->DropStudent(context.NextStudent());
+  originals->DropAssignment(context.NextAssignment());
+}
+
 }  // namespace
 
 bool QZClassParse(qz::ClassRecord* record, std::istream& stream, QZClassParseReport* report) {
-  _SetCallbacks();
-  cXmlParserContext context(record);
+  const SharedTables tables;
+  qz::OriginalTexts* originals = report == nullptr ? nullptr : report->originals;
+  cXmlParserContext context(record, originals);
   const bool parsed = context.ProcessFile(stream);
+  if (originals != nullptr && context.Report().reason != nullptr) _DropUnfinished(context, originals);
   // Files give no sort key. Equal keys may come out in any order; file order is what a teacher expects.
   std::stable_sort(record->assignments.begin(), record->assignments.end(), qz::AssignmentLess());
   if (report != nullptr) *report = std::move(context.Report());

@@ -30,15 +30,15 @@ struct QZClassParseReport {
   std::string className;            // UTF-8, as written, up to about 800 bytes; empty when there is none
   uint64_t replacedCharacters = 0;  // became "?" in a text of the records because Mac OS Roman lacks them
 
-  // The texts with such characters, as written. Kept when the caller sets this before the read; what it held
-  // is dropped.
+  // The texts with such characters, as written, at the positions in the record after the read. Kept when the
+  // caller sets this before the read; what it held is dropped.
   qz::OriginalTexts* originals = nullptr;
 };
 
 // Reads a class file (XML: UTF-8, US-ASCII or a declared ISO-8859-1) from `stream` and appends to `record`.
 // Returns false when the document is malformed or its document element is not class; the records completed
 // before the fault stay. `report`, unless null, is overwritten. Assignments end up sorted by AssignmentLess.
-// One parse at a time: the element tables are process-wide.
+// Any thread, with a record and a report of its own; parses may run at the same time.
 bool QZClassParse(qz::ClassRecord* record, std::istream& stream, QZClassParseReport* report = nullptr);
 
 #endif  // GRADIX_QZCLASSPARSE_H

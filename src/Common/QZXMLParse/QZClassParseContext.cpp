@@ -71,10 +71,22 @@ bool _IsUtf16(const char* bytes, size_t count) {
          (first == '<' && second == 0) || (first == 0 && second == '<');
 }
 
+// The assignments behind one that has just been read.
+size_t _CountLater(const std::vector<qz::AssignmentRecord>& assignments) {
+  const qz::AssignmentRecord read;
+  return static_cast<size_t>(std::count_if(
+      assignments.begin(), assignments.end(),
+      [&read](const qz::AssignmentRecord& assignment) { return qz::AssignmentLess()(read, assignment); }));
+}
+
 }  // namespace
 
-cXmlParserContext::cXmlParserContext(qz::ClassRecord* record)
-    : m_classRecord(record), m_parser(XML_ParserCreateNS(nullptr, '#')) {
+cXmlParserContext::cXmlParserContext(qz::ClassRecord* record, qz::OriginalTexts* originals)
+    : m_classRecord(record),
+      m_laterAssignments(_CountLater(record->assignments)),
+      m_parser(XML_ParserCreateNS(nullptr, '#')) {
+  m_report.originals = originals;
+  if (originals != nullptr) *originals = {};
   m_path[0] = {nullptr, _gRootElement, 0, 0};
   if (m_parser == nullptr) return;
   XML_SetUserData(m_parser, this);

@@ -34,7 +34,8 @@ struct PendingAssignment {
 
 class cXmlParserContext {
  public:
-  explicit cXmlParserContext(qz::ClassRecord* record);
+  // `originals`, unless null, is cleared and filled.
+  cXmlParserContext(qz::ClassRecord* record, qz::OriginalTexts* originals);
   ~cXmlParserContext();
   cXmlParserContext(const cXmlParserContext&) = delete;
   cXmlParserContext& operator=(const cXmlParserContext&) = delete;
@@ -45,6 +46,10 @@ class cXmlParserContext {
   QZClassParseReport& Report() { return m_report; }
   qz::ClassRecord* Class() { return m_classRecord; }
   PendingAssignment& Pending() { return m_pending; }
+
+  // Where the next record will stand in the class.
+  size_t NextStudent() const { return m_classRecord->students.size(); }
+  size_t NextAssignment() const { return m_classRecord->assignments.size() - m_laterAssignments; }
 
   // The innermost open element that has a node.
   _XmlTreeTag* Node() { return m_node; }
@@ -90,6 +95,7 @@ class cXmlParserContext {
   void SetError(QZClassFault fault, const char* reason);
 
   qz::ClassRecord* m_classRecord;
+  size_t m_laterAssignments;  // of the record, behind all that are read once they are sorted
   _XmlTreeTag* m_node = nullptr;
   XML_Parser m_parser;
   size_t m_depth = 0;  // open elements that are not skipped

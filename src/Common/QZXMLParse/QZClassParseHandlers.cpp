@@ -7,12 +7,15 @@
 #include <utility>
 #include <vector>
 
+#include "Common/QZData/OriginalTexts.h"
 #include "Common/QZData/QZClass.h"
 #include "Common/QZData/QuestionTypes.h"
+#include "Common/QZData/StudentFields.h"
 #include "Common/QZXMLParse/QZClassParseContext.h"
 #include "Common/QZXMLParse/gxml.h"
 #include "Common/number.h"
 #include "Common/xmltree.h"
+#include "Common/xmlutil.h"
 
 namespace {
 
@@ -41,13 +44,78 @@ size_t _GetElementText(cXmlParserContext* context, int32_t id, char* buffer, int
   return _TranslateString(buffer);
 }
 
+// The node's own texts as the file has them.
+std::string _JoinTexts(const _XmlTreeTag* node) {
+  std::string text;
+  for (int32_t i = 0; i < node->itemCount; ++i) {
+    if (node->items[i].kind == kXmlTreeText) text += static_cast<const char*>(node->items[i].data);
+  }
+  return text;
+}
+
+// The bytes of the first `size` characters.
+size_t _CharacterBytes(const char* text, int32_t size) {
+  const char* end = text;
+  for (int32_t codePoint = 0; size > 0 && *end != '\0'; --size) {
+    end += XmlUtf8Step(end, XmlUtf8DecodeChar(&codePoint, end));
+  }
+  return static_cast<size_t>(end - text);
+}
+
+// Text of the ended element's direct child `id`, treated the same, as the file has it.
+std::string _GetOriginalText(cXmlParserContext* context, int32_t id, int32_t size) {
+  std::string text = _JoinTexts(XmlTreeFindNode(context->Node(), id));
+  text.resize(_CharacterBytes(text.c_str(), size));
+  text.resize(_TranslateString(text.data()));
+  text.shrink_to_fit();
+  return text;
+}
+
+// The replaced characters are counted, and `keep` is called with the text that lost them, if it is wanted.
+template <typename Keep>
+void _TakeReplaced(cXmlParserContext* context, int32_t id, int32_t size, uint64_t replaced, Keep keep) {
+  context->Report().replacedCharacters += replaced;
+  qz::OriginalTexts* originals = context->Report().originals;
+  if (originals != nullptr) keep(originals, _GetOriginalText(context, id, size));
+}
+
 using ElementText = std::array<char, kMaximumText + 1>;
 
-std::string _GetElementText(cXmlParserContext* context, int32_t id) {
+template <typename Keep>
+std::string _GetElementText(cXmlParserContext* context, int32_t id, Keep keep) {
   ElementText text;
-  const size_t length =
-      _GetElementText(context, id, text.data(), kMaximumText, &context->Report().replacedCharacters);
+  uint64_t replaced = 0;
+  const size_t length = _GetElementText(context, id, text.data(), kMaximumText, &replaced);
+  if (replaced > 0) _TakeReplaced(context, id, kMaximumText, replaced, keep);
   return std::string(text.data(), length);
+}
+
+std::string _GetStudentText(cXmlParserContext* context, int32_t id, const qz::StudentField& field) {
+  return _GetElementText(context, id, [&](qz::OriginalTexts* originals, std::string text) {
+    originals->KeepStudent(context->NextStudent(), field, std::move(text));
+  });
+}
+
+std::string _GetAssignmentText(cXmlParserContext* context, int32_t id, qz::AssignmentText which) {
+  return _GetElementText(context, id, [&](qz::OriginalTexts* originals, std::string text) {
+    originals->KeepAssignment(context->NextAssignment(), which, std::move(text));
+  });
+}
+
+std::string _GetQuestionText(cXmlParserContext* context, int32_t id, qz::QuestionText which) {
+  return _GetElementText(context, id, [&](qz::OriginalTexts* originals, std::string text) {
+    originals->KeepQuestion(context->NextAssignment(), context->Pending().record.questions.size(), which,
+                            std::move(text));
+  });
+}
+
+// Of the last of the pending responses.
+std::string _GetResponseText(cXmlParserContext* context) {
+  return _GetElementText(context, kElementText, [&](qz::OriginalTexts* originals, std::string text) {
+    const PendingAssignment& pending = context->Pending();
+    originals->KeepResponse(context->NextAssignment(), pending.record.results.size(),
+                            pending.responses.size() - 1, std::move(text));
+  });
 }
 
 int32_t _GetElementInt(cXmlParserContext* context, int32_t id) {
@@ -86,11 +154,7 @@ bool _DeleteElement(cXmlParserContext* context) {
 }  // namespace
 
 bool _HandleClassName(cXmlParserContext* context) {
-  const _XmlTreeTag* node = context->Node();
-  for (int32_t i = 0; i < node->itemCount; ++i) {
-    if (node->items[i].kind != kXmlTreeText) continue;
-    context->Report().className += static_cast<const char*>(node->items[i].data);
-  }
+  context->Report().className += _JoinTexts(context->Node());
   return true;
 }
 
@@ -98,32 +162,32 @@ bool _HandlePreferences(cXmlParserContext* context) {
   constexpr std::array<int32_t, 3> kLabels = {kElementLabel1, kElementLabel2, kElementLabel3};
   for (size_t i = 0; i < kLabels.size(); ++i) {
     std::array<char, kMaximumLabel + 1> label;
-    _GetElementText(context, kLabels[i], label.data(), kMaximumLabel, &context->Report().replacedCharacters);
-    if (label[0] != '\0') context->Class()->customLabels[i] = label.data();
+    uint64_t replaced = 0;
+    _GetElementText(context, kLabels[i], label.data(), kMaximumLabel, &replaced);
+    if (label[0] == '\0') continue;
+    context->Class()->customLabels[i] = label.data();
+    qz::OriginalTexts* originals = context->Report().originals;
+    if (originals != nullptr) originals->DropLabel(i);  // of preferences before these
+    if (replaced == 0) continue;
+    _TakeReplaced(context, kLabels[i], kMaximumLabel, replaced,
+                  [i](qz::OriginalTexts* kept, std::string text) { kept->KeepLabel(i, std::move(text)); });
   }
   return _DeleteElement(context);
 }
 
 bool _HandleStudent(cXmlParserContext* context) {
-  const _XmlTreeTag* node = context->Node();
+  // In the order of kStudentFields.
+  constexpr std::array<int32_t, std::size(qz::kStudentFields)> kElements = {
+      kElementFirstName, kElementLastName, kElementStudentID,   kElementPassword,   kElementAlias,
+      kElementPadID,     kElementGender,   kElementDateOfBirth, kElementGradeLevel, kElementSociological,
+      kElementRace,      kElementOther,    kElementCustom1,     kElementCustom2,    kElementCustom3};
   qz::StudentRecord student;
-  student.firstName = _GetElementText(context, kElementFirstName);
-  student.lastName = _GetElementText(context, kElementLastName);
-  student.studentID = _GetElementText(context, kElementStudentID);
-  student.alias = _GetElementText(context, kElementAlias);
-  student.password = _GetElementText(context, kElementPassword);
-  student.id = XmlTreeGetAttributeInt(node, "id");
-  student.dateOfBirth = _GetElementText(context, kElementDateOfBirth);
-  student.padID = _GetElementText(context, kElementPadID);
-  student.gradeLevel = _GetElementText(context, kElementGradeLevel);
-  student.gender = _GetElementText(context, kElementGender);
+  student.id = XmlTreeGetAttributeInt(context->Node(), "id");
+  for (size_t i = 0; i < kElements.size(); ++i) {
+    const qz::StudentField& field = qz::kStudentFields[i];
+    field.Value(student) = _GetStudentText(context, kElements[i], field);
+  }
   _NormalizeGender(&student.gender);
-  student.sociological = _GetElementText(context, kElementSociological);
-  student.race = _GetElementText(context, kElementRace);
-  student.other = _GetElementText(context, kElementOther);
-  student.custom[0] = _GetElementText(context, kElementCustom1);
-  student.custom[1] = _GetElementText(context, kElementCustom2);
-  student.custom[2] = _GetElementText(context, kElementCustom3);
   context->Class()->students.push_back(std::move(student));
   return _DeleteElement(context);
 }
@@ -133,13 +197,15 @@ bool _HandleQuestion(cXmlParserContext* context) {
   if (!pending.questionListEnded) {
     const _XmlTreeTag* node = context->Node();
     qz::QuestionRecord question;
-    question.answer = _GetElementText(context, kElementAnswer);
-    question.learningObjective = _GetElementText(context, kElementLearningObjective);
+    question.answer = _GetQuestionText(context, kElementAnswer, qz::QuestionText::kAnswer);
+    question.learningObjective =
+        _GetQuestionText(context, kElementLearningObjective, qz::QuestionText::kLearningObjective);
     question.number = XmlTreeGetAttributeInt(node, "number");
     question.numChoices = _GetElementInt(context, kElementNumChoices);
     question.pointsPossible = _GetElementDouble(context, kElementQuestionPoints);
-    question.reference = _GetElementText(context, kElementReference);
-    question.stateStandard = _GetElementText(context, kElementStateStandard);
+    question.reference = _GetQuestionText(context, kElementReference, qz::QuestionText::kReference);
+    question.stateStandard =
+        _GetQuestionText(context, kElementStateStandard, qz::QuestionText::kStateStandard);
     question.type = _GetQuestionType(XmlTreeGetAttribute(node, "type"));
     question.questionID = XmlTreeGetAttributeInt(node, "question-id");
     question.bankID = XmlTreeGetAttributeInt(node, "bank-id");
@@ -160,7 +226,7 @@ bool _HandleResponse(cXmlParserContext* context) {
     qz::ResponseRecord& response = pending.responses.emplace_back();
     response.questionID = XmlTreeGetAttributeInt(node, "question-id");
     response.bankID = XmlTreeGetAttributeInt(node, "bank-id");
-    response.text = _GetElementText(context, kElementText);
+    response.text = _GetResponseText(context);
     response.pointsEarned = _GetElementDouble(context, kElementPointsEarned);
   }
   return _DeleteElement(context);
@@ -194,11 +260,12 @@ bool _HandleAssignment(cXmlParserContext* context) {
   const _XmlTreeTag* node = context->Node();
   PendingAssignment& pending = context->Pending();
   qz::AssignmentRecord& assignment = pending.record;
-  assignment.name = _GetElementText(context, kElementAssignmentName);
-  assignment.assignmentID = _GetElementText(context, kElementAssignmentID);
-  assignment.date = _GetElementText(context, kElementAssignmentDate);
-  assignment.category = _GetElementText(context, kElementCategory);
-  assignment.onlineID = _GetElementText(context, kElementOnlineID);
+  assignment.name = _GetAssignmentText(context, kElementAssignmentName, qz::AssignmentText::kName);
+  assignment.assignmentID =
+      _GetAssignmentText(context, kElementAssignmentID, qz::AssignmentText::kAssignmentID);
+  assignment.date = _GetAssignmentText(context, kElementAssignmentDate, qz::AssignmentText::kDate);
+  assignment.category = _GetAssignmentText(context, kElementCategory, qz::AssignmentText::kCategory);
+  assignment.onlineID = _GetAssignmentText(context, kElementOnlineID, qz::AssignmentText::kOnlineID);
   assignment.pointsPossible = _GetElementInt(context, kElementAssignmentPoints);
   assignment.id = XmlTreeGetAttributeInt(node, "id");
   context->Class()->assignments.push_back(std::move(assignment));

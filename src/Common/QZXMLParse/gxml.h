@@ -3,7 +3,8 @@
 //
 // A position in a document is a path of element ids from the document element down, with its depth. Names
 // and ids are resolved relative to a path, so one name can have several ids: custom-1 is kElementLabel1
-// in the preferences and kElementCustom1 in a student. The lists are process-wide; one parse at a time.
+// in the preferences and kElementCustom1 in a student. The lists are process-wide: parses that run at the
+// same time share them, and nobody changes them while there is one.
 #ifndef GRADIX_GXML_H
 #define GRADIX_GXML_H
 

@@ -1,17 +1,10 @@
 #include "Filters/GX_StdCsv/GradebookSession.h"
 
-#include <algorithm>
-#include <cmath>
-#include <limits>
-#include <span>
-#include <vector>
-
 #include "Filters/GX_StdCsv/CsvOutput.h"
+#include "Filters/GX_StdCsv/GradebookWalk.h"
 #include "Filters/GX_StdCsv/ResultsJoin.h"
 
 namespace {
-
-using Assignments = std::vector<const qz::AssignmentRecord*>;
 
 Assignments _SelectedAssignments(const qz::ClassRecord& record) {
   Assignments selected;
@@ -21,127 +14,51 @@ Assignments _SelectedAssignments(const qz::ClassRecord& record) {
   return selected;
 }
 
-// Saturates at 32 bits.
-int32_t _PointsPossible(const Assignments& assignments) {
-  int64_t total = 0;
-  for (const qz::AssignmentRecord* assignment : assignments) total += assignment->pointsPossible;
-  using Limits = std::numeric_limits<int32_t>;
-  return static_cast<int32_t>(std::clamp<int64_t>(total, Limits::min(), Limits::max()));
-}
-
-// A gradebook while it is written.
-class Gradebook {
+// Quotes are where the layout has them, and numbers are "%g".
+class ClassicOutput {
  public:
-  Gradebook(std::FILE* file, const GradebookLayout& layout, const qz::ClassRecord& record, bool useQuotes)
+  ClassicOutput(std::FILE* file, const GradebookLayout& layout, const qz::ClassRecord& record,
+                const Assignments& assignments, bool useQuotes)
       : m_file(file),
         m_layout(layout),
-        m_class(record),
+        m_students(record.students),
         m_identifier(qz::FindStudentField(record.userIDField)),
-        m_useQuotes(useQuotes || !layout.quotesAreOptional),
-        m_assignments(_SelectedAssignments(record)) {}
+        m_assignments(assignments),
+        m_useQuotes(useQuotes || !layout.quotesAreOptional) {}
 
-  void Write() {
-    WriteTitles();
-    if (m_layout.pointsPossibleTitle != nullptr) WritePointsPossible();
-    const ScoreTable scores(m_class.students, m_assignments);
-    for (size_t position = 0; position < m_class.students.size(); ++position) {
-      WriteRow(m_class.students[position], scores.ScoresOf(position));
-    }
+  void BeginTitle(const GradebookColumn& column) {
+    Separate(m_layout.titleSeparator);
+    WriteQuote(column, Quotes::kTitle);
+  }
+  void EndTitle(const GradebookColumn& column) { WriteQuote(column, Quotes::kTitle); }
+
+  void BeginCell(const GradebookColumn& column) {
+    Separate(",");
+    WriteQuote(column, Quotes::kCells);
+  }
+  void EndCell(const GradebookColumn& column) { WriteQuote(column, Quotes::kCells); }
+
+  void EmptyCell() { Separate(","); }
+
+  void NoScore() {
+    BeginCell(m_layout.score);
+    Text(m_layout.noScore);
+    EndCell(m_layout.score);
+  }
+
+  void Text(std::string_view text) { WriteText(m_file, text); }
+  void Field(size_t student, const qz::StudentField& field) { WriteSafe(field.Value(m_students[student])); }
+  void Identifier(size_t student) { Field(student, m_identifier); }
+  void Name(size_t assignment) { WriteSafe(m_assignments[assignment]->name); }
+  void Integer(int32_t value) { WriteInteger(m_file, value); }
+  void Number(double value) { WriteNumber(m_file, value); }
+
+  void EndLine() {
+    WriteCharacter(m_file, '\n');
+    m_startOfLine = true;
   }
 
  private:
-  // What the names in patterns stand for; a cell or title finds those set that it may name.
-  struct Values {
-    const qz::StudentRecord* student = nullptr;
-    const qz::AssignmentRecord* assignment = nullptr;
-    int32_t pointsPossible = 0;
-    double points = 0.0;
-    double runningTotal = 0.0;
-  };
-
-  void WriteTitles() {
-    const Values values{.pointsPossible = _PointsPossible(m_assignments)};
-    for (const GradebookColumn& column : m_layout.leading) WriteTitle(column, values);
-    for (const qz::AssignmentRecord* assignment : m_assignments) {
-      WriteTitle(m_layout.score, {.assignment = assignment, .pointsPossible = assignment->pointsPossible});
-    }
-    for (const GradebookColumn& column : m_layout.trailing) WriteTitle(column, values);
-    EndLine();
-  }
-
-  void WritePointsPossible() {
-    Separate(",");
-    WriteText(m_file, m_layout.pointsPossibleTitle);
-    for (size_t i = 1; i < m_layout.leading.size(); ++i) Separate(",");
-    for (const qz::AssignmentRecord* assignment : m_assignments) {
-      Separate(",");
-      WriteNumber(m_file, assignment->pointsPossible);
-    }
-    for (size_t i = 0; i < m_layout.trailing.size(); ++i) Separate(",");
-    EndLine();
-  }
-
-  void WriteRow(const qz::StudentRecord& student, std::span<const ScoreTable::Score> scores) {
-    Values values{.student = &student};
-    for (const GradebookColumn& column : m_layout.leading) WriteCell(column, values);
-    auto score = scores.begin();
-    for (size_t i = 0; i < m_assignments.size(); ++i) {
-      if (score == scores.end() || score->assignment != i) {
-        WriteNoScore();
-        continue;
-      }
-      values.assignment = m_assignments[i];
-      values.points = score->points;
-      WriteCell(m_layout.score, values);
-      if (!std::isnan(values.runningTotal))
-        values.runningTotal += values.points;  // of two NaNs the first stays
-      ++score;
-    }
-    for (const GradebookColumn& column : m_layout.trailing) WriteCell(column, values);
-    EndLine();
-  }
-
-  void WriteTitle(const GradebookColumn& column, const Values& values) {
-    Separate(m_layout.titleSeparator);
-    WriteQuote(column, Quotes::kTitle);
-    WritePattern(column.title, values);
-    WriteQuote(column, Quotes::kTitle);
-  }
-
-  void WriteCell(const GradebookColumn& column, const Values& values) {
-    Separate(",");
-    WriteQuote(column, Quotes::kCells);
-    WritePattern(column.cell, values);
-    WriteQuote(column, Quotes::kCells);
-  }
-
-  void WriteNoScore() {
-    Separate(",");
-    WriteQuote(m_layout.score, Quotes::kCells);
-    WriteText(m_file, m_layout.noScore);
-    WriteQuote(m_layout.score, Quotes::kCells);
-  }
-
-  void WritePattern(const Pattern& pattern, const Values& values) {
-    for (const Pattern::Piece& piece : pattern.Pieces()) {
-      switch (piece.value) {
-        case Pattern::Value::kText: WriteText(m_file, piece.text); break;
-        case Pattern::Value::kField: WriteSafe(piece.field->Value(*values.student)); break;
-        case Pattern::Value::kIdentifier: WriteSafe(m_identifier.Value(*values.student)); break;
-        case Pattern::Value::kName: WriteSafe(values.assignment->name); break;
-        case Pattern::Value::kPointsPossible: WriteInteger(m_file, values.pointsPossible); break;
-        case Pattern::Value::kPoints: WriteNumber(m_file, values.points); break;
-        case Pattern::Value::kPercent: WriteNumber(m_file, Percent(values)); break;
-        case Pattern::Value::kRunningTotal: WriteNumber(m_file, values.runningTotal); break;
-      }
-    }
-  }
-
-  static double Percent(const Values& values) {
-    const int32_t possible = values.assignment->pointsPossible;
-    return possible > 0 ? 100.0 * values.points / possible : 0.0;
-  }
-
   void WriteSafe(const std::string& text) { Session::WriteSafeCSVString(m_file, text.c_str()); }
 
   void WriteQuote(const GradebookColumn& column, Quotes where) {
@@ -154,22 +71,22 @@ class Gradebook {
     m_startOfLine = false;
   }
 
-  void EndLine() {
-    WriteCharacter(m_file, '\n');
-    m_startOfLine = true;
-  }
-
   std::FILE* m_file;
   const GradebookLayout& m_layout;
-  const qz::ClassRecord& m_class;
+  const std::vector<qz::StudentRecord>& m_students;
   const qz::StudentField& m_identifier;
+  const Assignments& m_assignments;
   const bool m_useQuotes;
-  const Assignments m_assignments;
   bool m_startOfLine = true;
 };
 
 }  // namespace
 
 void GradebookSession::Write(std::FILE* file) {
-  Gradebook(file, Layout(), Class(), m_bUseQuotes).Write();
+  const Assignments assignments = _SelectedAssignments(Class());
+  ClassicOutput output(file, Layout(), Class(), assignments, m_bUseQuotes);
+  GradebookWalk walk(Layout(), assignments, &output);
+  walk.WriteHeader();
+  const ScoreTable scores(Class().students, assignments);
+  for (size_t i = 0; i < Class().students.size(); ++i) walk.WriteRow(i, scores.ScoresOf(i));
 }

@@ -1,11 +1,21 @@
 // What we know of Blackboard.
 #include <string>
 
+#include "Filters/GX_StdCsv/formats/Blackboard.h"
+#include "Systems/CurrentFile.h"
 #include "Systems/Download.h"
 #include "Systems/DownloadText.h"
 #include "Systems/Systems.h"
 
 namespace {
+
+// Current file
+
+constexpr CurrentFile kCurrent = {
+    .encoding = TextEncoding::kUtf8WithBom,
+    .layout = &kBlackboard9,
+    .quotesNumbers = true,
+};
 
 // Download
 
@@ -61,7 +71,9 @@ constexpr DownloadLayout kDownload = {
     .newTitle = [](const std::string& title, int32_t) { return title; },
 };
 
-constexpr SystemFormat kFormats[] = {{.key = "blackboard91"}, {.key = "blackboard8"}, {.key = "blackboard6"}};
+constexpr SystemFormat kFormats[] = {{.key = "blackboard91", .current = &kCurrent},
+                                     {.key = "blackboard8", .current = &kCurrent},
+                                     {.key = "blackboard6"}};
 
 }  // namespace
 

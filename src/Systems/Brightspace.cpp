@@ -1,11 +1,22 @@
 // What we know of Brightspace.
 #include <string>
 
+#include "Filters/GX_StdCsv/formats/D2L.h"
+#include "Systems/CurrentFile.h"
 #include "Systems/Download.h"
 #include "Systems/DownloadText.h"
 #include "Systems/Systems.h"
 
 namespace {
+
+// Current file
+
+// A spreadsheet takes "#0123" for a text and keeps its zero; Brightspace drops the "#".
+constexpr CurrentFile kCurrent = {
+    .encoding = TextEncoding::kUtf8WithBom,
+    .layout = &kD2L,
+    .numericIdPrefix = "#",
+};
 
 // Download
 
@@ -67,7 +78,7 @@ constexpr DownloadLayout kDownload = {
     .newTitle = [](const std::string& title, int32_t) { return title + std::string(kPointsGrade); },
 };
 
-constexpr SystemFormat kFormats[] = {{.key = "d2l"}};
+constexpr SystemFormat kFormats[] = {{.key = "d2l", .current = &kCurrent}};
 
 }  // namespace
 

@@ -1,11 +1,41 @@
 // What we know of Canvas.
 #include <algorithm>
 
+#include "Filters/GX_StdCsv/formats/Canvas.h"
+#include "Systems/CurrentFile.h"
 #include "Systems/Download.h"
 #include "Systems/DownloadText.h"
 #include "Systems/Systems.h"
 
 namespace {
+
+// Current file
+
+// The first field that Canvas compares is its own user number, which no class file knows.
+constexpr GradebookColumn kCurrentStudent[] = {
+    {.title = "Student", .cell = "{first-name} {last-name}"},
+    {.title = "ID", .cell = ""},
+    {.title = "SIS User ID", .cell = "{identifier}"},
+    {.title = "SIS Login ID", .cell = "{alias}"},
+    {.title = "Section", .cell = ""},
+};
+
+constexpr GradebookLayout kCurrentLayout = {
+    .leading = kCurrentStudent,
+    .score = kCanvas.score,
+    .pointsPossibleTitle = "    Points Possible",
+};
+
+// The alias is the login already.
+qz::UserIDField _UserIDField(qz::UserIDField chosen) {
+  return qz::FindStudentField(chosen).userIDField == qz::kUserIDAlias ? qz::kUserIDStudentID : chosen;
+}
+
+constexpr CurrentFile kCurrent = {
+    .layout = &kCurrentLayout,
+    .takesSemicolons = true,
+    .identifierField = _UserIDField,
+};
 
 // Download
 
@@ -87,7 +117,7 @@ constexpr DownloadLayout kDownload = {
     .newTitle = [](const std::string& title, int32_t) { return title; },
 };
 
-constexpr SystemFormat kFormats[] = {{.key = "canvas"}};
+constexpr SystemFormat kFormats[] = {{.key = "canvas", .current = &kCurrent}};
 
 }  // namespace
 

@@ -13,7 +13,7 @@ struct CurrentFile {
   TextEncoding encoding = TextEncoding::kUtf8;
   const GradebookLayout* layout = nullptr;  // null: the detailed report, which has columns of its own
   bool quotesNumbers = false;
-  int maxDecimals = -1;              // scores are rounded to so many; -1: written as they are
+  int maxDecimals = -1;              // scores are rounded to so many; -1: PlainNumber's
   bool takesSemicolons = false;      // between the cells
   bool hasDecimalCommas = false;     // with semicolons
   const char* numericIdPrefix = "";  // in front of an identifier of digits only
@@ -21,7 +21,9 @@ struct CurrentFile {
   qz::UserIDField (*identifierField)(qz::UserIDField chosen) = nullptr;
 };
 
-// Writes the file to an open stream, which stays open. Returns 0, or the errno value of what went wrong.
+// Writes the file of the subject, whose delimiter is one that the system takes, to an open stream, which stays
+// open. The report is about the subject's first assignment, and is empty without one. Returns 0, or the errno
+// value of what went wrong.
 int WriteCurrentFile(const CurrentFile& current, const ExportSubject& subject, std::FILE* file);
 
 #endif  // GRADIX_SYSTEMS_CURRENTFILE_H

@@ -1,9 +1,18 @@
 // The detailed report, which no learning system reads: people do, in spreadsheets.
+#include "Systems/CurrentFile.h"
 #include "Systems/Systems.h"
 
 namespace {
 
-constexpr SystemFormat kFormats[] = {{.key = "detailed"}};
+// Current file
+
+constexpr CurrentFile kCurrent = {
+    .encoding = TextEncoding::kUtf8WithBom,
+    .takesSemicolons = true,
+    .hasDecimalCommas = true,
+};
+
+constexpr SystemFormat kFormats[] = {{.key = "detailed", .current = &kCurrent}};
 
 }  // namespace
 

@@ -358,7 +358,8 @@ GradebookMatch MatchGradebook(const ExportSubject& subject, const Gradebook& gra
 
 bool IsSameScore(const Gradebook& gradebook, size_t row, size_t column, double score) {
   const std::optional<double> theirs = gradebook.Score(row, column);
-  return theirs && std::isfinite(score) && (*theirs == score || gradebook.ScoreText(*theirs) == gradebook.ScoreText(score));
+  return theirs && std::isfinite(score) &&
+         (*theirs == score || gradebook.ScoreText(*theirs) == gradebook.ScoreText(score));
 }
 
 std::vector<size_t> DifferentPoints(const ExportSubject& subject, const Gradebook& gradebook,

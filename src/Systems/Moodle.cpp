@@ -4,11 +4,23 @@
 #include <vector>
 
 #include "Common/KeyIndex.h"
+#include "Filters/GX_StdCsv/formats/Moodle.h"
+#include "Systems/CurrentFile.h"
 #include "Systems/Download.h"
 #include "Systems/DownloadText.h"
 #include "Systems/Systems.h"
 
 namespace {
+
+// Current file
+
+constexpr GradebookLayout kCurrentLayout = {
+    .leading = kMoodleStudent,
+    .score = kMoodle.score,
+    .noScore = "-",
+};
+
+constexpr CurrentFile kCurrent = {.layout = &kCurrentLayout, .takesSemicolons = true};
 
 // Download
 
@@ -143,7 +155,7 @@ constexpr DownloadLayout kDownload = {
     .newTitle = [](const std::string& title, int32_t) { return title; },
 };
 
-constexpr SystemFormat kFormats[] = {{.key = "moodle"}};
+constexpr SystemFormat kFormats[] = {{.key = "moodle", .current = &kCurrent}};
 
 }  // namespace
 

@@ -1,11 +1,23 @@
 // What we know of Sakai.
 #include <string>
 
+#include "Filters/GX_StdCsv/formats/Sakai.h"
+#include "Systems/CurrentFile.h"
 #include "Systems/Download.h"
 #include "Systems/DownloadText.h"
 #include "Systems/Systems.h"
 
 namespace {
+
+// Current file
+
+constexpr CurrentFile kCurrent = {
+    .encoding = TextEncoding::kLatin1,
+    .layout = &kSakai,
+    .maxDecimals = 2,
+    .takesSemicolons = true,
+    .hasDecimalCommas = true,
+};
 
 // Download
 
@@ -56,7 +68,7 @@ constexpr DownloadLayout kDownload = {
                    int32_t points) { return title + " [" + std::to_string(points) + "]"; },
 };
 
-constexpr SystemFormat kFormats[] = {{.key = "sakai"}};
+constexpr SystemFormat kFormats[] = {{.key = "sakai", .current = &kCurrent}};
 
 }  // namespace
 

@@ -1,9 +1,15 @@
 // What we know of Schoology.
+#include "Filters/GX_StdCsv/formats/Schoology.h"
+#include "Systems/CurrentFile.h"
 #include "Systems/Systems.h"
 
 namespace {
 
-constexpr SystemFormat kFormats[] = {{.key = "schoology"}};
+// Current file
+
+constexpr CurrentFile kCurrent = {.layout = &kSchoology, .quotesNumbers = true};
+
+constexpr SystemFormat kFormats[] = {{.key = "schoology", .current = &kCurrent}};
 
 }  // namespace
 

@@ -21,6 +21,16 @@ const std::string& _TextOf(const AssignmentRecord& assignment, AssignmentText te
   return assignment.name;
 }
 
+const std::string& _TextOf(const QuestionRecord& question, QuestionText text) {
+  switch (text) {
+    case QuestionText::kAnswer: break;
+    case QuestionText::kReference: return question.reference;
+    case QuestionText::kLearningObjective: return question.learningObjective;
+    case QuestionText::kStateStandard: return question.stateStandard;
+  }
+  return question.answer;
+}
+
 }  // namespace
 
 std::string ClassTexts::Student(size_t student, const StudentField& field) const {
@@ -39,6 +49,16 @@ std::string ClassTexts::AssignmentName(size_t assignment) const {
 
 std::string ClassTexts::Assignment(size_t assignment, AssignmentText text) const {
   return _Text(m_originals->OfAssignment(assignment, text), _TextOf(m_record->assignments[assignment], text));
+}
+
+std::string ClassTexts::Question(size_t assignment, size_t question, QuestionText text) const {
+  return _Text(m_originals->OfQuestion(assignment, question, text),
+               _TextOf(m_record->assignments[assignment].questions[question], text));
+}
+
+std::string ClassTexts::Response(size_t assignment, size_t results, size_t response) const {
+  return _Text(m_originals->OfResponse(assignment, results, response),
+               m_record->assignments[assignment].results[results].responses[response].text);
 }
 
 std::string ClassTexts::FieldTitle(const StudentField& field) const {

@@ -25,6 +25,8 @@ class ClassTexts {
   std::string StudentName(size_t student) const;  // "First Last"; one of them alone without the blank
   std::string AssignmentName(size_t assignment) const;
   std::string Assignment(size_t assignment, AssignmentText text) const;
+  std::string Question(size_t assignment, size_t question, QuestionText text) const;
+  std::string Response(size_t assignment, size_t results, size_t response) const;
   std::string FieldTitle(const StudentField& field) const;  // English, or the class's label
 
  private:

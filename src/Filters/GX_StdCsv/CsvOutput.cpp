@@ -1,9 +1,14 @@
 #include "Filters/GX_StdCsv/CsvOutput.h"
 
 #include <array>
+#include <cerrno>
 #include <charconv>
 
 #include "Common/number.h"
+
+int StreamError() {
+  return errno != 0 ? errno : EIO;
+}
 
 void WriteInteger(std::FILE* file, int32_t value) {
   std::array<char, 12> text;

@@ -6,6 +6,9 @@
 #include <cstdio>
 #include <string_view>
 
+// The errno value of a stream operation that failed, before which errno was 0; streams do not always leave one.
+int StreamError();
+
 // Writes one character. A file is written by one thread, so there is nothing to lock.
 inline void WriteCharacter(std::FILE* file, char character) {
   putc_unlocked(character, file);

@@ -3,14 +3,7 @@
 #include <cerrno>
 #include <cstring>
 
-namespace {
-
-// The reason for a failed stream operation; streams do not always leave one.
-int _StreamError() {
-  return errno != 0 ? errno : EIO;
-}
-
-}  // namespace
+#include "Filters/GX_StdCsv/CsvOutput.h"
 
 Session::Session(const QZEXPORTBEGIN* begin) : m_begin(*begin) {}
 
@@ -27,7 +20,7 @@ void Session::ExportTo(std::FILE* file) {
   m_outcome.begun = true;
   errno = 0;  // afterwards the reason of the last write that failed
   Write(file);
-  if (std::fflush(file) != 0 || std::ferror(file) != 0) m_outcome.error = _StreamError();
+  if (std::fflush(file) != 0 || std::ferror(file) != 0) m_outcome.error = StreamError();
 }
 
 void Session::WriteSafeCSVString(std::FILE* file, const char* text) {

@@ -176,4 +176,22 @@ TEST(CurrentFile, OfTheReportHasTheClassicFilesCells) {
 )");
 }
 
+// Every format that has one, and the detailed report with everything.
+TEST(CurrentFile, GoldenFiles) {
+  for (const FormatRow& format : FormatTable()) {
+    SCOPED_TRACE(format.key);
+    const std::string key = format.key;
+    ASSERT_EQ(FindCurrentFile(format) == nullptr, key == "webct" || key == "blackboard6" || key == "angel");
+    if (FindCurrentFile(format) == nullptr) continue;
+    ExportChoices choices = _Choices(format.key, format.defaultUserIDField);
+    if (format.IsReport()) {
+      choices.assignmentIDs = {306};
+      choices.report = {.fields = 0x7FFF, .options = {true, true, true, true, true}};
+    }
+    ClassFile file = ReadClassFile(SAMPLES "/secondary-school.xml");
+    ASSERT_TRUE(file.IsRead());
+    ExpectGolden("secondary-school." + key + "-current", _Written(std::move(file), choices));
+  }
+}
+
 }  // namespace

@@ -1,13 +1,33 @@
 // What we know of Blackboard.
 #include <string>
+#include <string_view>
 
 #include "Filters/GX_StdCsv/formats/Blackboard.h"
 #include "Systems/CurrentFile.h"
 #include "Systems/Download.h"
 #include "Systems/DownloadText.h"
+#include "Systems/ExportCheck.h"
 #include "Systems/Systems.h"
 
 namespace {
+
+// Findings
+
+bool _IsFirstGeneration(const ExportSubject& subject) {
+  return std::string_view(subject.format->key) == "blackboard6";
+}
+
+CheckRules _Rules(const ExportSubject& subject) {
+  CheckRules rules;
+  if (_IsFirstGeneration(subject)) rules.idMissing = Consequence::kRefused;
+  return rules;
+}
+
+void _Check(ExportCheck* check) {
+  if (check->subject.dialect == Dialect::kFilled || _IsFirstGeneration(check->subject)) return;
+  check->AddForFile("text-columns", Consequence::kNote);
+  check->AddForFile("totals-offered", Consequence::kNote);
+}
 
 // Current file
 
@@ -82,4 +102,6 @@ const LearningSystem kBlackboardSystem = {
     .name = "Blackboard",
     .formats = kFormats,
     .download = &kDownload,
+    .rules = _Rules,
+    .check = _Check,
 };

@@ -1,13 +1,35 @@
 // What we know of Brightspace.
 #include <string>
+#include <string_view>
 
 #include "Filters/GX_StdCsv/formats/D2L.h"
 #include "Systems/CurrentFile.h"
 #include "Systems/Download.h"
 #include "Systems/DownloadText.h"
+#include "Systems/ExportCheck.h"
 #include "Systems/Systems.h"
 
 namespace {
+
+// Findings
+
+CheckRules _Rules(const ExportSubject& /*subject*/) {
+  CheckRules rules;
+  rules.scoreAbovePoints = Consequence::kChanged;
+  return rules;
+}
+
+bool _IsDigitsOnly(std::string_view identifier) {
+  return !identifier.empty() && identifier.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
+void _Check(ExportCheck* check) {
+  // The other files have a "#" in front.
+  if (check->subject.dialect != Dialect::kClassic) return;
+  const std::vector<FindingPlace> digits = check->Identifiers(_IsDigitsOnly);
+  if (digits.empty()) return;
+  check->AddForFile("id-digits", Consequence::kNote, {check->subject.Identifier(digits.front().student)});
+}
 
 // Current file
 
@@ -87,4 +109,6 @@ const LearningSystem kBrightspaceSystem = {
     .name = "Brightspace",
     .formats = kFormats,
     .download = &kDownload,
+    .rules = _Rules,
+    .check = _Check,
 };

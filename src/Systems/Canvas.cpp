@@ -1,13 +1,110 @@
 // What we know of Canvas.
 #include <algorithm>
+#include <string_view>
 
+#include "Common/KeyGroups.h"
 #include "Filters/GX_StdCsv/formats/Canvas.h"
 #include "Systems/CurrentFile.h"
 #include "Systems/Download.h"
 #include "Systems/DownloadText.h"
+#include "Systems/ExportCheck.h"
 #include "Systems/Systems.h"
 
 namespace {
+
+// Findings
+
+constexpr std::string_view kHeadings[] = {
+    "Student", "ID", "Section", "SIS User ID", "SIS Login ID", "Integration ID", "Root Account"};
+
+bool _IsDigit(char character) {
+  return character >= '0' && character <= '9';
+}
+
+// A title without the number of a column, " (12)", at its end.
+std::string_view _WithoutNumber(std::string_view title) {
+  if (!title.ends_with(')')) return title;
+  const size_t open = title.rfind(" (");
+  if (open == std::string_view::npos) return title;
+  const std::string_view number = title.substr(open + 2, title.size() - open - 3);
+  return !number.empty() && std::ranges::all_of(number, _IsDigit) ? title.substr(0, open) : title;
+}
+
+// The words of its own totals.
+constexpr std::string_view kTotals[] = {
+    "Current Points", "Current Score",  "Current Grade",  "Final Points",    "Final Score",
+    "Final Grade",    "Override Score", "Override Grade", "Override Status",
+};
+
+// Columns with such words are dropped from an upload.
+bool _IsTotal(std::string_view title) {
+  return std::ranges::any_of(
+      kTotals, [&](std::string_view total) { return title.find(total) != std::string_view::npos; });
+}
+
+CheckRules _Rules(const ExportSubject& subject) {
+  CheckRules rules;
+  rules.noAssignments = Consequence::kRefused;
+  rules.titleEqual = Consequence::kWrong;
+  rules.titleHeading = Consequence::kWrong;
+  rules.headings = kHeadings;
+  // A filled column has its own number behind the title.
+  if (subject.dialect != Dialect::kFilled) rules.plainTitle = _WithoutNumber;
+  rules.tellsMissingResults = true;
+  if (subject.dialect == Dialect::kClassic) {
+    // This file is read as UTF-8, and its students are found by their names.
+    rules.accents = Consequence::kRefused;
+    rules.idMissing = rules.idDuplicate = rules.idReplaced = Consequence::kNote;
+    rules.nameReplaced = rules.nameQuote = Consequence::kLost;
+  }
+  return rules;
+}
+
+// By the names as they stand in the file.
+void _FindUnfitNames(ExportCheck* check) {
+  const std::vector<qz::StudentRecord>& students = check->Record().students;
+  std::vector<std::string> names(students.size());
+  KeyGroups groups(students.size());
+  std::vector<FindingPlace> nameless;
+  for (const size_t student : check->subject.students) {
+    std::string& name = names[student];
+    name.append(students[student].firstName).append(" ").append(students[student].lastName);
+    std::ranges::replace(name, '"', '\'');
+    if (name == " ") {
+      nameless.push_back({.student = student});
+    } else {
+      groups.Add(name, student);
+    }
+  }
+  std::vector<FindingPlace> equal;
+  for (const std::vector<size_t>& group : std::move(groups).Shared()) {
+    for (const size_t student : group) equal.push_back({.student = student});
+  }
+  check->AddForResults("name-equal", Consequence::kWrong, std::move(equal));
+  check->AddForResults("name-missing", Consequence::kLost, std::move(nameless));
+}
+
+// The file has such an identifier in the column of Canvas's own user numbers.
+void _FindUserNumbers(ExportCheck* check) {
+  const std::vector<FindingPlace> numbers = check->Identifiers(
+      [](std::string_view identifier) { return !identifier.empty() && _IsDigit(identifier[0]); });
+  if (numbers.empty()) return;
+  check->AddForFile("id-as-user-number", Consequence::kNote,
+                    {check->subject.Identifier(numbers.front().student)});
+}
+
+void _Check(ExportCheck* check) {
+  if (check->subject.dialect == Dialect::kClassic) {
+    _FindUnfitNames(check);
+    _FindUserNumbers(check);
+  }
+  check->Add("title-total", Consequence::kLost, check->Titles(_IsTotal));
+  if (check->subject.dialect == Dialect::kFilled) return;  // the other titles are told apart by their numbers
+  check->Add("title-number", Consequence::kWrong,
+             check->Titles([](std::string_view title) { return _WithoutNumber(title) != title; }));
+  check->Add("title-notes", Consequence::kLost,
+             check->Titles([](std::string_view title) { return title == "Notes"; }));
+}
 
 // Current file
 
@@ -49,11 +146,6 @@ constexpr FixedColumn kDownloadColumns[] = {
     {"Integration ID", ColumnRole::kIdentifier},
     {"Root Account", ColumnRole::kIdentity},
     {"Section", ColumnRole::kIdentity},
-};
-
-constexpr std::string_view kTotals[] = {
-    "Current Points", "Current Score",  "Current Grade",  "Final Points",    "Final Score",
-    "Final Grade",    "Override Score", "Override Grade", "Override Status",
 };
 
 bool _IsDownload(const DelimitedTable& table, bool) {
@@ -126,4 +218,6 @@ const LearningSystem kCanvasSystem = {
     .name = "Canvas",
     .formats = kFormats,
     .download = &kDownload,
+    .rules = _Rules,
+    .check = _Check,
 };

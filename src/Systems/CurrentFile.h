@@ -21,9 +21,9 @@ struct CurrentFile {
   qz::UserIDField (*identifierField)(qz::UserIDField chosen) = nullptr;
 };
 
-// Writes the file of the subject, whose delimiter is one that the system takes, to an open stream, which stays
-// open. The report is about the subject's first assignment, and is empty without one. Returns 0, or the errno
-// value of what went wrong.
+// Writes the file of the subject, whose delimiter is one that the system takes, to an open stream, which
+// stays open. The report is about the subject's first assignment, and is empty without one. Returns 0, or the
+// errno value of what went wrong.
 int WriteCurrentFile(const CurrentFile& current, const ExportSubject& subject, std::FILE* file);
 
 #endif  // GRADIX_SYSTEMS_CURRENTFILE_H

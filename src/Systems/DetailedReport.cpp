@@ -4,6 +4,14 @@
 
 namespace {
 
+// Findings
+
+CheckRules _Rules(const ExportSubject& /*subject*/) {
+  CheckRules rules;
+  rules.scoreNoNumber = Consequence::kNote;  // nobody computes with it
+  return rules;
+}
+
 // Current file
 
 constexpr CurrentFile kCurrent = {
@@ -20,4 +28,5 @@ const LearningSystem kDetailedReport = {
     .key = "detailed",
     .name = "Detailed results",
     .formats = kFormats,
+    .rules = _Rules,
 };

@@ -5,10 +5,12 @@
 #include <span>
 #include <string_view>
 
+#include "Systems/CheckRules.h"
 #include "Systems/ExportSubject.h"
 #include "Systems/Finding.h"
 
 struct CurrentFile;
+struct ExportCheck;
 struct DownloadLayout;
 struct UploadRules;
 
@@ -26,8 +28,10 @@ struct LearningSystem {
   const UploadRules* upload = nullptr;       // with a gradebook at hand; null: what is true of every system
   bool isRetired = false;                    // no longer sold
 
+  // What it makes of that which any file may hold; null: nothing is known.
+  CheckRules (*rules)(const ExportSubject& subject) = nullptr;
   // Adds what is peculiar to the system; CheckExport adds what is true of all.
-  void (*check)(const ExportSubject& subject, Findings* findings) = nullptr;
+  void (*check)(ExportCheck* check) = nullptr;
 };
 
 std::span<const LearningSystem* const> LearningSystems();

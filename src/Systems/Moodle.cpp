@@ -1,6 +1,7 @@
 // What we know of Moodle.
 #include <algorithm>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "Common/KeyIndex.h"
@@ -8,9 +9,46 @@
 #include "Systems/CurrentFile.h"
 #include "Systems/Download.h"
 #include "Systems/DownloadText.h"
+#include "Systems/ExportCheck.h"
+#include "Systems/ScoreFindings.h"
 #include "Systems/Systems.h"
 
 namespace {
+
+// Findings
+
+CheckRules _Rules(const ExportSubject& subject) {
+  // One student whom it does not find makes it refuse the whole file.
+  CheckRules rules;
+  rules.extraSeparator = Consequence::kRefused;
+  // The current file leaves them out.
+  rules.idMissing = subject.dialect == Dialect::kClassic ? Consequence::kRefused : Consequence::kLost;
+  rules.idReplaced = Consequence::kRefused;
+  rules.accents.reset();
+  rules.idAccents = Consequence::kRefused;
+  rules.titleAccents = Consequence::kChanged;  // in UTF-8, as which it is read, such bytes mean nothing
+  rules.titleEqual = Consequence::kWrong;
+  rules.scoreAbovePoints = Consequence::kChanged;
+  rules.scoreNoNumber = Consequence::kRefused;
+  rules.tellsMissingResults = true;
+  return rules;
+}
+
+bool _HasCapitals(std::string_view identifier) {
+  return std::ranges::any_of(identifier, [](char letter) { return letter >= 'A' && letter <= 'Z'; });
+}
+
+void _Check(ExportCheck* check) {
+  const Dialect dialect = check->subject.dialect;
+  check->Add("score-above-100", Consequence::kRefused, ScoresAbove(*check, 100));
+  check->Add("score-negative", Consequence::kChanged, NegativeScores(*check));
+  // It takes away the meaning of the separator or of the quote behind it.
+  check->Add("title-backslash", dialect == Dialect::kCurrent ? Consequence::kRefused : Consequence::kLost,
+             check->Titles([](std::string_view title) { return title.ends_with('\\'); }));
+  if (dialect == Dialect::kFilled) return;
+  check->Add("id-capitals", Consequence::kNote, check->Identifiers(_HasCapitals));
+  check->AddForFile("new-columns", Consequence::kNote);
+}
 
 // Current file
 
@@ -164,4 +202,6 @@ const LearningSystem kMoodleSystem = {
     .name = "Moodle",
     .formats = kFormats,
     .download = &kDownload,
+    .rules = _Rules,
+    .check = _Check,
 };

@@ -1,13 +1,100 @@
 // What we know of Sakai.
+#include <algorithm>
+#include <cmath>
 #include <string>
+#include <string_view>
 
+#include "Common/number.h"
 #include "Filters/GX_StdCsv/formats/Sakai.h"
 #include "Systems/CurrentFile.h"
 #include "Systems/Download.h"
 #include "Systems/DownloadText.h"
+#include "Systems/ExportCheck.h"
+#include "Systems/ScoreFindings.h"
 #include "Systems/Systems.h"
 
 namespace {
+
+// Findings
+
+CheckRules _Rules(const ExportSubject& /*subject*/) {
+  // Students whom it does not find are skipped. It does not look at their names.
+  CheckRules rules;
+  rules.idReplaced = Consequence::kLost;
+  rules.accents.reset();
+  rules.idAccents = Consequence::kLost;
+  rules.titleAccents = Consequence::kChanged;
+  rules.nameReplaced = Consequence::kNote;
+  rules.titleEqual = Consequence::kRefused;
+  rules.titleEmpty = Consequence::kRefused;
+  rules.scoreNoNumber = Consequence::kRefused;
+  rules.tellsMissingResults = true;
+  return rules;
+}
+
+constexpr size_t kMaxDigits = 10;
+constexpr size_t kMaxDecimals = 2;
+
+bool _IsTaken(std::string_view score) {
+  const size_t digits = std::min(score.find_first_not_of("0123456789"), score.size());
+  const std::string_view rest = score.substr(digits);
+  if (rest.empty()) return digits <= kMaxDigits;
+  return rest[0] == '.' && rest.size() <= 1 + kMaxDecimals && digits <= kMaxDigits &&
+         rest.find_first_not_of("0123456789", 1) == std::string_view::npos;
+}
+
+// Most scores are multiples of a quarter, which need no closer look.
+bool _IsEasy(double points) {
+  return points >= 0 && points < 100000 && points * 4 == std::floor(points * 4);
+}
+
+void _CheckScores(ExportCheck* check) {
+  const ExportSubject& subject = check->subject;
+  std::vector<FindingPlace> refused;
+  std::vector<FindingPlace> rounded;
+  check->VisitScores([&](size_t student, size_t column, double points) {
+    if (_IsEasy(points) || !std::isfinite(points)) return;
+    FindingPlace place = ScorePlace(subject, student, column, points);
+    if (place.detail[0] == '-') return;  // has a finding of its own
+    if (!_IsTaken(place.detail)) {
+      refused.push_back(std::move(place));
+    } else if (const std::string whole = PlainNumber(points);
+               subject.dialect != Dialect::kClassic && whole != place.detail) {
+      place.detail = whole + " \u2192 " + place.detail;
+      rounded.push_back(std::move(place));
+    }
+  });
+  check->Add("score-form", Consequence::kRefused, std::move(refused));
+  check->Add("score-rounded", Consequence::kChanged, std::move(rounded));
+  check->Add("score-negative", Consequence::kRefused, NegativeScores(*check));
+}
+
+void _CheckTitles(ExportCheck* check) {
+  check->Add("title-bracket", Consequence::kRefused,
+             check->Titles([](std::string_view title) { return title.find('[') != std::string_view::npos; }));
+  check->Add("title-asterisk", Consequence::kRefused,
+             check->Titles([](std::string_view title) { return title.starts_with("* "); }));
+  check->Add("title-hash", Consequence::kLost,
+             check->Titles([](std::string_view title) { return title.starts_with('#'); }));
+  check->Add("title-backslash", Consequence::kChanged, check->Titles([](std::string_view title) {
+    return title.find('\\') != std::string_view::npos;
+  }));
+}
+
+void _Check(ExportCheck* check) {
+  _CheckScores(check);
+  _CheckTitles(check);
+  if (check->subject.dialect == Dialect::kFilled) return;  // points and separators are those of the download
+  std::vector<FindingPlace> pointless;
+  for (const size_t assignment : check->subject.assignments) {
+    if (check->Record().assignments[assignment].pointsPossible == 0) {
+      pointless.push_back({.assignment = assignment});
+    }
+  }
+  check->Add("points-zero", Consequence::kLost, std::move(pointless));
+  check->AddForFile("points-replaced", Consequence::kNote);
+  check->AddForFile(check->subject.delimiter == ';' ? "semicolons" : "decimal-comma", Consequence::kNote);
+}
 
 // Current file
 
@@ -77,4 +164,6 @@ const LearningSystem kSakaiSystem = {
     .name = "Sakai",
     .formats = kFormats,
     .download = &kDownload,
+    .rules = _Rules,
+    .check = _Check,
 };

@@ -47,6 +47,8 @@ class ScoreTable {
   ScoreTable(const std::vector<qz::StudentRecord>& students,
              const std::vector<const qz::AssignmentRecord*>& assignments);
 
+  size_t Count() const { return m_scores.size(); }  // those of students who share an id once
+
   // The student's scores in the order of the assignments. `position` is that in the roster.
   std::span<const Score> ScoresOf(size_t position) const {
     const size_t number = m_roster.NumberAt(position);

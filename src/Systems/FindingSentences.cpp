@@ -546,3 +546,14 @@ constexpr FindingSentences kSentences[] = {
 std::span<const FindingSentences> CheckSentences() {
   return kSentences;
 }
+
+const FindingSentences* FindSentences(const Finding& finding, std::string_view system) {
+  for (const FindingSentences& row : CheckSentences()) {
+    if (std::string_view(row.code) == finding.code &&
+        (!row.consequence || *row.consequence == finding.consequence) &&
+        (row.system == nullptr || row.system == system)) {
+      return &row;
+    }
+  }
+  return nullptr;
+}

@@ -10,6 +10,7 @@
 
 #include <optional>
 #include <span>
+#include <string_view>
 
 #include "Systems/Finding.h"
 
@@ -26,7 +27,10 @@ struct FindingSentences {
   FindingWords spanish;
 };
 
-// Of what CheckExport finds. Of rows that fit the first counts.
+// Of what CheckExport finds.
 std::span<const FindingSentences> CheckSentences();
+
+// The first row that fits, or null.
+const FindingSentences* FindSentences(const Finding& finding, std::string_view system);
 
 #endif  // GRADIX_SYSTEMS_FINDINGSENTENCES_H

@@ -8,17 +8,6 @@
 
 namespace {
 
-const FindingSentences& _SentencesOf(const Finding& finding, std::string_view system) {
-  for (const FindingSentences& row : CheckSentences()) {
-    if (std::string_view(row.code) == finding.code &&
-        (!row.consequence || *row.consequence == finding.consequence) &&
-        (row.system == nullptr || row.system == system)) {
-      return row;
-    }
-  }
-  throw std::logic_error(std::string("a finding without sentences: ") + finding.code);
-}
-
 std::string _FieldTitle(const ExportSubject& subject, TextLanguage language) {
   const qz::StudentField& field = qz::FindStudentField(subject.identifier);
   if (language == TextLanguage::kSpanish && field.spanishTitle != nullptr) return field.spanishTitle;
@@ -128,8 +117,9 @@ std::string DescribeConsequence(Consequence consequence, TextLanguage language) 
 }
 
 FindingText DescribeFinding(const Finding& finding, const ExportSubject& subject, TextLanguage language) {
-  const FindingSentences& sentences = _SentencesOf(finding, SystemOf(*subject.format).key);
-  const FindingWords& words = language == TextLanguage::kSpanish ? sentences.spanish : sentences.english;
+  const FindingSentences* sentences = FindSentences(finding, SystemOf(*subject.format).key);
+  if (sentences == nullptr) throw std::logic_error(std::string("no sentences: ") + finding.code);
+  const FindingWords& words = language == TextLanguage::kSpanish ? sentences->spanish : sentences->english;
   const Sentence sentence(finding, subject, language);
   return {sentence.Write(words.what), sentence.Write(words.advice)};
 }

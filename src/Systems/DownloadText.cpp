@@ -1,6 +1,7 @@
 #include "Systems/DownloadText.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "Common/asciicase.h"
 #include "Common/number.h"
@@ -57,7 +58,8 @@ std::optional<double> ParseCellNumber(std::string_view cell, char decimalMark) {
   }
   if (digits == 0 || !rest.empty()) return {};
   std::replace(number.begin(), number.end(), decimalMark, '.');
-  return ParseDouble(number.data(), number.size());
+  const double value = ParseDouble(number.data(), number.size());
+  return std::isfinite(value) ? std::optional(value) : std::nullopt;
 }
 
 std::optional<double> ParseCellNumber(std::string_view cell) {

@@ -274,7 +274,8 @@ TableFault _Parse(std::string_view bytes, const EncodingOf& ownEncoding, Delimit
   if (!text) {
     const std::string before = DecodeText(bytes.substr(0, offset), style.encoding).value_or("");
     return _FaultAt(before, before.size(),
-                    std::string("the text is not in the encoding ") + EncodingName(style.encoding));
+                    std::string("the text is not ") + EncodingName(style.encoding) +
+                        " as expected; another program may have saved the file anew");
   }
   if (const size_t zero = text->find('\0'); zero != std::string::npos) {
     return _FaultAt(*text, zero, "a zero byte stands in the text");

@@ -134,6 +134,28 @@ TEST(Download, IsUnderstood) {
   }
 }
 
+// What is no number is kept as it is, so nothing else may be taken for one.
+TEST(Download, ReadsScores) {
+  const struct {
+    std::string cell;
+    double score;  // -1: none
+    bool isMissed;
+  } rows[] = {{" 7.5 ", 7.5, true}, {".5", .5, true},   {"5.", 5, true},
+              {"+5", 5, true},      {"7,5", -1, true},  {"1.2.3", -1, true},
+              {"1e1", -1, true},    {"0x1", -1, true},  {"-", -1, false},
+              {".", -1, true},      {"n/a", -1, false}, {"inf", -1, true},
+              {"5%", -1, true},     {"", -1, false},    {std::string(400, '9'), -1, true}};
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.cell);
+    Gradebook gradebook;
+    const std::string bytes =
+        "Student,ID,Section,Quiz (1)\nBell,1,A,\"" + row.cell + "\"\nCole,2,A,1.5\nDrew,3,A,1.5";
+    ASSERT_FALSE(ParseGradebook(bytes, nullptr, &gradebook).IsFault());
+    EXPECT_EQ(gradebook.Score(1, 3).value_or(-1), row.score);
+    EXPECT_EQ(gradebook.HasScore(1, 3), row.isMissed);
+  }
+}
+
 TEST(Download, NamesNewColumns) {
   const struct {
     const LearningSystem& system;
@@ -176,7 +198,7 @@ TEST(Download, TellsTheFault) {
        "Indicator\"; Sakai: \"Student ID\", \"Name\"; found \"é\", \"b b\", "
        "\"0123456789012345678901234567890123456789...\", \"d\", ..."},
       {"not Canvas's encoding", canvas + "\"B\xE9ll, Anna\",1,u,A,2\n", nullptr,
-       "2: the text is not in the encoding UTF-8"},
+       "2: the text is not UTF-8 as expected; another program may have saved the file anew"},
       {"a system without download", canvas, &kSchoologySystem,
        "0: gradebooks downloaded from Schoology cannot be read"},
   };

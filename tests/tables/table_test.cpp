@@ -92,11 +92,12 @@ TEST(Table, TellsTheFault) {
       {"not in the encoding of its mark",
        "\xEF\xBB\xBF"
        "a\r\n\xC3\xA9,\xE9\n",
-       "2:3 the text is not in the encoding UTF-8 with a byte-order mark"},
+       "2:3 the text is not UTF-8 with a byte-order mark as expected; another program may have saved the "
+       "file anew"},
       {"half a character",
        "\xFF\xFE"
        "a\0\n\0b"s,
-       "2:1 the text is not in the encoding UTF-16"},
+       "2:1 the text is not UTF-16 as expected; another program may have saved the file anew"},
       {"quote without end", "a,b\r\n\r\n1,\"2\n3\n4", "3:3 a quote begins here and does not end"},
       {"quote inside", "a,b\n1,5\" nail\n", "2:4 a quote (\") stands where none may stand"},
       {"text behind a quote", "a,b\n\"1\n2\n3\"x,4\n",

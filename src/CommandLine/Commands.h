@@ -8,5 +8,6 @@
 ExitStatus RunFormats(const FormatsOptions& options);
 ExitStatus RunInspect(const InspectOptions& options);
 ExitStatus RunExport(const ExportOptions& options);
+ExitStatus RunFill(const FillOptions& options);
 
 #endif  // GRADIX_COMMANDS_H

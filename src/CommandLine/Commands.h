@@ -8,6 +8,6 @@
 ExitStatus RunFormats(const FormatsOptions& options);
 ExitStatus RunInspect(const InspectOptions& options);
 ExitStatus RunExport(const ExportOptions& options);
-ExitStatus RunFill(const FillOptions& options);
+ExitStatus RunBatch(const ExportOptions& options);  // with an output folder
 
 #endif  // GRADIX_COMMANDS_H

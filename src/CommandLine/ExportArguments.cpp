@@ -1,5 +1,6 @@
 #include <CLI/CLI.hpp>
 
+#include "CommandLine/BatchArguments.h"
 #include "CommandLine/ChoiceArguments.h"
 #include "CommandLine/ClassInput.h"
 #include "CommandLine/CommandSyntax.h"
@@ -22,6 +23,8 @@ struct ExportArguments {
   ChoiceArguments choices;
   std::string output = kStandardStream;
   bool force = false;
+  bool strict = false;
+  BatchArguments batch;
   ReportArguments report;
 };
 
@@ -38,6 +41,9 @@ void _DefineOptions(CLI::App* command, ExportArguments* arguments) {
   DefineNoQuotes(command, &arguments->choices.noQuotes);
   command->add_flag("--force", arguments->force,
                     "Export even if no student has an identifier, or if students share one.");
+  command->add_flag("--strict", arguments->strict,
+                    "Export nothing if the check finds trouble; see 'gxexport check'.");
+  DefineBatchOptions(command, &arguments->batch);
   DefineReportOptions(command, &arguments->report);
 }
 
@@ -49,7 +55,8 @@ ExportOptions _MakeOptions(const CLI::App& command, const ExportArguments& argum
   options.classFiles = arguments.classFiles;
   options.outputFile = RequireFileName("-o", arguments.output);
   options.force = arguments.force;
-  if (!options.IsBatch() && options.classFiles.size() > 1) FailUsage("several class files need --output-dir");
+  options.strict = arguments.strict;
+  SetBatchOptions(arguments.batch, command.count("--output") > 0, &options);
   return options;
 }
 

@@ -5,6 +5,7 @@
 #include <exception>
 #include <iostream>
 #include <new>
+#include <stdexcept>
 #include <variant>
 
 #include "CommandLine/CommandError.h"
@@ -22,8 +23,10 @@ struct CommandRunner {
   }
   ExitStatus operator()(const FormatsOptions& options) const { return RunFormats(options); }
   ExitStatus operator()(const InspectOptions& options) const { return RunInspect(options); }
-  ExitStatus operator()(const ExportOptions& options) const { return RunExport(options); }
-  ExitStatus operator()(const FillOptions& options) const { return RunFill(options); }
+  ExitStatus operator()(const ExportOptions& options) const {
+    return options.IsBatch() ? RunBatch(options) : RunExport(options);
+  }
+  ExitStatus operator()(const FillOptions& /*options*/) const { throw std::logic_error("no such command"); }
 };
 
 // A closed pipe and a size limit are failed writes, not reasons to die with a half-written file.

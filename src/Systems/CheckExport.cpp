@@ -18,10 +18,7 @@ Findings CheckExport(const ExportSubject& subject) {
   const LearningSystem& system = SystemOf(*subject.format);
   ExportCheck check(subject);
   if (system.rules != nullptr) check.rules = system.rules(subject);
-  // The other files leave out what is no number.
-  if (subject.dialect != Dialect::kClassic && !subject.format->IsReport()) {
-    check.rules.scoreNoNumber = Consequence::kLost;
-  }
+  if (subject.dialect == Dialect::kFilled) check.rules.scoreNoNumber = Consequence::kLost;  // is left out
   _FindNothingToExport(&check);
   FindDialogFaults(&check);
   FindIdentifierFaults(&check);

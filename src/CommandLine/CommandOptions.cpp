@@ -39,7 +39,7 @@ const char* const kInspectFooter =
     "  gxexport inspect --json class.xml";
 
 // In the order in which help lists them.
-constexpr CommandSyntax (*kCommands[])(CLI::App* program) = {DefineFormats, DefineInspect, DefineExport,
+constexpr CommandSyntax (*kCommands[])(CLI::App* program) = {DefineFormats, DefineInspect, DefineExport, DefineFill,
                                                              DefineHelp};
 
 // Keeps the descriptions within the width of a terminal.

@@ -9,5 +9,6 @@ ExitStatus RunFormats(const FormatsOptions& options);
 ExitStatus RunInspect(const InspectOptions& options);
 ExitStatus RunExport(const ExportOptions& options);
 ExitStatus RunBatch(const ExportOptions& options);  // with an output folder
+ExitStatus RunFill(const FillOptions& options);
 
 #endif  // GRADIX_COMMANDS_H

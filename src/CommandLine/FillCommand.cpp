@@ -42,9 +42,18 @@ Gradebook _ReadGradebook(const FillOptions& options) {
   }
   std::string place = name;
   for (const uint64_t number : {fault.line, fault.column}) {
-    if (number > 0) place += ":" + std::to_string(number);
+    if (number > 0) place.append(":").append(std::to_string(number));
   }
   throw CommandError(kExitClassFile, place + ": " + PrintableUtf8(fault.reason));
+}
+
+std::string _AssignmentList(const qz::ClassRecord& record) {
+  if (record.assignments.empty()) return "The class has no assignments.";
+  std::string text = "The assignments of the class are:";
+  for (const qz::AssignmentRecord& assignment : record.assignments) {
+    text += "\n  " + std::to_string(assignment.id) + "  " + PrintableRoman(assignment.name);
+  }
+  return text;
 }
 
 ExportChoices _Choices(const FillOptions& options, const Gradebook& gradebook) {
@@ -75,19 +84,18 @@ void _RequireTitles(const FillPlan& plan, const MatchChoices& choices) {
   const ChosenTitleFault& fault = plan.match.titleFaults.front();
   const auto& [id, title] = choices.titles[fault.choice];
   const std::string assignment = "the assignment " + std::to_string(id);
-  const std::string column = "'" + PrintableUtf8(title) + "'";
+  const std::string column = "the column '" + PrintableUtf8(title) + "'";
   const std::string columns = ". " + _ColumnList(*plan.gradebook);
   switch (fault.kind) {
     case Kind::kUnknownAssignment:
       _Fail("--map names " + assignment + ", which is not among those to fill. " +
-            AssignmentList(plan.subject->texts.Record()));
+            _AssignmentList(plan.subject->texts.Record()));
     case Kind::kSeveralAssignments: _Fail("--map has more than one meaning for " + assignment);
-    case Kind::kUnknownTitle: _Fail("the gradebook has no column " + column + columns);
+    case Kind::kUnknownTitle: _Fail("the gradebook does not have " + column + columns);
     case Kind::kSeveralColumns:
-      _Fail("several columns of the gradebook are called " + column + "; name one by its whole heading" +
-            columns);
-    case Kind::kReadOnly: _Fail("the column " + column + " of the gradebook cannot be filled" + columns);
-    case Kind::kTakenColumn: _Fail("--map gives the column " + column + " to several assignments");
+      _Fail(column + " stands in the gradebook several times; name one by its whole heading" + columns);
+    case Kind::kReadOnly: _Fail(column + " of the gradebook cannot be filled" + columns);
+    case Kind::kTakenColumn: _Fail("--map gives " + column + " to several assignments");
   }
 }
 
@@ -119,7 +127,11 @@ ExitStatus RunFill(const FillOptions& options) {
   const ExportChoices choices = _Choices(options, gradebook);
   const std::unique_ptr<Session> session = MakeSession(*choices.format);
   *session->GetClass() = std::move(file.record);
-  RequireChoices(choices, session.get());
+  const AppliedChoices applied = Apply(choices, session.get());
+  if (applied.fault == ChoiceFault::kUnknownAssignment) {
+    _Fail("there is no assignment with the id " + std::to_string(applied.unknownID) + ". " +
+          _AssignmentList(session->Class()));
+  }
 
   const ExportSubject subject = MakeExportSubject(choices, *session, file.originals);
   const FillPlan plan = PlanFill(subject, gradebook, options.choices);

@@ -5,7 +5,6 @@
 #include <exception>
 #include <iostream>
 #include <new>
-#include <stdexcept>
 #include <variant>
 
 #include "CommandLine/CommandError.h"
@@ -26,7 +25,7 @@ struct CommandRunner {
   ExitStatus operator()(const ExportOptions& options) const {
     return options.IsBatch() ? RunBatch(options) : RunExport(options);
   }
-  ExitStatus operator()(const FillOptions& /*options*/) const { throw std::logic_error("no such command"); }
+  ExitStatus operator()(const FillOptions& options) const { return RunFill(options); }
 };
 
 // A closed pipe and a size limit are failed writes, not reasons to die with a half-written file.

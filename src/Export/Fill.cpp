@@ -153,11 +153,11 @@ class FillPlanner {
     return match;
   }
 
-  // Scores that are not written are no trouble.
+  // Scores that stay away because the gradebook has others are no trouble.
   void DropUnwritten(Findings* findings) const {
     std::set<std::pair<size_t, size_t>> unwritten;
     for (const FillCell& cell : m_plan.cells) {
-      if (!cell.IsWritten()) unwritten.emplace(cell.student, m_subject.assignments[cell.assignment]);
+      if (cell.kind == FillKind::kKept) unwritten.emplace(cell.student, m_subject.assignments[cell.assignment]);
     }
     if (unwritten.empty()) return;
     std::erase_if(*findings, [&unwritten](Finding& finding) {

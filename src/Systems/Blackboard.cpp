@@ -8,6 +8,7 @@
 #include "Systems/DownloadText.h"
 #include "Systems/ExportCheck.h"
 #include "Systems/Systems.h"
+#include "Systems/UploadRules.h"
 
 namespace {
 
@@ -91,6 +92,10 @@ constexpr DownloadLayout kDownload = {
     .newTitle = [](const std::string& title, int32_t) { return title; },
 };
 
+// Upload
+
+constexpr UploadRules kUpload = {.showsAllIdentifiers = true};
+
 constexpr SystemFormat kFormats[] = {{.key = "blackboard91", .current = &kCurrent},
                                      {.key = "blackboard8", .current = &kCurrent},
                                      {.key = "blackboard6"}};
@@ -102,6 +107,7 @@ const LearningSystem kBlackboardSystem = {
     .name = "Blackboard",
     .formats = kFormats,
     .download = &kDownload,
+    .upload = &kUpload,
     .rules = _Rules,
     .check = _Check,
 };

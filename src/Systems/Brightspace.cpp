@@ -8,6 +8,7 @@
 #include "Systems/DownloadText.h"
 #include "Systems/ExportCheck.h"
 #include "Systems/Systems.h"
+#include "Systems/UploadRules.h"
 
 namespace {
 
@@ -100,6 +101,10 @@ constexpr DownloadLayout kDownload = {
     .newTitle = [](const std::string& title, int32_t) { return title + std::string(kPointsGrade); },
 };
 
+// Upload
+
+constexpr UploadRules kUpload = {.capsScores = true};
+
 constexpr SystemFormat kFormats[] = {{.key = "d2l", .current = &kCurrent}};
 
 }  // namespace
@@ -109,6 +114,7 @@ const LearningSystem kBrightspaceSystem = {
     .name = "Brightspace",
     .formats = kFormats,
     .download = &kDownload,
+    .upload = &kUpload,
     .rules = _Rules,
     .check = _Check,
 };

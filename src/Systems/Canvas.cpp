@@ -9,6 +9,7 @@
 #include "Systems/DownloadText.h"
 #include "Systems/ExportCheck.h"
 #include "Systems/Systems.h"
+#include "Systems/UploadRules.h"
 
 namespace {
 
@@ -209,6 +210,20 @@ constexpr DownloadLayout kDownload = {
     .newTitle = [](const std::string& title, int32_t) { return title; },
 };
 
+// Upload
+
+constexpr const char* kSuperseded[] = {"result-missing", "id-as-user-number"};
+
+constexpr UploadRules kUpload = {
+    .blank = BlankScore::kErases,
+    .unknownStudent = Consequence::kLost,
+    .showsAllIdentifiers = true,
+    .secondColumn = Consequence::kWrong,
+    .matchesNames = true,
+    .ownNumbers = "ID",
+    .superseded = kSuperseded,
+};
+
 constexpr SystemFormat kFormats[] = {{.key = "canvas", .current = &kCurrent}};
 
 }  // namespace
@@ -218,6 +233,7 @@ const LearningSystem kCanvasSystem = {
     .name = "Canvas",
     .formats = kFormats,
     .download = &kDownload,
+    .upload = &kUpload,
     .rules = _Rules,
     .check = _Check,
 };

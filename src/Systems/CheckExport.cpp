@@ -18,7 +18,10 @@ Findings CheckExport(const ExportSubject& subject) {
   const LearningSystem& system = SystemOf(*subject.format);
   ExportCheck check(subject);
   if (system.rules != nullptr) check.rules = system.rules(subject);
-  if (subject.dialect == Dialect::kFilled) check.rules.scoreNoNumber = Consequence::kLost;  // is left out
+  // The other files leave out what is no number.
+  if (subject.dialect != Dialect::kClassic && !subject.format->IsReport()) {
+    check.rules.scoreNoNumber = Consequence::kLost;
+  }
   _FindNothingToExport(&check);
   FindDialogFaults(&check);
   FindIdentifierFaults(&check);

@@ -548,11 +548,13 @@ std::span<const FindingSentences> CheckSentences() {
 }
 
 const FindingSentences* FindSentences(const Finding& finding, std::string_view system) {
-  for (const FindingSentences& row : CheckSentences()) {
-    if (std::string_view(row.code) == finding.code &&
-        (!row.consequence || *row.consequence == finding.consequence) &&
-        (row.system == nullptr || row.system == system)) {
-      return &row;
+  for (const auto rows : {CheckSentences(), GradebookSentences()}) {
+    for (const FindingSentences& row : rows) {
+      if (std::string_view(row.code) == finding.code &&
+          (!row.consequence || *row.consequence == finding.consequence) &&
+          (row.system == nullptr || row.system == system)) {
+        return &row;
+      }
     }
   }
   return nullptr;

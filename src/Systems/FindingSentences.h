@@ -30,6 +30,9 @@ struct FindingSentences {
 // Of what CheckExport finds.
 std::span<const FindingSentences> CheckSentences();
 
+// Of what CheckAgainstGradebook finds.
+std::span<const FindingSentences> GradebookSentences();
+
 // The first row that fits, or null.
 const FindingSentences* FindSentences(const Finding& finding, std::string_view system);
 

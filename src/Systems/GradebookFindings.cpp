@@ -177,7 +177,7 @@ class GradebookFindings {
         const std::optional<double> score = m_subject.scores.Find(student, i);
         if (!score || *score <= theirs || *score > ours || !IsInCourse(student)) continue;
         places.push_back(
-            Place(student, i, m_gradebook.ScoreText(*score) + " > " + m_gradebook.ScoreText(theirs)));
+            Place(student, i, m_gradebook.ScoreText(*score) + "/" + m_gradebook.ScoreText(theirs)));
       }
     }
     Add("gradebook-score-above-points", Consequence::kChanged, std::move(places));

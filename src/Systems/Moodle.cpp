@@ -12,6 +12,7 @@
 #include "Systems/ExportCheck.h"
 #include "Systems/ScoreFindings.h"
 #include "Systems/Systems.h"
+#include "Systems/UploadRules.h"
 
 namespace {
 
@@ -193,6 +194,18 @@ constexpr DownloadLayout kDownload = {
     .newTitle = [](const std::string& title, int32_t) { return title; },
 };
 
+// Upload
+
+constexpr const char* kSuperseded[] = {"result-missing"};
+
+constexpr UploadRules kUpload = {
+    .blank = BlankScore::kErases,
+    .unknownStudent = Consequence::kRefused,
+    .refusesUnknownRows = true,
+    .capsScores = true,
+    .superseded = kSuperseded,
+};
+
 constexpr SystemFormat kFormats[] = {{.key = "moodle", .current = &kCurrent}};
 
 }  // namespace
@@ -202,6 +215,7 @@ const LearningSystem kMoodleSystem = {
     .name = "Moodle",
     .formats = kFormats,
     .download = &kDownload,
+    .upload = &kUpload,
     .rules = _Rules,
     .check = _Check,
 };

@@ -12,6 +12,7 @@
 #include "Systems/ExportCheck.h"
 #include "Systems/ScoreFindings.h"
 #include "Systems/Systems.h"
+#include "Systems/UploadRules.h"
 
 namespace {
 
@@ -155,6 +156,20 @@ constexpr DownloadLayout kDownload = {
                    int32_t points) { return title + " [" + std::to_string(points) + "]"; },
 };
 
+// Upload
+
+constexpr const char* kSuperseded[] = {"result-missing", "points-replaced"};
+
+constexpr UploadRules kUpload = {
+    .blank = BlankScore::kErasesWhenChanging,
+    .unknownStudent = Consequence::kLost,
+    .showsAllIdentifiers = true,
+    .otherCase = Consequence::kLost,
+    .secondColumn = Consequence::kWrong,
+    .otherPoints = Consequence::kChanged,
+    .superseded = kSuperseded,
+};
+
 constexpr SystemFormat kFormats[] = {{.key = "sakai", .current = &kCurrent}};
 
 }  // namespace
@@ -164,6 +179,7 @@ const LearningSystem kSakaiSystem = {
     .name = "Sakai",
     .formats = kFormats,
     .download = &kDownload,
+    .upload = &kUpload,
     .rules = _Rules,
     .check = _Check,
 };

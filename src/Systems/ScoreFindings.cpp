@@ -58,6 +58,7 @@ void _FindNoNumbers(ExportCheck* check) {
 // An assignment that nobody has a result on, and a student without any, are one place each.
 void _FindMissingResults(ExportCheck* check) {
   const ExportSubject& subject = check->subject;
+  if (subject.students.empty()) return;
   std::vector<bool> hasResults(subject.assignments.size());
   size_t columnsWithResults = 0;
   check->VisitScores([&](size_t, size_t column, double) {

@@ -222,8 +222,6 @@ class TableBuilder {
     }
     m_isRowNew = true;
     m_hasText = false;
-    // The line end counts with the next row, and both halves of CR LF together.
-    if (m_offset > 0) --m_offset;
   }
 
   TableFault SyntaxFault(int error, size_t offset) {

@@ -60,14 +60,14 @@ struct Row {
 
 const Row kRows[] = {
     {"Canvas",
-     "Student,ID,SIS User ID,SIS Login ID,Section,Notes,Quiz 1 (301),Essay (two) (302),Current Score,Final "
-     "Grade\n"
-     ",,,,,,Manual Posting,,,\n"
-     "    Points Possible,,,,,,10,12.5,(read only),(read only)\n"
-     "\"Bell, Anna\",11,u1,anna,A,nice,7.50,EX,88,B\n"
+     "Student,ID,SIS User ID,SIS Login ID,Section,Notes,Quiz 1 (301),Essay (two) (302),Odd (303),Current "
+     "Score,Final Grade\n"
+     ",,,,,,Manual Posting,,,,\n"
+     "    Points Possible,,,,,,10,12.5,(read only),(read only),(read only)\n"
+     "\"Bell, Anna\",11,u1,anna,A,nice,7.50,EX,1,88,B\n"
      "\"=\"\"=Sum, Ada\"\"\",12,\"=\"\"007\"\"\",ada,A,,N/A\n"
      "\"Student, Test\",13,,,A\n",
-     nullptr, &kCanvasSystem, "n|k|i|i|k|o|s Quiz 1/10|s Essay (two)/12.5|r|r",
+     nullptr, &kCanvasSystem, "n|k|i|i|k|o|s Quiz 1/10|s Essay (two)/12.5|r|r|r",
      "Anna Bell u1 7.5 !; Ada =Sum 007 - -; Test Student  - -"},
     {"Canvas, names apart, semicolons, decimal commas, no points",
      "LastName;FirstName;ID;SIS User ID;Section;Quiz, 1 (301);Quizzes Unposted Final Score\n"
@@ -101,10 +101,10 @@ const Row kRows[] = {
      "\"Last Name\"\t\"First Name\"\t\"Username\"\t\"Student ID\"\t\"Last Access\"\t\"Availability\"\t"
      "\"Weighted Total [Total Pts: up to 0 Percentage] |1\"\t\"Total [Total Pts: 20 Score] |2\"\t"
      "\"Quiz 1 [Total Pts: 10 Score] |3\"\t\"Essay [Total Pts: 5 Letter] |4\"\t\"Notes |5\"\t"
-     "\"Lab [Total Pts: 2.5] |6\"\t\"Mine [Total Pts: 9 Score]\"\r\n"
+     "\"Mean [Total Pts: up to 9 Score] |7\"\t\"Lab [Total Pts: 2.5] |6\"\t\"Mine [Total Pts: 9 Score]\"\r\n"
      "\"Bell\"\t\"Anna\"\t\"anna\"\t\"7\"\t\"\"\t\"Yes\"\t\"80\"\t\"16\"\t\"7."
-     "5\"\t\"A\"\t\"x\"\t\"\"\t\"1\"\r\n",
-     nullptr, &kBlackboardSystem, "n|n|i|i|o|o|r|r|s Quiz 1/10|o|o|s Lab/2.5|o", "Anna Bell anna 7.5 -"},
+     "5\"\t\"A\"\t\"x\"\t\"2\"\t\"\"\t\"1\"\r\n",
+     nullptr, &kBlackboardSystem, "n|n|i|i|o|o|r|r|s Quiz 1/10|o|o|r|s Lab/2.5|o", "Anna Bell anna 7.5 -"},
     {"Brightspace",
      "OrgDefinedId,Username,Last Name,First Name,Email,Quiz 1 Points Grade <Numeric MaxPoints:10 Weight:1 "
      "Category:Quizzes CategoryWeight:5>,Essay Text Grade <Text>,Pass Points Grade <PassFail>,"

@@ -136,7 +136,7 @@ ExitStatus RunFill(const FillOptions& options) {
   const ExportSubject subject = MakeExportSubject(choices, *session, file.originals);
   const FillPlan plan = PlanFill(subject, gradebook, options.choices);
   _RequireTitles(plan, options.choices);
-  FillReport report{&options, &plan};
+  FillReport report{&options, &plan, file.name};
   const bool isTrouble = plan.IsNothingMatched() || plan.IsSomethingLeftOut() || HasTrouble(plan.findings);
   if (isTrouble) report.status = kExitTrouble;
   report.isWritten = !options.dryRun && !plan.IsNothingMatched();

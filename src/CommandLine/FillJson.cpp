@@ -2,6 +2,7 @@
 #include <nlohmann/json.hpp>
 
 #include "CommandLine/FillReport.h"
+#include "CommandLine/FindingsJson.h"
 #include "CommandLine/TerminalText.h"
 #include "Systems/LearningSystem.h"
 
@@ -32,42 +33,40 @@ class Writer {
       : m_report(report), m_plan(*report.plan), m_subject(*m_plan.subject), m_gradebook(*m_plan.gradebook) {}
 
   Json Whole() const {
-    const GradebookMatch& match = m_plan.match;
+    const FillOptions& options = *m_report.options;
+    const size_t identifiers = m_plan.match.identifierColumn;
     Json json = {{"version", kVersion},
-                 {"classFile", PrintableUtf8(m_report.options->classFile)},
-                 {"gradebook", PrintableUtf8(m_report.options->gradebook)},
+                 {"file", PrintableUtf8(options.classFile)},
+                 {"className", m_report.className},
+                 {"gradebook", PrintableUtf8(options.gradebook)},
+                 {"output", m_report.isWritten ? Json(PrintableUtf8(options.outputFile)) : Json()},
+                 {"written", m_report.isWritten},
+                 {"exitStatus", static_cast<int>(m_report.status)},
                  {"system", m_gradebook.system->key},
                  {"format", m_subject.format->key},
                  {"field", qz::FindStudentField(m_subject.identifier).key},
-                 {"identifierColumn", nullptr},
-                 {"written", m_report.isWritten},
-                 {"status", static_cast<int>(m_report.status)}};
-    if (match.identifierColumn != kNone) json["identifierColumn"] = Heading(match.identifierColumn);
+                 {"identifierColumn", identifiers == kNone ? Json() : Json(Heading(identifiers))}};
     json["counts"] = Counts();
     json["columns"] = Columns();
     json["cells"] = Cells();
     json["unmatchedStudents"] = Each(m_plan.unmatchedStudents, [this](size_t student) {
-      Json row = Student(student);
-      row["reason"] = UnmatchedKey(m_plan.match.students[student]);
-      return row;
+      return Json{{"student", Student(student)}, {"reason", UnmatchedKey(m_plan.match.students[student])}};
     });
     json["unmatchedMembers"] = Each(m_plan.unmatchedMembers, [this](size_t member) {
       const CourseMember& who = m_gradebook.members[member];
       return Json{{"name", who.name}, {"line", m_gradebook.table.LineOf(who.row)}};
     });
     json["unmatchedAssignments"] = Each(m_plan.unmatchedAssignments, [this](size_t i) {
-      Json row = Assignment(i);
-      row["reason"] = UnmatchedKey(m_plan.match.titles[i]);
-      return row;
+      return Json{{"assignment", Assignment(i)}, {"reason", UnmatchedKey(m_plan.match.titles[i])}};
     });
     json["unmatchedColumns"] =
         Each(m_plan.unmatchedColumns, [this](size_t column) { return Json(Heading(column)); });
     json["differentPoints"] = Each(m_plan.differentPoints, [this](size_t i) {
-      Json row = Assignment(i);
-      row["points"] = Record(i).pointsPossible;
-      row["gradebookPoints"] = *m_gradebook.columns[m_plan.match.columnOf[i]].pointsPossible;
-      return row;
+      return Json{{"assignment", Assignment(i)},
+                  {"points", Record(i).pointsPossible},
+                  {"gradebookPoints", *m_gradebook.columns[m_plan.match.columnOf[i]].pointsPossible}};
     });
+    json["findings"] = FindingsJson(m_plan.findings, m_subject);
     return json;
   }
 
@@ -85,10 +84,10 @@ class Writer {
   std::string Heading(size_t column) const { return std::string(m_gradebook.Heading(column)); }
 
   Json Student(size_t student) const {
-    return {{"studentID", m_subject.texts.Record().students[student].id},
+    return {{"id", m_subject.texts.Record().students[student].id},
             {"name", m_subject.texts.StudentName(student)}};
   }
-  Json Assignment(size_t i) const { return {{"assignmentID", Record(i).id}, {"title", m_subject.titles[i]}}; }
+  Json Assignment(size_t i) const { return {{"id", Record(i).id}, {"name", m_subject.titles[i]}}; }
 
   Json Counts() const {
     const auto isFound = [](size_t other) { return other != kNone; };
@@ -104,9 +103,8 @@ class Writer {
     Json columns = Json::array();
     for (const FillColumn& column : m_plan.columns) {
       if (column.assignment == kNone) continue;
-      Json row = Assignment(column.assignment);
-      row["column"] = column.column == kNone ? Json(nullptr) : Json(Heading(column.column));
-      columns.push_back(std::move(row));
+      columns.push_back({{"assignment", Assignment(column.assignment)},
+                         {"column", column.column == kNone ? Json() : Json(Heading(column.column))}});
     }
     return columns;
   }
@@ -114,8 +112,8 @@ class Writer {
   Json Cells() const {
     Json cells = Json::array();
     for (const FillCell& cell : m_plan.cells) {
-      cells.push_back({{"studentID", m_subject.texts.Record().students[cell.student].id},
-                       {"assignmentID", Record(cell.assignment).id},
+      cells.push_back({{"student", m_subject.texts.Record().students[cell.student].id},
+                       {"assignment", Record(cell.assignment).id},
                        {"kind", _Key(cell.kind)},
                        {"old", cell.oldText},
                        {"new", cell.newText}});
@@ -132,5 +130,5 @@ class Writer {
 }  // namespace
 
 std::string FillJson(const FillReport& report) {
-  return Writer(report).Whole().dump(2) + "\n";
+  return Writer(report).Whole().dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
 }

@@ -11,6 +11,7 @@
 struct FillReport {
   const FillOptions* options;
   const FillPlan* plan;
+  std::string className = {};  // UTF-8
   bool isWritten = false;
   ExitStatus status = kExitDone;
 };

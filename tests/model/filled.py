@@ -262,7 +262,8 @@ def faults_of(attempt: Attempt, after: Course, system: str, warned: bool) -> lis
     faults = [f"{cell} was {old.get(cell)} and is {new.get(cell)}" for cell in sorted(old.keys() | new.keys())
               if old.get(cell) != new.get(cell) and cell not in may and cell[1] in points]
     for cell, score in must.items():
-        if 0 <= score <= points[cell[1]] and cell[1] not in lost and round(score, 2) == score and new.get(cell) != score:
+        plain = 0 <= score <= points[cell[1]] and round(score, 2) == score
+        if plain and cell[1] not in lost and new.get(cell) != score:
             faults.append(f"{cell} is {new.get(cell)} instead of {score}")
     strays = [c.title for c in after.columns if c.number not in points]
     works = {w.title for w in attempt.made.exported() if not attempt.columns(w, True)}

@@ -14,18 +14,22 @@ def course():
 
 CANVAS = [
     ("name", 'Student,ID,Section,Quiz\nPoints Possible,,,10\n"Bob Lee, Jr.",b2,,7\n', {"Quiz": {11: 4, 12: 7}}),
-    ("last name first, semicolons", '\ufeffStudent;ID;Section;Quiz\r\n"Lee, Jr., Bob";;;7\r\n', {"Quiz": {11: 4, 12: 7}}),
+    ("last name first, semicolons", '\ufeffStudent;ID;Section;Quiz\r\n"Lee, Jr., Bob";;;7\r\n',
+     {"Quiz": {11: 4, 12: 7}}),
     ("number before name", "Student,ID,Section,Quiz\nAnn Smith,12,,7\n", {"Quiz": {11: 4, 12: 7}}),
-    ("number before SIS, SIS before name", 'Student,ID,SIS User ID,Section,Quiz\nAnn Smith,13,b2,,7\nAnn Smith,,b2,,6\n',
+    ("number before SIS, SIS before name",
+     'Student,ID,SIS User ID,Section,Quiz\nAnn Smith,13,b2,,7\nAnn Smith,,b2,,6\n',
      {"Quiz": {11: 4, 12: 6, 13: 7}}),
     ("login", "Student,ID,SIS User ID,SIS Login ID,Section,Quiz\nNobody,,zz,jose,,7\n", {"Quiz": {11: 4, 13: 7}}),
     ("unknown", "Student,ID,Section,Quiz\nNobody,,,7\n", {}),
-    ("a blank erases, words stay", 'Student,ID,Section,Quiz,Essay\n"Smith, Ann",,,,EX\n', {"Quiz": {}, "Essay": {11: "EX"}}),
+    ("a blank erases, words stay", 'Student,ID,Section,Quiz,Essay\n"Smith, Ann",,,,EX\n',
+     {"Quiz": {}, "Essay": {11: "EX"}}),
     ("new column", "Student,ID,Section,Test\n    Points Possible,,,30\nAnn Smith,,,3\n", {"Test": {11: 3}}),
     ("number in the title", "Student,ID,Section,Any (501)\nAnn Smith,,,3\n", {"Quiz": {11: 3}}),
     ("unknown number in the title", "Student,ID,Section,Test (1)\nAnn Smith,,,3\n", {"Test": {11: 3}}),
     ("later rows overwrite", "Student,ID,Section,Quiz\nAnn Smith,,,3\nAnn Smith,,,2\n", {"Quiz": {11: 2}}),
-    ("totals and custom columns", "Student,ID,Section,Final Score,Notes,Quiz\nAnn Smith,,,1,2,3\n", {"Quiz": {11: 3}}),
+    ("totals and custom columns", "Student,ID,Section,Final Score,Notes,Quiz\nAnn Smith,,,1,2,3\n",
+     {"Quiz": {11: 3}}),
     ("accents", "Student,ID,Section,Quiz\nJosé Diaz,,,3\n".encode("mac_roman"), Refused),
     ("no work", "Student,ID,Section\nAnn Smith,,\n", Refused),
 ]
@@ -42,10 +46,12 @@ MOODLE = [
 ]
 SAKAI = [
     ("plain", 'Student ID,Student Name,Quiz [10]\na1,"Smith Ann",7.25\nzz,,7\n', {"Quiz": {11: 7.25}}),
-    ("a blank beside a change erases", "Student ID,Student Name,Quiz [10],Essay [20]\na1,,,\nb2,,3,\n", {"Quiz": {12: 3}}),
+    ("a blank beside a change erases", "Student ID,Student Name,Quiz [10],Essay [20]\na1,,,\nb2,,3,\n",
+     {"Quiz": {12: 3}}),
     ("new column", "Student ID,Student Name,Test [5]\né3,,3\n".encode("latin-1"), {"Test": {13: 3}}),
     ("garbled", "Student ID,Student Name,é [5]\na1,,3\n".encode("mac_roman"), {"\x8e": {11: 3}}),
-    ("other tools, no points, backslash", "Student ID,Student Name,#x [5],No [0],Qu\\iz [10]\na1,,1,2,3\n", {"Quiz": {11: 3}}),
+    ("other tools, no points, backslash", "Student ID,Student Name,#x [5],No [0],Qu\\iz [10]\na1,,1,2,3\n",
+     {"Quiz": {11: 3}}),
     *((f"score {score}", f"Student ID,Student Name,Quiz [10]\na1,,{score}\n", Refused)
       for score in ("1.125", "-1", "1e+06", "12345678901", "x")),
     *((f"title {title}", f"Student ID,Student Name,{title} [10],Quiz [10]\na1,,1,2\n", Refused)

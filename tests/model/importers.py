@@ -124,7 +124,7 @@ def import_canvas(data: bytes, before: Course) -> Course:
     places = {heading: i for i, heading in enumerate(headings) if heading in _CANVAS_HEADINGS}
     items = {i: heading for i, heading in enumerate(headings)
              if heading not in _CANVAS_HEADINGS and not _CANVAS_DROPS.search(heading)}
-    if not items or not {"Student", "LastName"} & places.keys():
+    if len(places) == len(headings) or not {"Student", "LastName"} & places.keys():
         raise Refused("no students or no assignments")
     students, points = [], {}
     for row in rows:
@@ -185,7 +185,7 @@ def _moodle_score(cell: str, points: float | None) -> float | None:
     number = _number(cell)
     if number is None or number > 100:
         raise Refused(f"a score of {cell}")
-    return max(0.0, number if points is None else min(number, points))
+    return max(0.0, min(number, points) if points else number)    # nobody has items of 0 points
 
 
 # Sakai
@@ -201,7 +201,7 @@ def _sakai_columns(course: Course, headings: list[str]) -> dict[int, Column]:
         if heading.startswith("#"):
             continue                # another tool's
         match = _SAKAI_TITLE.fullmatch(heading)
-        title, points = (match[1].strip(), float(match[2].replace(",", "."))) if match else (heading.strip(), None)
+        title, points = (match[1].strip(" "), float(match[2].replace(",", "."))) if match else (heading.strip(" "), None)
         if not title or "[" in title or title.startswith("* ") or title in seen:
             raise Refused(f"the title {title!r}")
         seen.add(title)

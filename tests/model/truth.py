@@ -46,7 +46,13 @@ class Case(NamedTuple):
     def fault(self) -> str:
         if bool(self.outcome) == bool(self.troubles()):
             return ""
+        # Who has more than the chosen ids to go by may bear that they are equal; they are exported by force only.
+        if not self.outcome and self.system == "canvas" and self.troubles() == ["id-duplicate"]:
+            return ""
         return "silence" if self.outcome else "false alarm"
+
+    def is_refused(self) -> bool:
+        return self.outcome.startswith("refused")
 
 
 def run(path: str, *arguments: str) -> subprocess.CompletedProcess[bytes]:
@@ -146,8 +152,10 @@ def report(cases: list[Case]) -> int:
     for kind in kinds:
         of_kind = [case for case in cases if (case.system, case.dialect) == kind]
         count = collections.Counter(case.fault() for case in of_kind)
-        print(f"{' '.join(kind)}: {len(of_kind)} imports, {sum(bool(case.outcome) for case in of_kind)} met trouble; "
-              f"silence {count['silence']}, false alarms {count['false alarm']}")
+        told = sum(case.is_refused() == ("refused" in case.codes.values()) for case in of_kind if case.outcome)
+        troubled = sum(bool(case.outcome) for case in of_kind)
+        print(f"{' '.join(kind)}: {len(of_kind)} imports, {troubled} met trouble; silence {count['silence']}, "
+              f"false alarms {count['false alarm']}; told whether all is refused: {told} of {troubled}")
     return len(faults)
 
 

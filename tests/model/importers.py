@@ -201,7 +201,8 @@ def _sakai_columns(course: Course, headings: list[str]) -> dict[int, Column]:
         if heading.startswith("#"):
             continue                # another tool's
         match = _SAKAI_TITLE.fullmatch(heading)
-        title, points = (match[1].strip(" "), float(match[2].replace(",", "."))) if match else (heading.strip(" "), None)
+        title = (match[1] if match else heading).strip(" ")
+        points = float(match[2].replace(",", ".")) if match else None
         if not title or "[" in title or title.startswith("* ") or title in seen:
             raise Refused(f"the title {title!r}")
         seen.add(title)

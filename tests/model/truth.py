@@ -99,8 +99,9 @@ def difference(wanted: Course, got: Course) -> str:
 
 
 def findings_in(output: bytes) -> dict[str, str]:
-    """Consequences by code."""
-    return {finding["code"]: finding["consequence"] for finding in json.loads(output)["findings"]}
+    """Consequences by code, of the only class."""
+    report = json.loads(output)
+    return {finding["code"]: finding["consequence"] for finding in report.get("classes", [report])[0]["findings"]}
 
 
 def findings_of(path: str, arguments: list[str]) -> dict[str, str]:

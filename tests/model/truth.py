@@ -106,9 +106,9 @@ def findings_in(output: bytes) -> dict[str, str]:
 
 def findings_of(path: str, arguments: list[str]) -> dict[str, str]:
     done = run(path, "check", "--json", *arguments)
-    found = findings_in(done.stdout)
+    found = findings_in(done.stdout) if done.stdout else {}
     if done.returncode != (TROUBLE if set(found.values()) - {"note"} else DONE):
-        raise ValueError(f"check {' '.join(arguments)}: status {done.returncode} with {found}")
+        raise ValueError(f"check {' '.join(arguments)}: status {done.returncode}, {found}\n{done.stderr.decode()}")
     return found
 
 
@@ -116,8 +116,10 @@ def cases_of(path: str, seed: str, only: str, stem: str) -> list[Case]:
     made, file, cases = awkward.build(seed, only=only), f"{stem}.xml", []
     Path(file).write_bytes(made.xml())
     for system, dialect, more in VARIANTS:
-        arguments = ["-f", system, *made.arguments(), "--dialect", dialect, *more, file]
-        done = run(path, "export", "--force", *arguments)
+        if system != "canvas" and not made.exported():
+            continue        # what the others do with such a file, we do not know
+        arguments = ["-f", system, *made.arguments(), "--dialect", dialect, file]
+        done = run(path, "export", "--force", *more, *arguments)
         if done.returncode != DONE:
             raise ValueError(f"export {' '.join(arguments)}: status {done.returncode}\n{done.stderr.decode()}")
         titles = {w.id: w.title.replace('"', "'") if dialect == "classic" else w.title for w in made.works}

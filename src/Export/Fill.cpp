@@ -5,6 +5,7 @@
 #include <iterator>
 #include <map>
 #include <set>
+#include <string_view>
 
 #include "Systems/LearningSystem.h"
 #include "Systems/UploadRules.h"
@@ -15,6 +16,29 @@ constexpr size_t kNone = GradebookMatch::kNone;
 
 bool _IsIdentity(ColumnRole role) {
   return role == ColumnRole::kIdentifier || role == ColumnRole::kName || role == ColumnRole::kIdentity;
+}
+
+// What is wrong with columns, whoever has results in them.
+bool _IsColumnTrouble(const Finding& finding) {
+  const auto isColumn = [](const FindingPlace& place) {
+    return place.student == FindingPlace::kNone && place.assignment != FindingPlace::kNone;
+  };
+  return IsTrouble(finding.consequence) && !finding.places.empty() &&
+         std::ranges::all_of(finding.places, isColumn);
+}
+
+// Puts the places of a finding to those that are known under its code.
+void _Join(Finding finding, Findings* findings) {
+  const auto known = std::ranges::find_if(
+      *findings, [&finding](const Finding& other) { return std::string_view(other.code) == finding.code; });
+  if (known == findings->end()) {
+    findings->push_back(std::move(finding));
+    return;
+  }
+  for (FindingPlace& place : finding.places) {
+    const auto isSame = [&place](const FindingPlace& other) { return other.assignment == place.assignment; };
+    if (std::ranges::none_of(known->places, isSame)) known->places.push_back(std::move(place));
+  }
 }
 
 class FillPlanner {
@@ -45,12 +69,22 @@ class FillPlanner {
       ++owners[ComparableText(m_gradebook.columns[column].title)];
       ++owners[ComparableText(m_gradebook.Heading(column))];
     }
-    for (const std::string& title : m_subject.titles) ++owners[ComparableText(title)];
+    std::vector<std::string> titles;
+    for (const std::string& title : m_subject.titles) {
+      titles.push_back(ComparableText(AsEncoded(title)));
+      ++owners[titles.back()];
+    }
     for (size_t i = 0; i < m_subject.assignments.size(); ++i) {
-      const std::string title = ComparableText(m_subject.titles[i]);
+      const std::string& title = titles[i];
       const bool isFree = m_plan.match.titles[i] == TitleMatch::kNoColumn && owners[title] == 1;
       if (isFree && !title.empty()) m_plan.newColumns.push_back(i);
     }
+  }
+
+  // A title as the gradebook's encoding holds it: with "?" for what it lacks.
+  std::string AsEncoded(const std::string& title) const {
+    const TextEncoding encoding = m_gradebook.table.style.encoding;
+    return DecodeText(EncodeText(title, encoding), encoding).value_or(title);
   }
 
   // New columns come behind the others, but for the one that has to stay the last.
@@ -168,9 +202,28 @@ class FillPlanner {
     });
   }
 
+  // A new column is to the system what a column of a whole file of ours is.
+  void CheckNewColumns(ExportSubject filled, Findings* findings) const {
+    if (m_plan.newColumns.empty() || FindCurrentFile(*m_subject.format) == nullptr) return;
+    filled.dialect = Dialect::kCurrent;
+    filled.assignments.clear();
+    filled.titles.clear();
+    std::vector<const qz::AssignmentRecord*> records;
+    for (const size_t i : m_plan.newColumns) {
+      filled.assignments.push_back(m_subject.assignments[i]);
+      filled.titles.push_back(m_subject.titles[i]);
+      records.push_back(&m_subject.texts.Record().assignments[filled.assignments.back()]);
+    }
+    filled.scores = ScoreTable(m_subject.texts.Record().students, records);
+    for (Finding& finding : CheckExport(filled)) {
+      if (_IsColumnTrouble(finding)) _Join(std::move(finding), findings);
+    }
+  }
+
   void Check() {
     const ExportSubject filled = FilledSubject();
     Findings& findings = m_plan.findings = CheckExport(filled);
+    CheckNewColumns(filled, &findings);
     std::ranges::move(CheckAgainstGradebook(filled, m_gradebook, FilledMatch()),
                       std::back_inserter(findings));
     DropUnwritten(&findings);

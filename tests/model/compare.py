@@ -14,6 +14,7 @@ import tempfile
 from pathlib import Path
 
 import generate
+import gxcurrent
 import gxmodel
 from gxmodel import GRADEBOOKS, REPORT_FIELDS, ClassRecord, Options
 
@@ -21,6 +22,22 @@ USER_FIELDS = ["first-name", "last-name", "student-id", "alias", "custom-1", "cu
 COLUMNS = {"responses": (True, False), "points": (False, True), "both": (True, True)}
 UNREADABLE, RUNS_PER_FILE = 3, 5
 Run = tuple[list[str], int, bytes]      # arguments, expected exit status, expected bytes
+
+
+with_current = False
+
+
+def choose_dialect(r: random.Random, key: str, options: Options) -> list[str]:
+    current = gxcurrent.CURRENT.get(key)
+    if not with_current or not current or r.random() < 0.5:
+        return []
+    semicolons = current.semicolons and r.random() < 0.5
+    options.delimiter = ";" if semicolons else ","
+    return ["--dialect", "current", *(["--delimiter", "semicolon"] if semicolons else [])]
+
+
+def export(record: ClassRecord, key: str, options: Options) -> bytes:
+    return (gxcurrent if options.delimiter else gxmodel).export(record, key, options)
 
 
 def detailed_run(r: random.Random, record: ClassRecord) -> Run:
@@ -36,7 +53,8 @@ def detailed_run(r: random.Random, record: ClassRecord) -> Run:
              "--no-asterisks": not options.asterisks}
     arguments = ["-f", "detailed", "-a", str(options.assignments[0]), "--columns", columns,
                  "--fields", named, *(flag for flag, on in flags.items() if on)]
-    return arguments, 0, gxmodel.export(record, "detailed", options)
+    arguments += choose_dialect(r, "detailed", options)
+    return arguments, 0, export(record, "detailed", options)
 
 
 def gradebook_run(r: random.Random, record: ClassRecord, key: str) -> Run:
@@ -48,10 +66,11 @@ def gradebook_run(r: random.Random, record: ClassRecord, key: str) -> Run:
         some = r.sample(record.assignments, r.randrange(1, len(record.assignments) + 1))
         options.assignments = [assignment.id for assignment in some]
         arguments += [word for number in options.assignments for word in ("-a", str(number))]
-    if key in gxmodel.UNQUOTED and r.random() < 0.5:
+    arguments += choose_dialect(r, key, options)
+    if key in gxmodel.UNQUOTED and not options.delimiter and r.random() < 0.5:
         options.quotes = False
         arguments.append("--no-quotes")
-    return arguments, 0, gxmodel.export(record, key, options)
+    return arguments, 0, export(record, key, options)
 
 
 def runs_on(r: random.Random, data: bytes) -> list[Run]:
@@ -99,7 +118,8 @@ def compare(path: str, count: int, seed: str, kept: Path) -> tuple[collections.C
             r = random.Random(f"{seed}:{i}:runs")
             for n, (arguments, status, expected) in enumerate(runs_on(r, data)):
                 got_status, got, messages = gxexport(path, arguments, file, r.random() < 0.1)
-                done[arguments[1] if status == 0 else "unreadable"] += 1
+                dialect = "-current" if "--dialect" in arguments else ""
+                done[arguments[1] + dialect if status == 0 else "unreadable"] += 1
                 if (got_status, got) == (status, expected):
                     continue
                 mismatches += 1
@@ -115,7 +135,10 @@ def main() -> int:
     parser.add_argument("--count", type=int, default=100, metavar="N", help="class files to try")
     parser.add_argument("--seed", metavar="S", help="repeats an earlier run")
     parser.add_argument("--keep", type=Path, metavar="DIR", help="where the files of a mismatch go")
+    parser.add_argument("--current", action="store_true", help="try current files, too")
     asked = parser.parse_args()
+    global with_current
+    with_current = asked.current
     check_formats(asked.gxexport)
     seed = asked.seed or str(random.SystemRandom().randrange(10**9))
     print(f"seed {seed}", flush=True)

@@ -32,10 +32,9 @@ def to_8bit(text: str) -> bytes:
     return bytes(ord(c) if ord(c) < 0x80 else _ROMAN.get(c, ord("?")) for c in text)
 
 
-def clean(text: str, limit: int) -> bytes:
+def clean(text: str, limit: int) -> str:
     """Cut first, so that spaces just before the cut are trailing ones."""
-    cut = to_8bit(text)[:limit]
-    return bytes(max(byte, 0x20) for byte in cut).rstrip(b" ")
+    return "".join(max(character, " ") for character in text[:limit]).rstrip(" ")
 
 
 def clamp(value: int) -> int:
@@ -104,7 +103,7 @@ class Node:
         """What is not there is as good as empty."""
         return next(self.all(name), Node(name))
 
-    def text(self, name: str, limit: int = TEXT_LIMIT) -> bytes:
+    def text(self, name: str, limit: int = TEXT_LIMIT) -> str:
         return clean("".join(self.first(name).pieces), limit)
 
     def number(self, attribute: str) -> int:
@@ -162,19 +161,19 @@ def parse(data: bytes) -> Node:
 
 class Student(NamedTuple):
     id: int
-    texts: dict[str, bytes]
+    texts: dict[str, str]
 
 
 class Item(NamedTuple):
     """A question with its answer and the points possible, or a response with the points earned."""
     key: tuple[int, int]
-    text: bytes
+    text: str
     points: float
 
 
 class Assignment(NamedTuple):
     id: int
-    name: bytes
+    name: str
     points: int
     questions: list[Item]
     results: list[tuple[int, list[Item]]]    # a student's id and his responses
@@ -188,20 +187,20 @@ class Assignment(NamedTuple):
 
 
 class ClassRecord(NamedTuple):
-    labels: list[bytes]
+    labels: list[str]
     students: list[Student]
     assignments: list[Assignment]
 
 
 def _student(node: Node) -> Student:
     texts = {name: node.text(name) for name in _STUDENT}
-    texts["gender"] = {b"M": b"Male", b"F": b"Female"}.get(texts["gender"], texts["gender"])
+    texts["gender"] = {"M": "Male", "F": "Female"}.get(texts["gender"], texts["gender"])
     return Student(node.number("id"), texts)
 
 
 def _item(node: Node, text: str, points: str) -> Item:
     key = node.number("question-id"), node.number("bank-id")
-    return Item(key, node.text(text), to_double(node.text(points)))
+    return Item(key, node.text(text), to_double(to_8bit(node.text(points))))
 
 
 def _assignment(node: Node) -> Assignment:
@@ -211,12 +210,12 @@ def _assignment(node: Node) -> Assignment:
                                        in results.first("response-list").all("response")])
                for results in node.first("results-list").all("results")]
     return Assignment(node.number("id"), node.text("assignment-name"),
-                      to_int(node.text("points-possible")), questions, results)
+                      to_int(to_8bit(node.text("points-possible"))), questions, results)
 
 
 def read_class(data: bytes) -> ClassRecord:
     root = parse(data)
-    labels = [b"Custom 1", b"Custom 2", b"Custom 3"]
+    labels = ["Custom 1", "Custom 2", "Custom 3"]
     for preferences in root.all("preferences"):
         for i in range(3):
             labels[i] = preferences.text(f"custom-{i + 1}", LABEL_LIMIT) or labels[i]
@@ -228,6 +227,7 @@ def read_class(data: bytes) -> ClassRecord:
 
 @dataclass
 class Options:
+    delimiter: str | None = None             # of a current file; none: the classic file
     user_field: str | None = None            # none: the field preselected for the format
     assignments: list[int] | None = None     # none: all
     quotes: bool = True
@@ -279,8 +279,8 @@ GRADEBOOKS = {
 UNQUOTED = {"blackboard8", "blackboard91"}     # can do without quotes
 
 
-def safe(text: bytes) -> bytes:
-    return text.replace(b'"', b"'")
+def safe(text: str) -> bytes:
+    return to_8bit(text.replace('"', "'"))
 
 
 def _gradebook(book: Gradebook, chosen: list[Assignment], students: list[Student], user_field: str,
@@ -305,47 +305,44 @@ def _gradebook(book: Gradebook, chosen: list[Assignment], students: list[Student
 
 
 REPORT_FIELDS = {
-    "first-name": b"First name", "last-name": b"Last name", "student-id": b"Student ID",
-    "password": b"Password", "alias": b"Student alias", "pad-id": b"Pad ID", "gender": b"Gender",
-    "date-of-birth": b"Date of birth", "grade-level": b"Grade level",
-    "sociological": b"Sociological/Economic", "race": b"Race/Ethnicity", "other": b"Other",
-    "custom-1": b"", "custom-2": b"", "custom-3": b"",      # headed by the class's labels
+    "first-name": "First name", "last-name": "Last name", "student-id": "Student ID",
+    "password": "Password", "alias": "Student alias", "pad-id": "Pad ID", "gender": "Gender",
+    "date-of-birth": "Date of birth", "grade-level": "Grade level",
+    "sociological": "Sociological/Economic", "race": "Race/Ethnicity", "other": "Other",
+    "custom-1": "", "custom-2": "", "custom-3": "",      # headed by the class's labels
 }
+Cell = str | int | float | None         # a text, in quotes even when it is empty; a number; nothing
 
 
-def _quoted(text: bytes) -> bytes:
-    return b'"' + safe(text) + b'"'
-
-
-def _pair(options: Options, text: bytes, points: bytes) -> list[bytes]:
+def _pair(options: Options, text: Cell, points: Cell) -> list[Cell]:
     """A question's cells, as far as its columns are wanted."""
     return [text] * options.responses + [points] * options.points
 
 
-def _answered(options: Options, question: Item, response: Item | None) -> list[bytes]:
+def _answered(options: Options, question: Item, response: Item | None) -> list[Cell]:
     if not response:
-        return _pair(options, b"", b"")
-    star = b"*" if options.asterisks and response.points > question.points - 0.001 else b""
-    return _pair(options, _quoted(star + response.text), g(response.points))
+        return _pair(options, None, None)
+    star = "*" if options.asterisks and response.points > question.points - 0.001 else ""
+    return _pair(options, star + response.text, response.points)
 
 
-def _detailed(record: ClassRecord, report: Assignment, options: Options) -> Iterator[list[bytes]]:
+def detailed(record: ClassRecord, report: Assignment, options: Options) -> Iterator[list[Cell]]:
     names = [name for name in REPORT_FIELDS if name in options.fields]
     headers = REPORT_FIELDS | {f"custom-{i + 1}": label for i, label in enumerate(record.labels)}
-    line = [_quoted(headers[name]) for name in names]
+    line: list[Cell] = [headers[name] for name in names]
     for position in range(1, len(report.questions) + 1):
-        line += [b"%d" % position, b""][:options.responses + options.points]
+        line += [position, None][:options.responses + options.points]
     yield line
 
     if (options.responses and options.answer_key) or (options.points and options.points_possible):
-        line = [b""] * len(names)
+        line = [None] * len(names)
         for question in report.questions:
-            line += _pair(options, _quoted(question.text) if options.answer_key else b"",
-                          g(question.points) if options.points_possible else b"")
+            line += _pair(options, question.text if options.answer_key else None,
+                          question.points if options.points_possible else None)
         yield line
 
     for student in record.students:
-        line = [student.texts[name] and _quoted(student.texts[name]) for name in names]
+        line = [student.texts[name] or None for name in names]
         responses = report.of(student) or []
         for question in report.questions:
             first = next((r for r in responses if r.key == question.key), None)
@@ -353,11 +350,20 @@ def _detailed(record: ClassRecord, report: Assignment, options: Options) -> Iter
         yield line
 
 
+def _classic(cell: Cell) -> bytes:
+    if isinstance(cell, str):
+        return b'"' + safe(cell) + b'"'
+    return b"" if cell is None else b"%d" % cell if isinstance(cell, int) else g(cell)
+
+
+def selected(record: ClassRecord, options: Options) -> list[Assignment]:
+    return [a for a in record.assignments if options.assignments is None or a.id in options.assignments]
+
+
 def export(record: ClassRecord, key: str, options: Options) -> bytes:
-    chosen = [a for a in record.assignments
-              if options.assignments is None or a.id in options.assignments]
+    chosen = selected(record, options)
     if key == "detailed":
-        lines = (b",".join(line) for line in _detailed(record, chosen[0], options))
+        lines = (b",".join(map(_classic, line)) for line in detailed(record, chosen[0], options))
     else:
         book = GRADEBOOKS[key]
         user_field = options.user_field or book.user_field

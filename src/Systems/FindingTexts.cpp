@@ -1,6 +1,5 @@
 #include "Systems/FindingTexts.h"
 
-#include <stdexcept>
 #include <string_view>
 
 #include "Systems/FindingSentences.h"
@@ -118,7 +117,7 @@ std::string DescribeConsequence(Consequence consequence, TextLanguage language) 
 
 FindingText DescribeFinding(const Finding& finding, const ExportSubject& subject, TextLanguage language) {
   const FindingSentences* sentences = FindSentences(finding, SystemOf(*subject.format).key);
-  if (sentences == nullptr) throw std::logic_error(std::string("no sentences: ") + finding.code);
+  if (sentences == nullptr) return {finding.code, {}};  // a fault of ours, which the tests see
   const FindingWords& words = language == TextLanguage::kSpanish ? sentences->spanish : sentences->english;
   const Sentence sentence(finding, subject, language);
   return {sentence.Write(words.what), sentence.Write(words.advice)};

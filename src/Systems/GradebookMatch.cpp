@@ -120,8 +120,7 @@ class StudentMatcher {
   Texts ChooseColumn(const Texts& ours, Text text) {
     size_t most = 0;
     Texts chosen;
-    for (size_t column = 0; column < m_gradebook.columns.size(); ++column) {
-      if (m_gradebook.columns[column].role != ColumnRole::kIdentifier) continue;
+    for (const size_t column : IdentifierColumns()) {
       Texts theirs;
       theirs.reserve(m_gradebook.members.size());
       for (const CourseMember& member : m_gradebook.members) {
@@ -139,9 +138,7 @@ class StudentMatcher {
   // How many of our texts stand in the column. A number that the system gave its users may stand in our class
   // for somebody else: it counts only when most of the names say so, too.
   size_t CountOwners(const Texts& ours, const OwnerIndex& theirs, size_t column) const {
-    const UploadRules* rules = m_gradebook.system->upload;
-    const bool areOwnNumbers = rules != nullptr && rules->ownNumbers != nullptr &&
-                               m_gradebook.FindHeading(rules->ownNumbers) == column;
+    const bool areOwnNumbers = column == OwnNumbers();
     size_t hits = 0;
     size_t sameNames = 0;
     for (size_t i = 0; i < ours.size(); ++i) {
@@ -151,6 +148,24 @@ class StudentMatcher {
       if (areOwnNumbers && member != kSeveral && HasNameOf(i, member)) ++sameNames;
     }
     return areOwnNumbers && 2 * sameNames < hits ? 0 : hits;
+  }
+
+  // The system's own numbers come last.
+  std::vector<size_t> IdentifierColumns() const {
+    std::vector<size_t> columns;
+    for (size_t column = 0; column < m_gradebook.columns.size(); ++column) {
+      const bool isIdentifier = m_gradebook.columns[column].role == ColumnRole::kIdentifier;
+      if (isIdentifier && column != OwnNumbers()) columns.push_back(column);
+    }
+    if (OwnNumbers() != kNone) columns.push_back(OwnNumbers());
+    return columns;
+  }
+
+  // The column of the system's own numbers, or kNone.
+  size_t OwnNumbers() const {
+    const UploadRules* rules = m_gradebook.system->upload;
+    return rules == nullptr || rules->ownNumbers == nullptr ? kNone
+                                                            : m_gradebook.FindHeading(rules->ownNumbers);
   }
 
   bool HasNameOf(size_t student, size_t member) const {

@@ -51,6 +51,8 @@ TEST(GradebookMatch, FindsStudents) {
        "\"Lee, Ann\",1,u,a,A,\n\"Lee, Cat\",2,u,a,A,\n,3,u,b,A,\n",
        "mi2"},
       {"leading zeros count", {"007", "7"}, false, "x,1,\"=\"\"007\"\"\",,A,\n", "i0u"},
+      {"Canvas's own numbers", {"1", "3"}, false, "\"Lee, Ann\",1,,q,A,\n\"Lee, Bob\",3,,r,A,\n", "i0i1"},
+      {"other people's numbers", {"1", "3"}, false, "\"Lee, Eve\",1,,q,A,\n\"Fox, Bob\",3,,r,A,\n", "uu"},
       {"nobody", {"a", ""}, false, "x,1,u1,q,A,\n", "u0"},
   };
   for (const auto& row : rows) {

@@ -102,7 +102,7 @@ class Usage(FolderTest):
             with self.subTest(result.args):
                 self.assertNotRegex((result.stdout + result.stderr).decode(), CONTROL)
         # Two lines for two students, whatever their names hold.
-        self.assertEqual(runs[3].stdout.decode().split("\n\n")[0].count("\n"), 3)
+        self.assertEqual(runs[3].stdout.decode().split("\n\n")[-1].count("\n"), 4)
 
 
 class Reading(FolderTest):
@@ -125,22 +125,54 @@ class Reading(FolderTest):
         with_closed_input = subprocess.run(f"'{GXEXPORT}' inspect - <&-", shell=True, capture_output=True)
         self.check(with_closed_input, CLASS_FILE, "(standard input): Bad file descriptor")
 
-    def test_inspect(self):
+    def test_inspect_as_json(self):
         summary = json.loads(run("inspect", "--json", SAMPLE).stdout.decode())
+        self.assertEqual(list(summary), ["version", "className", "customLabels", "assignments", "identifierFields",
+                                         "students"])
+        self.assertEqual((summary["version"], summary["className"]), (1, "Biology 9"))
         self.assertEqual(summary["students"][0], {
-            "id": 101, "firstName": "Inés", "lastName": "Álvarez", "studentID": "204100", "alias": "ialvarez",
-            "padID": "P01", "gender": "Female", "dateOfBirth": "2008-08-06", "gradeLevel": "9", "sociological": "",
-            "race": "R1", "other": "Bus 4", "custom": ["alvarez.ines", "ines.alvarez@students.example.org", "Room 14"]})
-        self.assertEqual(summary["assignments"][0], {
+            "id": 101, "first-name": "Inés", "last-name": "Álvarez", "student-id": "204100", "alias": "ialvarez",
+            "pad-id": "P01", "gender": "Female", "date-of-birth": "2008-08-06", "grade-level": "9", "sociological": "",
+            "race": "R1", "other": "Bus 4", "custom-1": "alvarez.ines", "custom-2": "ines.alvarez@students.example.org",
+            "custom-3": "Room 14"})
+        self.assertEqual(summary["students"][17]["first-name"], "Łukasz")
+        first = summary["assignments"][0]
+        self.assertEqual(first | {"scores": None}, {
             "id": 301, "name": "Quiz 1: Cells", "assignmentID": "A301", "category": "Quizzes", "onlineID": "",
-            "date": "2023-09-08", "pointsPossible": 6, "questionCount": 6, "resultCount": 30})
+            "date": "2023-09-08", "pointsPossible": 6, "questionCount": 6, "resultCount": 30, "scores": None})
+        self.assertAlmostEqual(first["scores"].pop("mean"), 121.5 / 29)
+        self.assertEqual(first["scores"], {"count": 29, "min": 1.5, "max": 6})
+        self.assertEqual(summary["assignments"][-1]["scores"], {"count": 0, "mean": None, "min": None, "max": None})
         self.assertEqual((len(summary["students"]), len(summary["assignments"])), (30, 12))
         self.assertEqual(summary["customLabels"], ["Canvas ID", "Moodle e-mail", "Homeroom"])
-        people = [ANN, BOB | {"alias": ""}, CAT | {"alias": "ann"}, student(4, "Dee", alias="")]
-        fields = json.loads(run("inspect", "--json", self.write_class(people)).stdout)["identifierFields"]
-        counts = {f["field"]: (f["empty"], f["shared"]) for f in fields}
-        self.assertEqual([counts[key] for key in ("alias", "student-id", "last-name", "custom-3")],
-                         [(2, 2), (1, 0), (0, 4), (4, 0)])
+
+    def test_inspect_judges_identifiers(self):
+        people = [ANN, BOB | {"alias": ""}, CAT | {"alias": "ann"}, student(4, "Łucja", alias="ŁUCJA"),
+                  student(5, "Žofia", alias="łucja"), student(6, "Dee", alias="")]
+        path = self.write_class(people)
+        fields = {f.pop("field"): f for f in json.loads(run("inspect", "--json", path).stdout)["identifierFields"]}
+        self.assertEqual(list(fields), ["first-name", "last-name", "student-id", "alias", "custom-1", "custom-2",
+                                        "custom-3"])
+        self.assertEqual(fields["alias"], {"title": "Student alias", "filled": 4, "empty": 2, "duplicates": [[1, 3]],
+                                           "nearDuplicates": [[4, 5]], "example": "ann"})
+        self.assertEqual(fields["last-name"]["duplicates"], [[1, 2, 3, 4, 5, 6]])
+        self.assertEqual(fields["custom-3"], {"title": "Custom 3", "filled": 0, "empty": 6, "duplicates": [],
+                                              "nearDuplicates": [], "example": ""})
+        text = run("inspect", path).stdout.decode()
+        self.assertRegex(text, r"\n  alias +Student alias +4 of 6 +1 +1 +ann\n")
+        self.assertIn('\n  alias: "ŁUCJA" (Łucja Smith), "łucja" (Žofia Smith)\n', text)
+        self.assertTrue(text.endswith("\nStudents:\n  ID  NAME\n  1   Ann Smith\n  2   Bob Smith\n  3   Cat Smith\n"
+                                      "  4   Łucja Smith\n  5   Žofia Smith\n  6   Dee Smith\n"), text)
+
+    def test_inspect_shows_points(self):
+        results = {1: [("x", 2), ("y", 1 / 3)], 2: [("x", 1), None], 3: [("x", "inf"), None], 99: [("x", 50), None]}
+        rows = [assignment(7, "Łódź", [("A", 2), ("B", 1)], results), assignment(8, "", [], {2: []}), assignment(9, "C")]
+        text = run("inspect", self.write_class([ANN, BOB, CAT], rows)).stdout.decode()
+        self.assertTrue(text.startswith("Students:     3\nAssignments:  3\n\n"), text)
+        self.assertEqual(text.split("\n")[5:8],
+                         ["  7   Łódź  -     0       2          3        1.67  1 to 2.33",
+                          "  8   -     -     0       0          1        0     0",
+                          "  9   C     -     0       0          0        -     -"])
 
 
 class Export(FolderTest):

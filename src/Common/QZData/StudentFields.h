@@ -15,14 +15,14 @@ namespace qz {
 
 struct StudentField {
   const char* key;                          // by which the command line names it
-  const char* recordName = nullptr;         // in a program's listing of students; null: not listed by itself
   const char* title = nullptr;              // English; null: the class's custom label
   const char* spanishTitle = nullptr;       // as an identifier; null: none
   int spanishTitleID = 0;                   // string id, as a column of the report; 0: none
   uint32_t reportBit = 0;                   // of ClassRecord::optionValue
   UserIDField userIDField = UserIDField{};  // 0: cannot serve as the identifier
   std::string StudentRecord::*text = nullptr;
-  size_t custom = 0;  // 0-based number of the custom field and its label; only without `text`
+  bool isSecret = false;  // whoever may see the class need not see it
+  size_t custom = 0;      // 0-based number of the custom field and its label; only without `text`
 
   constexpr bool CanIdentify() const { return userIDField != UserIDField{}; }
 
@@ -41,31 +41,30 @@ struct StudentField {
 // identify a student are in the order of their numbers.
 // clang-format off
 inline constexpr StudentField kStudentFields[] = {
-    {.key = "first-name", .recordName = "firstName", .title = "First name", .spanishTitle = "Nombre",
+    {.key = "first-name", .title = "First name", .spanishTitle = "Nombre",
      .reportBit = 0x0002, .userIDField = kUserIDFirstName, .text = &StudentRecord::firstName},
-    {.key = "last-name", .recordName = "lastName", .title = "Last name", .spanishTitle = "Apellido",
+    {.key = "last-name", .title = "Last name", .spanishTitle = "Apellido",
      .reportBit = 0x0001, .userIDField = kUserIDLastName, .text = &StudentRecord::lastName},
-    {.key = "student-id", .recordName = "studentID", .title = "Student ID", .spanishTitle = "Id. de estudiante",
+    {.key = "student-id", .title = "Student ID", .spanishTitle = "Id. de estudiante",
      .reportBit = 0x0004, .userIDField = kUserIDStudentID, .text = &StudentRecord::studentID},
-    // Whoever may see the class need not see the passwords.
     {.key = "password", .title = "Password", .spanishTitleID = 41916,
-     .reportBit = 0x0008, .text = &StudentRecord::password},
-    {.key = "alias", .recordName = "alias", .title = "Student alias", .spanishTitle = "Alias del estudiante",
+     .reportBit = 0x0008, .text = &StudentRecord::password, .isSecret = true},
+    {.key = "alias", .title = "Student alias", .spanishTitle = "Alias del estudiante",
      .spanishTitleID = 41914,
      .reportBit = 0x0010, .userIDField = kUserIDAlias, .text = &StudentRecord::alias},
-    {.key = "pad-id", .recordName = "padID", .title = "Pad ID", .spanishTitleID = 41918,
+    {.key = "pad-id", .title = "Pad ID", .spanishTitleID = 41918,
      .reportBit = 0x4000, .text = &StudentRecord::padID},
-    {.key = "gender", .recordName = "gender", .title = "Gender", .spanishTitleID = 41920,
+    {.key = "gender", .title = "Gender", .spanishTitleID = 41920,
      .reportBit = 0x0020, .text = &StudentRecord::gender},
-    {.key = "date-of-birth", .recordName = "dateOfBirth", .title = "Date of birth", .spanishTitleID = 41923,
+    {.key = "date-of-birth", .title = "Date of birth", .spanishTitleID = 41923,
      .reportBit = 0x0040, .text = &StudentRecord::dateOfBirth},
-    {.key = "grade-level", .recordName = "gradeLevel", .title = "Grade level", .spanishTitleID = 41924,
+    {.key = "grade-level", .title = "Grade level", .spanishTitleID = 41924,
      .reportBit = 0x0080, .text = &StudentRecord::gradeLevel},
-    {.key = "sociological", .recordName = "sociological", .title = "Sociological/Economic", .spanishTitleID = 41925,
+    {.key = "sociological", .title = "Sociological/Economic", .spanishTitleID = 41925,
      .reportBit = 0x0100, .text = &StudentRecord::sociological},
-    {.key = "race", .recordName = "race", .title = "Race/Ethnicity", .spanishTitleID = 41932,
+    {.key = "race", .title = "Race/Ethnicity", .spanishTitleID = 41932,
      .reportBit = 0x0200, .text = &StudentRecord::race},
-    {.key = "other", .recordName = "other", .title = "Other", .spanishTitleID = 41939,
+    {.key = "other", .title = "Other", .spanishTitleID = 41939,
      .reportBit = 0x0400, .text = &StudentRecord::other},
     {.key = "custom-1", .reportBit = 0x0800, .userIDField = kUserIDCustom1, .custom = 0},
     {.key = "custom-2", .reportBit = 0x1000, .userIDField = kUserIDCustom2, .custom = 1},

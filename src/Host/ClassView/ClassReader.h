@@ -7,8 +7,8 @@
 
 #include "Common/QZData/QZClass.h"
 #include "Export/ClassFile.h"
+#include "Export/Statistics.h"
 #include "Filters/GX_StdCsv/ResultsJoin.h"
-#include "Host/ClassView/Statistics.h"
 
 namespace host {
 

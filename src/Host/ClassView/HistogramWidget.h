@@ -4,7 +4,7 @@
 
 #include <QWidget>
 
-#include "Host/ClassView/Statistics.h"
+#include "Export/Statistics.h"
 
 namespace host {
 

@@ -1,13 +1,11 @@
 // What the scores of one assignment tell: a few figures and their distribution.
-#ifndef GRADIX_STATISTICS_H
-#define GRADIX_STATISTICS_H
+#ifndef GRADIX_EXPORT_STATISTICS_H
+#define GRADIX_EXPORT_STATISTICS_H
 
 #include <array>
 #include <cstddef>
 #include <optional>
 #include <vector>
-
-namespace host {
 
 // By position in the roster; none for a student without results.
 using Scores = std::vector<std::optional<double>>;
@@ -46,6 +44,4 @@ struct Histogram {
 // nowhere.
 Histogram ComputeHistogram(const Scores& scores, double pointsPossible);
 
-}  // namespace host
-
-#endif  // GRADIX_STATISTICS_H
+#endif  // GRADIX_EXPORT_STATISTICS_H

@@ -1,11 +1,9 @@
-#include "Host/ClassView/Statistics.h"
+#include "Export/Statistics.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
-
-namespace host {
 
 namespace {
 
@@ -77,5 +75,3 @@ TEST(Statistics, HistogramBins) {
 }
 
 }  // namespace
-
-}  // namespace host

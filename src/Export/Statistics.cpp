@@ -1,9 +1,7 @@
-#include "Host/ClassView/Statistics.h"
+#include "Export/Statistics.h"
 
 #include <algorithm>
 #include <cmath>
-
-namespace host {
 
 namespace {
 
@@ -74,5 +72,3 @@ Histogram ComputeHistogram(const Scores& scores, double pointsPossible) {
   }
   return histogram;
 }
-
-}  // namespace host

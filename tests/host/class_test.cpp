@@ -67,6 +67,25 @@ TEST_F(ClassTest, TableOfTheSampleClass) {
   EXPECT_EQ(missing.data(Qt::ToolTipRole).toString(), QStringLiteral("Sin resultado"));
 }
 
+TEST_F(ClassTest, ShowsNamesAsTheyAre) {
+  const ReadResult result = ReadText(
+      "<class><student-list><student><first-name>Łukasz</first-name><last-name>\tŻak</last-name>"
+      "<student-id>ż7</student-id></student></student-list><assignment-list><assignment>"
+      "<assignment-name>Zażółć gęślą jaźń, 💡💡💡💡</assignment-name><assignment-date>Środa</assignment-date>"
+      "</assignment></assignment-list></class>");
+  ASSERT_NE(result.openClass, nullptr);
+  ClassTableModel model(nullptr);
+  model.SetClass(result.openClass);
+  const auto header = [&model](int role) { return model.headerData(2, Qt::Horizontal, role).toString(); };
+  EXPECT_EQ(model.index(0, 0).data().toString(), QStringLiteral("Łukasz  Żak"));
+  EXPECT_EQ(model.index(0, 1).data().toString(), QStringLiteral("ż7"));
+  EXPECT_EQ(header(Qt::DisplayRole), QStringLiteral("Zażółć gęślą jaźń, 💡💡…"));
+  EXPECT_TRUE(header(Qt::ToolTipRole).endsWith(QStringLiteral("Środa")));
+  AssignmentPanel panel(nullptr, {});
+  panel.SetClass(result.openClass);
+  EXPECT_EQ(panel.findChild<QComboBox*>()->currentText(), QStringLiteral("Zażółć gęślą jaźń, 💡💡💡💡"));
+}
+
 TEST_F(ClassTest, PanelFollowsTheSelection) {
   std::vector<int> selected;
   AssignmentPanel panel(nullptr, [&selected](int assignment) { selected.push_back(assignment); });

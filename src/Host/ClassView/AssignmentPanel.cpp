@@ -65,8 +65,8 @@ void AssignmentPanel::SetClass(std::shared_ptr<const OpenClass> openClass) {
     const QSignalBlocker blocker(m_combo);
     m_combo->clear();
     if (m_class != nullptr) {
-      for (const qz::AssignmentRecord& row : m_class->record.assignments) {
-        m_combo->addItem(LineFromRoman(row.name));
+      for (size_t i = 0; i < m_class->record.assignments.size(); ++i) {
+        m_combo->addItem(LineFromUtf8(m_class->Texts().AssignmentName(i)));
       }
     }
   }

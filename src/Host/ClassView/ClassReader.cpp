@@ -18,6 +18,7 @@ std::shared_ptr<const OpenClass> _Opened(const QString& path, ClassFile* file) {
   openClass->name = QString::fromStdString(file->name);
   if (openClass->name.isEmpty()) openClass->name = QFileInfo(path).completeBaseName();
   openClass->record = std::move(file->record);
+  openClass->originals = std::move(file->originals);
   std::vector<const qz::AssignmentRecord*> assignments;
   for (const qz::AssignmentRecord& assignment : openClass->record.assignments) {
     assignments.push_back(&assignment);

@@ -16,8 +16,10 @@ struct OpenClass {
   QString path;  // absolute
   QString name;  // the class's; the file's base name when it has none
   qz::ClassRecord record;
+  qz::OriginalTexts originals;
   ScoreTable scores;  // on all assignments
 
+  qz::ClassTexts Texts() const { return {record, originals}; }
   Scores ScoresOn(size_t assignment) const;
 };
 

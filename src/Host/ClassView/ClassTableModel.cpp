@@ -15,11 +15,9 @@ constexpr qsizetype kMaxHeaderLength = 24;
 
 QString _Shortened(const QString& name) {
   if (name.size() <= kMaxHeaderLength) return name;
-  return name.left(kMaxHeaderLength - 1).trimmed() + QChar(u'…');
-}
-
-QString _NameOf(const qz::StudentRecord& student) {
-  return LineFromRoman(student.firstName + " " + student.lastName).trimmed();
+  qsizetype length = kMaxHeaderLength - 1;
+  if (name[length].isLowSurrogate()) --length;
+  return name.left(length).trimmed() + QChar(u'…');
 }
 
 }  // namespace
@@ -53,8 +51,9 @@ QVariant ClassTableModel::data(const QModelIndex& index, int role) const {
     return PointsData(row, static_cast<size_t>(index.column() - kFirstAssignmentColumn), role);
   }
   if (role != Qt::DisplayRole) return {};
-  const qz::StudentRecord& student = m_class->record.students[row];
-  return index.column() == kNameColumn ? _NameOf(student) : LineFromRoman(student.studentID);
+  const qz::ClassTexts texts = m_class->Texts();
+  if (index.column() == kNameColumn) return LineFromUtf8(texts.StudentName(row)).trimmed();
+  return LineFromUtf8(texts.Student(row, qz::FindStudentField(qz::kUserIDStudentID)));
 }
 
 QVariant ClassTableModel::PointsData(size_t student, size_t assignment, int role) const {
@@ -74,8 +73,7 @@ QVariant ClassTableModel::headerData(int section, Qt::Orientation orientation, i
   if (m_class == nullptr) return {};
   if (orientation == Qt::Vertical) return role == Qt::DisplayRole ? QVariant(section + 1) : QVariant();
   if (section >= kFirstAssignmentColumn && section < columnCount()) {
-    return AssignmentHeader(
-        m_class->record.assignments[static_cast<size_t>(section - kFirstAssignmentColumn)], role);
+    return AssignmentHeader(static_cast<size_t>(section - kFirstAssignmentColumn), role);
   }
   if (role == Qt::TextAlignmentRole) return int{Qt::AlignLeft | Qt::AlignVCenter};
   if (role != Qt::DisplayRole) return {};
@@ -83,13 +81,16 @@ QVariant ClassTableModel::headerData(int section, Qt::Orientation orientation, i
   return section == kStudentIDColumn ? Text(TextID::kStudentID) : QVariant();
 }
 
-QVariant ClassTableModel::AssignmentHeader(const qz::AssignmentRecord& assignment, int role) const {
-  const QString name = LineFromRoman(assignment.name);
+QVariant ClassTableModel::AssignmentHeader(size_t assignment, int role) const {
+  const qz::ClassTexts texts = m_class->Texts();
+  const QString name = LineFromUtf8(texts.AssignmentName(assignment));
   if (role == Qt::DisplayRole) return _Shortened(name);
   if (role == Qt::TextAlignmentRole) return int{Qt::AlignRight | Qt::AlignVCenter};
   if (role != Qt::ToolTipRole) return {};
-  QString tip = name + u'\n' + Text(TextID::kPointsPossibleTip).arg(assignment.pointsPossible);
-  if (!assignment.date.empty()) tip += u'\n' + Text(TextID::kDateTip).arg(LineFromRoman(assignment.date));
+  const int points = m_class->record.assignments[assignment].pointsPossible;
+  const QString date = LineFromUtf8(texts.Assignment(assignment, qz::AssignmentText::kDate));
+  QString tip = name + u'\n' + Text(TextID::kPointsPossibleTip).arg(points);
+  if (!date.isEmpty()) tip += u'\n' + Text(TextID::kDateTip).arg(date);
   return tip;
 }
 

@@ -30,7 +30,7 @@ class ClassTableModel : public QAbstractTableModel {
 
  private:
   QVariant PointsData(size_t student, size_t assignment, int role) const;
-  QVariant AssignmentHeader(const qz::AssignmentRecord& assignment, int role) const;
+  QVariant AssignmentHeader(size_t assignment, int role) const;
 
   std::shared_ptr<const OpenClass> m_class;
 };

@@ -7,16 +7,27 @@
 
 namespace host {
 
+namespace {
+
+QString _OnOneLine(QString text) {
+  std::replace_if(
+      text.begin(), text.end(), [](QChar character) { return character.category() == QChar::Other_Control; },
+      QChar(u' '));
+  return text;
+}
+
+}  // namespace
+
 QString FromRoman(std::string_view text) {
   return QString::fromStdU16String(Utf16FromRoman(text));
 }
 
 QString LineFromRoman(std::string_view text) {
-  QString line = FromRoman(text);
-  std::replace_if(
-      line.begin(), line.end(), [](QChar character) { return character.category() == QChar::Other_Control; },
-      QChar(u' '));
-  return line;
+  return _OnOneLine(FromRoman(text));
+}
+
+QString LineFromUtf8(const std::string& text) {
+  return _OnOneLine(QString::fromStdString(text));
 }
 
 QString PointsText(double points) {

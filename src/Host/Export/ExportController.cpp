@@ -53,7 +53,8 @@ void ExportController::Export(const ExportFormat& format, const OpenClass& openC
   const qz::AssignmentRecord& row = openClass.record.assignments[assignment];
   m_exportedClassPath = openClass.path;
   m_extension = format.extension;
-  m_proposedName = ProposedFileName(LineFromRoman(row.name), format.name, format.extension);
+  m_proposedName = ProposedFileName(LineFromUtf8(openClass.Texts().AssignmentName(assignment)), format.name,
+                                    format.extension);
   ExportRequest request;
   request.formatIndex = format.index;
   request.assignmentID = row.id;

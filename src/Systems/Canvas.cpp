@@ -94,11 +94,39 @@ void _FindUserNumbers(ExportCheck* check) {
                     {check->subject.Identifier(numbers.front().student)});
 }
 
+// What the current file has as the user id: the alias is the login there.
+qz::UserIDField _UserIDField(qz::UserIDField chosen) {
+  return qz::FindStudentField(chosen).userIDField == qz::kUserIDAlias ? qz::kUserIDStudentID : chosen;
+}
+
+// A current file that goes by the alias has the student ids as well, and Canvas looks them up first.
+void _FindSharedStudentIDs(ExportCheck* check) {
+  const ExportSubject& subject = check->subject;
+  if (_UserIDField(subject.identifier) == subject.identifier) return;
+  const qz::StudentField& field = qz::FindStudentField(qz::kUserIDStudentID);
+  KeyGroups groups(subject.texts.Record().students.size());
+  std::vector<std::string> studentIDs(subject.texts.Record().students.size());
+  for (const size_t student : subject.students) {
+    studentIDs[student] = subject.texts.Student(student, field);
+    if (!studentIDs[student].empty()) groups.Add(studentIDs[student], student);
+  }
+  std::vector<FindingPlace> places;
+  bool haveResults = false;
+  for (const std::vector<size_t>& group : std::move(groups).Shared()) {
+    for (const size_t student : group) {
+      places.push_back({.student = student});
+      haveResults = haveResults || !subject.scores.ScoresOf(student).empty();
+    }
+  }
+  if (haveResults) check->Add("student-id-duplicate", Consequence::kWrong, std::move(places));
+}
+
 void _Check(ExportCheck* check) {
   if (check->subject.dialect == Dialect::kClassic) {
     _FindUnfitNames(check);
     _FindUserNumbers(check);
   }
+  if (check->subject.dialect == Dialect::kCurrent) _FindSharedStudentIDs(check);
   check->Add("title-total", Consequence::kLost, check->Titles(_IsTotal));
   if (check->subject.dialect == Dialect::kFilled) return;  // the other titles are told apart by their numbers
   check->Add("title-number", Consequence::kWrong,
@@ -123,11 +151,6 @@ constexpr GradebookLayout kCurrentLayout = {
     .score = kCanvas.score,
     .pointsPossibleTitle = "    Points Possible",
 };
-
-// The alias is the login already.
-qz::UserIDField _UserIDField(qz::UserIDField chosen) {
-  return qz::FindStudentField(chosen).userIDField == qz::kUserIDAlias ? qz::kUserIDStudentID : chosen;
-}
 
 constexpr CurrentFile kCurrent = {
     .layout = &kCurrentLayout,

@@ -84,6 +84,14 @@ constexpr FindingSentences kSentences[] = {
                  "Correct the field “{field}” of these students."},
      .spanish = {"{count} estudiantes comparten su {id} con otro; ningún resultado se extravía por ello.",
                  "Corrija el campo «{field}» de estos estudiantes."}},
+    {.code = "student-id-duplicate",
+     .english = {"{count} students share their Student ID with another one. The file has that field, too, and "
+                 "{system} goes by it first, so results go to the wrong student.",
+                 "Correct the field “Student ID” of these students."},
+     .spanish = {"{count} estudiantes comparten su Id. de estudiante con otro. El archivo tiene también ese "
+                 "campo y {system} se guía primero por él, así que hay resultados que van al estudiante "
+                 "equivocado.",
+                 "Corrija el campo «Id. de estudiante» de estos estudiantes."}},
     {.code = "id-near-duplicate",
      .english = {"The {id} of these {count} students is nearly that of another one: only capitals, blanks or "
                  "leading zeros differ.",

@@ -34,15 +34,16 @@ std::string _Element(const std::string& name, const std::string& text) {
   return "<" + name + ">" + _Escaped(text) + "</" + name + ">";
 }
 
-// A class of students, "First|Last|id" each, and assignments, "Title|points|scores" each, between them ";".
-// The scores have blanks between them; "_" is none, and what is beyond the students is nobody's.
+// A class of students, "First|Last|id|alias" each, and assignments, "Title|points|scores" each, between them
+// ";". The scores have blanks between them; "_" is none, and what is beyond the students is nobody's.
 ClassFile _Class(const std::string& students, const std::string& assignments) {
   std::string xml = "<class><student-list>";
   int id = 0;
   for (const std::string& student : _Split(students, ';')) {
     const auto parts = _Split(student, '|');
     xml += "<student id='" + std::to_string(++id) + "'>" + _Element("first-name", _Part(parts, 0)) +
-           _Element("last-name", _Part(parts, 1)) + _Element("student-id", _Part(parts, 2)) + "</student>";
+           _Element("last-name", _Part(parts, 1)) + _Element("student-id", _Part(parts, 2)) +
+           _Element("alias", _Part(parts, 3)) + "</student>";
   }
   xml += "</student-list><assignment-list>";
   for (const std::string& assignment : _Split(assignments, ';')) {
@@ -78,6 +79,7 @@ ExportSubject _Subject(const std::string& how, const ClassFile& file) {
       MakeExportSubject(*FindFormat(words[0]), file.Texts(), qz::kUserIDStudentID, dialect);
   subject.useQuotes = !has("unquoted");
   subject.throughDialog = has("dialog");
+  if (has("alias")) subject.identifier = qz::kUserIDAlias;
   if (has("semicolons")) subject.delimiter = ';';
   return subject;
 }
@@ -146,6 +148,8 @@ const Row kRows[] = {
     {"detailed", kNoID, kA, ""},
     {"canvas", kSameID, kA, "id-duplicate:note"},
     {"canvas current", kSameID, kA, "id-duplicate:wrong"},
+    {"canvas current alias", "Ann|Lee|a1|ann;Bo|Ray|a1|bo", kA, "student-id-duplicate:wrong"},
+    {"canvas current alias", "Ann|Lee||ann;Bo|Ray||bo", kA, ""},
     {"schoology", kSameID, kA, "id-duplicate:wrong"},
     {"schoology", kSameID, kNoResult, "id-duplicate:note"},
     {"schoology filled", kSameID, kA, ""},

@@ -73,7 +73,7 @@ std::string _TroubleText(const ClassExport& exporting) {
   if (troubles == 0) return "";
   std::string text =
       DescribeFinding(exporting.Found().front(), exporting.Subject(), TextLanguage::kEnglish).what;
-  if (troubles > 1) text += " (one of " + std::to_string(troubles) + " findings)";
+  if (troubles > 1) text += " And " + std::to_string(troubles - 1) + " more.";
   return text;
 }
 

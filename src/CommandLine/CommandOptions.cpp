@@ -25,13 +25,18 @@ const char* const kFooter =
     "      which gradebooks there are\n"
     "  gxexport inspect class.xml\n"
     "      who and what is in the class file\n"
+    "  gxexport check -f canvas class.xml\n"
+    "      what Canvas will do with the file\n"
     "  gxexport export -f canvas -o grades.csv class.xml\n"
     "      the results of all assignments, for Canvas\n"
+    "  gxexport fill --gradebook Grades.csv -o upload.csv class.xml\n"
+    "      the results into the gradebook that was downloaded from the system\n"
     "\n"
     "'gxexport COMMAND --help' explains a command.\n"
     "\n"
-    "Exit status: 0 done, 2 wrong usage, 3 class file unreadable or malformed,\n"
-    "4 student identifiers refused, 5 output not written.";
+    "Exit status: 0 done, 2 wrong usage, 3 class file or downloaded gradebook\n"
+    "unreadable or malformed, 4 student identifiers refused, 5 output not written,\n"
+    "6 trouble found. Of several classes the worst counts: 3, 5, 4, 2, 6.";
 
 const char* const kInspectFooter =
     "Examples:\n"
@@ -39,8 +44,8 @@ const char* const kInspectFooter =
     "  gxexport inspect --json class.xml";
 
 // In the order in which help lists them.
-constexpr CommandSyntax (*kCommands[])(CLI::App* program) = {DefineFormats, DefineInspect, DefineExport, DefineFill,
-                                                             DefineHelp};
+constexpr CommandSyntax (*kCommands[])(CLI::App* program) = {DefineFormats, DefineInspect, DefineCheck,
+                                                             DefineExport,  DefineFill,    DefineHelp};
 
 // Keeps the descriptions within the width of a terminal.
 class HelpFormatter : public CLI::Formatter {

@@ -58,7 +58,8 @@ struct FillOptions {
   bool json = false;
 };
 
-using CommandOptions = std::variant<ShowOptions, FormatsOptions, InspectOptions, ExportOptions, FillOptions>;
+using CommandOptions =
+    std::variant<ShowOptions, FormatsOptions, InspectOptions, CheckOptions, ExportOptions, FillOptions>;
 
 // Throws CommandError when the command line makes no sense.
 CommandOptions ReadCommandLine(int argc, const char* const* argv);

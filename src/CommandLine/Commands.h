@@ -7,6 +7,7 @@
 
 ExitStatus RunFormats(const FormatsOptions& options);
 ExitStatus RunInspect(const InspectOptions& options);
+ExitStatus RunCheck(const CheckOptions& options);
 ExitStatus RunExport(const ExportOptions& options);
 ExitStatus RunBatch(const ExportOptions& options);  // with an output folder
 ExitStatus RunFill(const FillOptions& options);

@@ -80,8 +80,7 @@ FillOptions _MakeOptions(const FillArguments& arguments) {
 }  // namespace
 
 CommandSyntax DefineFill(CLI::App* program) {
-  CLI::App* command =
-      program->add_subcommand("fill", "Fills the results into a gradebook downloaded from the system.");
+  CLI::App* command = program->add_subcommand("fill", "Fills the results into a downloaded gradebook.");
   const auto arguments = std::make_shared<FillArguments>();
   arguments->options.outputFile = kStandardStream;
   DefineClassFile(command, &arguments->options.classFile);

@@ -7,7 +7,10 @@
 #include "Systems/ExportSubject.h"
 #include "Systems/Finding.h"
 
-// An array with an object per finding, in the same order: its code, consequence, sentences, and all places.
+// An array with an object per finding, in the same order, with all its places.
 nlohmann::ordered_json FindingsJson(const Findings& findings, const ExportSubject& subject);
+
+// How many findings have each consequence.
+nlohmann::ordered_json ConsequenceCountsJson(const Findings& findings);
 
 #endif  // GRADIX_FINDINGSJSON_H

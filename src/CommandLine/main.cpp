@@ -22,6 +22,7 @@ struct CommandRunner {
   }
   ExitStatus operator()(const FormatsOptions& options) const { return RunFormats(options); }
   ExitStatus operator()(const InspectOptions& options) const { return RunInspect(options); }
+  ExitStatus operator()(const CheckOptions& options) const { return RunCheck(options); }
   ExitStatus operator()(const ExportOptions& options) const {
     return options.IsBatch() ? RunBatch(options) : RunExport(options);
   }

@@ -12,7 +12,7 @@ from xml.sax.saxutils import escape
 GXEXPORT = os.path.abspath(os.environ["GXEXPORT"])
 SAMPLE = Path(os.environ["SAMPLES"]).resolve() / "secondary-school.xml"
 
-DONE, USAGE, CLASS_FILE, IDENTIFIERS, OUTPUT = 0, 2, 3, 4, 5
+DONE, USAGE, CLASS_FILE, IDENTIFIERS, OUTPUT, TROUBLE = 0, 2, 3, 4, 5, 6
 
 # Root may do anything: replace a device by a file, write a protected one. Tests of either run as somebody else.
 UNPRIVILEGED = {"user": 65534, "group": 65534, "extra_groups": []} if os.geteuid() == 0 else {}

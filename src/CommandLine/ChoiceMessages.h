@@ -1,0 +1,18 @@
+// What there is to say when choices do not fit a class.
+#ifndef GRADIX_CHOICEMESSAGES_H
+#define GRADIX_CHOICEMESSAGES_H
+
+#include <string>
+
+#include "Export/ExportChoices.h"
+
+// The assignments of the class with their ids, in lines.
+std::string AssignmentList(const qz::ClassRecord& record);
+
+// Of a fault. Lists the assignments there are.
+std::string ChoiceFaultText(const AppliedChoices& applied, const qz::ClassRecord& record);
+
+// Warns of a report whose assignment is one of several with its id.
+void WarnOfTwins(const ExportChoices& choices, const AppliedChoices& applied);
+
+#endif  // GRADIX_CHOICEMESSAGES_H

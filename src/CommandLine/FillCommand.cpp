@@ -3,9 +3,12 @@
 #include <memory>
 #include <string>
 
+#include "CommandLine/ChoiceMessages.h"
 #include "CommandLine/ClassInput.h"
 #include "CommandLine/Commands.h"
 #include "CommandLine/FillReport.h"
+#include "CommandLine/FindingReport.h"
+#include "CommandLine/GradebookInput.h"
 #include "CommandLine/OutputFile.h"
 #include "CommandLine/TerminalText.h"
 #include "Export/ExportChoices.h"
@@ -26,34 +29,6 @@ void _RefuseToOverwrite(const FillOptions& options) {
   if (IsSameFile(options.gradebook, options.outputFile)) {
     _Fail("the output would overwrite the downloaded gradebook; choose another name with -o");
   }
-}
-
-Gradebook _ReadGradebook(const FillOptions& options) {
-  Gradebook gradebook;
-  const LearningSystem* system = options.format != nullptr ? &SystemOf(*options.format) : nullptr;
-  if (system != nullptr && system->download == nullptr) {
-    _Fail("a gradebook downloaded from " + std::string(system->name) + " cannot be filled");
-  }
-  const TableFault fault = ReadGradebook(options.gradebook, system, &gradebook);
-  if (!fault.IsFault()) return gradebook;
-  const std::string name = PrintableUtf8(options.gradebook);
-  if (fault.unreadable) {
-    throw CommandError(kExitClassFile, "cannot read " + name + ": " + PrintableUtf8(fault.reason));
-  }
-  std::string place = name;
-  for (const uint64_t number : {fault.line, fault.column}) {
-    if (number > 0) place.append(":").append(std::to_string(number));
-  }
-  throw CommandError(kExitClassFile, place + ": " + PrintableUtf8(fault.reason));
-}
-
-std::string _AssignmentList(const qz::ClassRecord& record) {
-  if (record.assignments.empty()) return "The class has no assignments.";
-  std::string text = "The assignments of the class are:";
-  for (const qz::AssignmentRecord& assignment : record.assignments) {
-    text += "\n  " + std::to_string(assignment.id) + "  " + PrintableRoman(assignment.name);
-  }
-  return text;
 }
 
 ExportChoices _Choices(const FillOptions& options, const Gradebook& gradebook) {
@@ -89,7 +64,7 @@ void _RequireTitles(const FillPlan& plan, const MatchChoices& choices) {
   switch (fault.kind) {
     case Kind::kUnknownAssignment:
       _Fail("--map names " + assignment + ", which is not among those to fill. " +
-            _AssignmentList(plan.subject->texts.Record()));
+            AssignmentList(plan.subject->texts.Record()));
     case Kind::kSeveralAssignments: _Fail("--map has more than one meaning for " + assignment);
     case Kind::kUnknownTitle: _Fail("the gradebook does not have " + column + columns);
     case Kind::kSeveralColumns:
@@ -123,15 +98,12 @@ void _Write(const FillPlan& plan, const std::string& path) {
 ExitStatus RunFill(const FillOptions& options) {
   _RefuseToOverwrite(options);
   ClassFile file = ReadClassInput(options.classFile);
-  const Gradebook gradebook = _ReadGradebook(options);
+  const Gradebook gradebook = ReadGradebookInput(options.gradebook, options.format);
   const ExportChoices choices = _Choices(options, gradebook);
   const std::unique_ptr<Session> session = MakeSession(*choices.format);
   *session->GetClass() = std::move(file.record);
   const AppliedChoices applied = Apply(choices, session.get());
-  if (applied.fault == ChoiceFault::kUnknownAssignment) {
-    _Fail("there is no assignment with the id " + std::to_string(applied.unknownID) + ". " +
-          _AssignmentList(session->Class()));
-  }
+  if (applied.fault != ChoiceFault::kNone) _Fail(ChoiceFaultText(applied, session->Class()));
 
   const ExportSubject subject = MakeExportSubject(choices, *session, file.originals);
   const FillPlan plan = PlanFill(subject, gradebook, options.choices);
@@ -142,6 +114,9 @@ ExitStatus RunFill(const FillOptions& options) {
   report.isWritten = !options.dryRun && !plan.IsNothingMatched();
   if (report.isWritten) _Write(plan, options.outputFile);
   TellFill(report);
+  for (const Finding& finding : plan.findings) {
+    if (IsTrouble(finding.consequence)) Warn(FindingBlock(finding, subject));
+  }
   if (!plan.match.HasStudents()) {
     Warn("no student of the class was found in the gradebook" + _FieldsInGradebook(subject, gradebook));
   }

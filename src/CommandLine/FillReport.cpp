@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <vector>
 
+#include "CommandLine/FindingReport.h"
 #include "CommandLine/TerminalText.h"
 #include "Systems/LearningSystem.h"
 
 namespace {
 
-constexpr size_t kListed = 20;
 constexpr size_t kNone = GradebookMatch::kNone;
 
 std::string _Count(size_t count, const char* one, const char* many) {
@@ -109,8 +109,9 @@ class Report {
   void List(const std::string& title, const Items& items, Describe describe) {
     if (items.empty()) return;
     m_text += title + ": " + std::to_string(items.size()) + "\n";
-    for (size_t i = 0; i < std::min(items.size(), kListed); ++i) m_text += "  " + describe(items[i]) + "\n";
-    if (items.size() > kListed) m_text += "  and " + std::to_string(items.size() - kListed) + " more\n";
+    for (size_t i = 0; i < std::min(items.size(), kMostNames); ++i)
+      m_text += "  " + describe(items[i]) + "\n";
+    if (items.size() > kMostNames) m_text += "  and " + std::to_string(items.size() - kMostNames) + " more\n";
   }
 
   void Cells(const char* title, FillKind kind) {

@@ -24,10 +24,3 @@ Findings CheckExport(const ExportSubject& subject, const Gradebook& gradebook) {
   std::ranges::stable_sort(findings, {}, &Finding::consequence);
   return findings;
 }
-
-TableFault CheckExport(const ExportSubject& subject, const std::string& gradebookPath, Findings* findings) {
-  Gradebook gradebook;
-  TableFault fault = ReadGradebook(gradebookPath, &SystemOf(*subject.format), &gradebook);
-  if (!fault.IsFault()) *findings = CheckExport(subject, gradebook);
-  return fault;
-}

@@ -2,17 +2,11 @@
 #ifndef GRADIX_EXPORT_GRADEBOOKCHECK_H
 #define GRADIX_EXPORT_GRADEBOOKCHECK_H
 
-#include <string>
-
 #include "Systems/Download.h"
 #include "Systems/ExportSubject.h"
 #include "Systems/Finding.h"
 
 // All findings of an upload into the course, worst first: CheckExport's, and what only the gradebook tells.
 Findings CheckExport(const ExportSubject& subject, const Gradebook& gradebook);
-
-// The same with the gradebook at `path`, which has to be one of the format's system. After a fault there are
-// no findings.
-TableFault CheckExport(const ExportSubject& subject, const std::string& gradebookPath, Findings* findings);
 
 #endif  // GRADIX_EXPORT_GRADEBOOKCHECK_H

@@ -7,6 +7,8 @@ from __future__ import annotations
 import random
 from collections.abc import Callable
 from dataclasses import dataclass, field
+from pathlib import Path
+from xml.etree import ElementTree
 
 from generate import escape
 from importers import Column, Course, Member
@@ -44,6 +46,7 @@ class SchoolClass:
     field: str                      # whose value identifies
     chosen: list[int] | None = None     # works; None: all
     awkward: list[str] = field(default_factory=list)
+    source: bytes = b""             # the class file, when it is no invention of ours
 
     def exported(self) -> list[Work]:
         return [work for work in self.works if self.chosen is None or work.id in self.chosen]
@@ -52,6 +55,9 @@ class SchoolClass:
         return ["-u", self.field] + [word for number in self.chosen or () for word in ("-a", str(number))]
 
     def xml(self) -> bytes:
+        if self.source:
+            return self.source
+
         def leaf(name: str, value: object) -> str:
             return f"<{name}>{escape(str(value))}</{name}>"
 
@@ -209,9 +215,21 @@ AWKWARD: dict[str, Spoil] = {
 }
 
 
+def read(source: bytes, chosen_field: str) -> SchoolClass:
+    root = ElementTree.fromstring(source)
+    pupils = [Pupil(int(s.get("id")), s.findtext("first-name", ""), s.findtext("last-name", ""),
+                    {name: s.findtext(name, "") for name in FIELDS}) for s in root.iter("student")]
+    works = [Work(int(a.get("id")), a.findtext("assignment-name", ""), int(a.findtext("points-possible", "0")),
+                  {int(results.get("id")): sum(float(p.text) for p in results.iter("points-earned"))
+                   for results in a.iter("results")}) for a in root.iter("assignment")]
+    return SchoolClass(pupils, works, chosen_field, source=source)
+
+
 def build(seed: str, how_many: int | None = None, only: str = "") -> SchoolClass:
-    """With so many awkward things; None: from none to four."""
+    """With so many awkward things; None: from none to four. A class file may stand for a seed."""
     r = random.Random(seed)
+    if seed.endswith(".xml"):
+        return read(Path(seed).read_bytes(), r.choice(FIELDS))
     made = ordinary(r)
     made.awkward = [only] if only else r.sample(list(AWKWARD), r.randrange(5) if how_many is None else how_many)
     made.awkward.sort(key=lambda name: (name.endswith("left out"), name == "no work"))

@@ -245,7 +245,7 @@ def _attempt(seed: str, system: str) -> Attempt:
     _unsettle(r, system, made, course)
     attempt = Attempt(made, course, "login" if made.field == "alias" else "sis", {}, r.random() < 0.2, r.random() < 0.2)
     unmatched = [work for work in made.exported()
-                 if not attempt.columns(work, False) and max(work.points, *work.scores.values()) <= 40]
+                 if not attempt.columns(work, False) and max([work.points, *work.scores.values()]) <= 40]
     if unmatched and course.titled("Essay") and r.random() < 0.5:
         attempt.titles[unmatched[0].id] = "Essay"
     return attempt
@@ -299,7 +299,8 @@ def try_one(path: str, seed: str, system: str, stem: str) -> list[str]:
 
 def _status_faults(attempt: Attempt, system: str, after: Course, status: int, codes: dict[str, str]) -> list[str]:
     """It has to tell whether all results of the class arrived."""
-    if attempt.only_empty or {"score of somebody else", "no work"} & set(attempt.made.awkward):
+    known = {pupil.id for pupil in attempt.made.pupils}
+    if attempt.only_empty or not attempt.made.works or any(w.scores.keys() - known for w in attempt.made.exported()):
         return []
     goals = attempt._replace(course=after)
     missing = [f"{work.title}: {pupil.first} {pupil.last}" for work in attempt.made.exported()

@@ -170,15 +170,16 @@ def run_many(about: str, work: Callable[[str, str, str, str], list[T]]) -> list[
     parser.add_argument("--seed", metavar="S", help="repeats an earlier run; with a number, one class of it")
     parser.add_argument("--only", default="", metavar="NAME", help="classes with this awkward thing alone")
     parser.add_argument("--keep", type=Path, metavar="DIR", help="where the files stay")
+    parser.add_argument("files", nargs="*", metavar="CLASSFILE", help="class files to try, too")
     asked = parser.parse_args()
     seed = asked.seed or str(random.SystemRandom().randrange(10**9))
     print(f"seed {seed}", flush=True)
     with tempfile.TemporaryDirectory() as folder, ThreadPoolExecutor(os.cpu_count()) as workers:
         def each(job: tuple[str, str]) -> list[T]:
-            stem = f"{asked.keep or folder}/{job[0].replace(':', '-')}"
+            stem = f"{asked.keep or folder}/{Path(job[0]).stem.replace(':', '-')}"
             return work(asked.gxexport, job[0], asked.only or job[1], stem)
 
-        return sum(workers.map(each, seeds(seed, asked.count)), [])
+        return sum(workers.map(each, [(file, "") for file in asked.files] + seeds(seed, asked.count)), [])
 
 
 def main() -> int:

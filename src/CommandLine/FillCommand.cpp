@@ -113,7 +113,7 @@ ExitStatus RunFill(const FillOptions& options) {
   if (isTrouble) report.status = kExitTrouble;
   report.isWritten = !options.dryRun && !plan.IsNothingMatched();
   if (report.isWritten) _Write(plan, options.outputFile);
-  TellFill(report);
+  TellFill(plan);
   for (const Finding& finding : plan.findings) {
     if (IsTrouble(finding.consequence)) Warn(FindingBlock(finding, subject));
   }

@@ -36,12 +36,8 @@ const char* _Reason(TitleMatch match) {
 
 class Report {
  public:
-  explicit Report(const FillReport& report)
-      : m_report(report),
-        m_plan(*report.plan),
-        m_subject(*m_plan.subject),
-        m_gradebook(*m_plan.gradebook),
-        m_text(Summary()) {}
+  explicit Report(const FillPlan& plan)
+      : m_plan(plan), m_subject(*m_plan.subject), m_gradebook(*m_plan.gradebook), m_text(Summary()) {}
 
   std::string Text() {
     Cells("Filled", FillKind::kFilled);
@@ -82,7 +78,7 @@ class Report {
 
   std::string Member(size_t member) const {
     const CourseMember& who = m_gradebook.members[member];
-    const std::string name = PrintableUtf8(who.name);
+    std::string name = PrintableUtf8(who.name);
     if (!name.empty()) return name;
     return "line " + std::to_string(m_gradebook.table.LineOf(who.row));
   }
@@ -142,7 +138,6 @@ class Report {
     });
   }
 
-  const FillReport& m_report;
   const FillPlan& m_plan;
   const ExportSubject& m_subject;
   const Gradebook& m_gradebook;
@@ -172,8 +167,8 @@ const char* UnmatchedKey(TitleMatch match) {
   }
 }
 
-void TellFill(const FillReport& report) {
-  std::string text = Report(report).Text();
+void TellFill(const FillPlan& plan) {
+  std::string text = Report(plan).Text();
   text.pop_back();
   Say(text);
 }

@@ -17,7 +17,7 @@ struct FillReport {
 };
 
 // To standard error.
-void TellFill(const FillReport& report);
+void TellFill(const FillPlan& plan);
 
 std::string FillJson(const FillReport& report);
 

@@ -28,13 +28,10 @@ void DefineBatchOptions(CLI::App* command, BatchArguments* arguments) {
       ->add_option("--jobs", arguments->jobs,
                    "How many classes to export at a time. Without it: one per processor.")
       ->type_name("N");
-  command->add_flag("--json", arguments->json,
-                    "Tell what became of each class as JSON, for programs; with --output-dir.");
 }
 
 void SetBatchOptions(const BatchArguments& arguments, bool hasOutputFile, ExportOptions* options) {
   options->recursive = arguments.recursive;
-  options->json = arguments.json;
   if (arguments.jobs) options->jobs = _ParseJobs(*arguments.jobs);
   if (arguments.outputFolder) {
     options->outputFolder = RequireFileName("--output-dir", *arguments.outputFolder);
@@ -43,6 +40,5 @@ void SetBatchOptions(const BatchArguments& arguments, bool hasOutputFile, Export
   }
   if (options->classFiles.size() > 1) FailUsage("several class files need --output-dir");
   if (options->recursive) FailUsage("-r needs --output-dir");
-  if (options->json) FailUsage("--json needs --output-dir");
   if (options->jobs != 0) Warn("--jobs has no effect on one class");
 }

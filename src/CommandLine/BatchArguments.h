@@ -15,7 +15,6 @@ struct BatchArguments {
   std::optional<std::string> outputFolder;
   std::optional<std::string> jobs;
   bool recursive = false;
-  bool json = false;
 };
 
 void DefineBatchOptions(CLI::App* command, BatchArguments* arguments);

@@ -24,6 +24,7 @@ struct ExportArguments {
   std::string output = kStandardStream;
   bool force = false;
   bool strict = false;
+  bool json = false;
   BatchArguments batch;
   ReportArguments report;
 };
@@ -37,12 +38,16 @@ void _DefineOptions(CLI::App* command, ExportArguments* arguments) {
   DefineFormat(command, &arguments->choices.format)->required();
   DefineAssignments(command, &arguments->choices.assignments);
   DefineIdentifier(command, &arguments->choices.identifier);
+  DefineDialect(command, &arguments->choices.dialect);
+  DefineDelimiter(command, &arguments->choices.delimiter);
   DefineOutput(command, &arguments->output);
   DefineNoQuotes(command, &arguments->choices.noQuotes);
   command->add_flag("--force", arguments->force,
                     "Export even if no student has an identifier, or if students share one.");
   command->add_flag("--strict", arguments->strict,
                     "Export nothing if the check finds trouble; see 'gxexport check'.");
+  command->add_flag("--json", arguments->json,
+                    "Tell what was written and found as JSON on standard output, for programs.");
   DefineBatchOptions(command, &arguments->batch);
   DefineReportOptions(command, &arguments->report);
 }
@@ -56,6 +61,7 @@ ExportOptions _MakeOptions(const CLI::App& command, const ExportArguments& argum
   options.outputFile = RequireFileName("-o", arguments.output);
   options.force = arguments.force;
   options.strict = arguments.strict;
+  options.json = arguments.json;
   SetBatchOptions(arguments.batch, command.count("--output") > 0, &options);
   return options;
 }

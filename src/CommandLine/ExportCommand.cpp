@@ -1,16 +1,25 @@
 #include <cstdio>
-#include <memory>
+#include <nlohmann/json.hpp>
 #include <string>
+#include <string_view>
 
+#include "CommandLine/ChoiceMessages.h"
 #include "CommandLine/ClassInput.h"
-#include "CommandLine/CommandError.h"
 #include "CommandLine/Commands.h"
+#include "CommandLine/FindingReport.h"
+#include "CommandLine/FindingsJson.h"
 #include "CommandLine/IdentifierMessages.h"
 #include "CommandLine/OutputFile.h"
 #include "CommandLine/TerminalText.h"
-#include "Export/ExportWriter.h"
+#include "Export/ClassExport.h"
+#include "Systems/FindingTexts.h"
+#include "Systems/LearningSystem.h"
 
 namespace {
+
+using Json = nlohmann::ordered_json;
+
+constexpr int kVersion = 1;
 
 [[noreturn]] void _Fail(const std::string& text) {
   throw CommandError(kExitUsage, text);
@@ -21,53 +30,103 @@ void _RefuseToOverwrite(const ExportOptions& options) {
   _Fail("the output would overwrite the class file; choose another name with -o");
 }
 
-std::string _AssignmentList(const qz::ClassRecord& record) {
-  if (record.assignments.empty()) return "The class has no assignments.";
-  std::string text = "The assignments of the class are:";
-  for (const qz::AssignmentRecord& assignment : record.assignments) {
-    text += "\n  " + std::to_string(assignment.id) + "  " + PrintableRoman(assignment.name);
+void _WarnOfNoAssignments(const ClassExport& exporting) {
+  if (exporting.Choices().format->IsReport() || !exporting.Texts().Record().assignments.empty()) return;
+  std::string text = "the class has no assignments; the file will hold the students only";
+  const Finding* finding = FindFinding(exporting.Found(), "no-assignments");
+  if (finding != nullptr && IsTrouble(finding->consequence)) {
+    text += "\n  " + DescribeFinding(*finding, exporting.Subject(), TextLanguage::kEnglish).what;
   }
-  return text;
+  Warn(text);
 }
 
-// The report is about the first selected assignment.
-void _WarnOfTwins(const ExportChoices& choices, const AppliedChoices& applied) {
-  if (!choices.format->IsReport() || applied.selected < 2) return;
-  Warn("several assignments have this id; the report is about the first of them");
+// Whether the messages about the class or its identifiers have said it.
+bool _IsTold(const Finding& finding, const ClassExport& exporting) {
+  const std::string_view code = finding.code;
+  if (code == "no-assignments") return exporting.Texts().Record().assignments.empty();
+  if (code == "id-missing" || code == "no-students") return true;
+  return code == "id-duplicate" && exporting.Identifiers().HasDuplicates();
 }
 
-void _ApplyChoices(const ExportChoices& choices, Session* session) {
-  const qz::ClassRecord& record = *session->GetClass();
-  const AppliedChoices applied = Apply(choices, session);
-  switch (applied.fault) {
-    case ChoiceFault::kNone: return _WarnOfTwins(choices, applied);
-    case ChoiceFault::kUnknownAssignment:
-      _Fail("there is no assignment with the id " + std::to_string(applied.unknownID) + ". " +
-            _AssignmentList(record));
-    case ChoiceFault::kNotOneAssignment:
-      _Fail("the detailed report is about one assignment; name it with -a. " + _AssignmentList(record));
+void _WarnOfTrouble(const ClassExport& exporting) {
+  for (const Finding& finding : exporting.Found()) {
+    if (!IsTrouble(finding.consequence) || _IsTold(finding, exporting)) continue;
+    Warn(FindingBlock(finding, exporting.Subject()));
   }
+  const std::string hint = CurrentFileHint(exporting.Found(), exporting.Subject());
+  if (!hint.empty()) Say(hint);
 }
 
-void _CheckClass(const ExportOptions& options, const qz::ClassRecord& record) {
+FileOutcome _WriteFile(const std::string& path, ClassExport* exporting) {
+  return IsStandardOutput(path) ? exporting->Write(stdout) : exporting->Write(path);
+}
+
+void _Write(const ExportOptions& options, ClassExport* exporting) {
+  WarnOfTwins(options.choices, exporting->Applied());
+  _WarnOfNoAssignments(*exporting);
+  RequireIdentifiers(*exporting, options.force);
+  _WarnOfTrouble(*exporting);
+  if (exporting->Obstacle() == ExportObstacle::kTrouble) {
+    throw CommandError(kExitTrouble, "nothing was written, because the check found trouble");
+  }
+  TellOutcome(options.outputFile, _WriteFile(options.outputFile, exporting));
+}
+
+const char* _StatusKey(ExitStatus status, const Findings& findings) {
+  if (status == kExitDone) return HasTrouble(findings) ? "warned" : "written";
+  return status == kExitOutput ? "not-written" : "refused";
+}
+
+std::string _AsJson(const ExportOptions& options, const ClassExport& exporting, ExitStatus status,
+                    const std::string& reason) {
   const ExportChoices& choices = options.choices;
-  if (choices.format->IsReport()) return;
-  if (record.assignments.empty()) Warn("the class has no assignments; the file will hold the students only");
-  RequireIdentifiers(record, *choices.format, choices.identifier, options.force);
+  const ExportCounts counts = exporting.Counts();
+  const bool hasField = !choices.format->IsReport();
+  Json json = {{"version", kVersion},
+               {"file", PrintableUtf8(options.classFiles.front())},
+               {"output", status == kExitDone ? Json(PrintableUtf8(options.outputFile)) : Json()},
+               {"className", exporting.File().name},
+               {"format", choices.format->key},
+               {"system", SystemOf(*choices.format).key},
+               {"dialect", choices.dialect == Dialect::kCurrent ? "current" : "classic"},
+               {"field", hasField ? Json(qz::FindStudentField(choices.identifier).key) : Json()},
+               {"status", _StatusKey(status, exporting.Found())},
+               {"exitStatus", status},
+               {"reason", reason},
+               {"students", counts.students},
+               {"assignments", counts.assignments},
+               {"scores", counts.scores}};
+  json["findings"] = FindingsJson(exporting.Found(), exporting.Subject());
+  json["counts"] = ConsequenceCountsJson(exporting.Found());
+  return json.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
 }
 
-FileOutcome _Write(const std::string& path, Session* session) {
-  return IsStandardOutput(path) ? WriteExport(session, stdout) : WriteExport(session, path);
+// The same, and its outcome as data.
+ExitStatus _WriteAndTell(const ExportOptions& options, ClassExport* exporting) {
+  ExitStatus status = kExitDone;
+  std::string reason;
+  try {
+    _Write(options, exporting);
+  } catch (const CommandError& error) {
+    status = error.Status();
+    reason = error.what();
+    Say(reason);
+  }
+  WriteStandardOutput(_AsJson(options, *exporting, status, reason));
+  return status;
 }
 
 }  // namespace
 
 ExitStatus RunExport(const ExportOptions& options) {
   _RefuseToOverwrite(options);
-  const std::unique_ptr<Session> session = MakeSession(*options.choices.format);
-  *session->GetClass() = ReadClassInput(options.classFiles.front()).record;
-  _ApplyChoices(options.choices, session.get());
-  _CheckClass(options, *session->GetClass());
-  TellOutcome(options.outputFile, _Write(options.outputFile, session.get()));
+  if (options.json && IsStandardOutput(options.outputFile)) _Fail("--json needs --output-dir, or the name of a file with -o");
+  ClassExport exporting(ReadClassInput(options.classFiles.front()), options.choices,
+                        {options.force, options.strict});
+  if (exporting.Obstacle() == ExportObstacle::kChoices) {
+    _Fail(ChoiceFaultText(exporting.Applied(), exporting.Texts().Record()));
+  }
+  if (options.json) return _WriteAndTell(options, &exporting);
+  _Write(options, &exporting);
   return kExitDone;
 }

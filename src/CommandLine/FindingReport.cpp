@@ -1,5 +1,7 @@
 #include "CommandLine/FindingReport.h"
 
+#include <algorithm>
+
 #include "CommandLine/TerminalText.h"
 #include "Systems/FindingTexts.h"
 #include "Systems/LearningSystem.h"
@@ -23,6 +25,12 @@ std::string _Places(const Finding& finding, const ExportSubject& subject) {
 }
 
 }  // namespace
+
+const Finding* FindFinding(const Findings& findings, std::string_view code) {
+  const auto found = std::find_if(findings.begin(), findings.end(),
+                                  [code](const Finding& finding) { return code == finding.code; });
+  return found == findings.end() ? nullptr : &*found;
+}
 
 std::string FindingBlock(const Finding& finding, const ExportSubject& subject) {
   const FindingText text = DescribeFinding(finding, subject, TextLanguage::kEnglish);

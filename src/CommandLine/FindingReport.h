@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "Systems/ExportSubject.h"
@@ -23,6 +24,9 @@ std::string CutList(size_t count, const char* separator, NameOf nameOf) {
   if (count > kMostNames) text += " and " + std::to_string(count - kMostNames) + " more";
   return text;
 }
+
+// The first finding of the code, or null.
+const Finding* FindFinding(const Findings& findings, std::string_view code);
 
 // What will happen, with the places and the advice in lines of their own, indented by two blanks. Does not
 // end with a line feed.

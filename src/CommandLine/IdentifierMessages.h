@@ -2,12 +2,10 @@
 #ifndef GRADIX_IDENTIFIERMESSAGES_H
 #define GRADIX_IDENTIFIERMESSAGES_H
 
-#include "Common/QZData/QZClass.h"
-#include "Filters/GX_StdCsv/FormatTable.h"
+#include "Export/ClassExport.h"
 
 // Warns of students without an identifier. Refuses, by throwing CommandError, a class in which nobody has one
 // or in which students share one; `force` makes these warnings, too. Names the students concerned.
-void RequireIdentifiers(const qz::ClassRecord& record, const FormatRow& format, qz::UserIDField field,
-                        bool force);
+void RequireIdentifiers(const ClassExport& exporting, bool force);
 
 #endif  // GRADIX_IDENTIFIERMESSAGES_H

@@ -80,6 +80,22 @@ class Check(FolderTest):
         empty = next(finding for finding in findings if finding["code"] == "result-missing")
         self.assertEqual(empty["places"][0]["student"], {"id": 2, "name": "Bob Smith"})
 
+    def test_export_tells_trouble(self):
+        path, output = self.write_class([ANN, BOB], [COMMA]), self.folder / "out.csv"
+        plain = run("export", "-f", "canvas", path)
+        self.check(plain, DONE, "gxexport: warning: There is a comma in one title.", "  Cells, part 1\n  What to do: ")
+        self.assertNotIn("without a result", plain.stderr.decode())
+        self.check(run("export", "-f", "canvas", "--strict", "-o", output, path), TROUBLE, "nothing was written")
+        self.assertFalse(output.exists())
+        self.check(run("export", "-f", "canvas", "--strict", "--dialect", "current", path), DONE)
+        self.check(run("export", "-f", "canvas", "--json", path), USAGE, "--json needs")
+        data = json.loads(run("export", "-f", "canvas", "--json", "-o", output, path).stdout.decode())
+        self.assertEqual(list(data), ["version", "file", "output", "className", "format", "system", "dialect", "field",
+                                      "status", "exitStatus", "reason", "students", "assignments", "scores", "findings",
+                                      "counts"])
+        self.assertEqual((data["status"], data["exitStatus"], data["scores"]), ("warned", DONE, 1))
+        self.assertEqual(output.read_bytes(), plain.stdout)
+
     def test_gradebook(self):
         path = self.write_class([ANN, BOB], [QUIZ])
         gradebook = self.folder / "Grades.csv"

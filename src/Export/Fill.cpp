@@ -4,11 +4,9 @@
 #include <cmath>
 #include <iterator>
 #include <map>
-#include <set>
-#include <string_view>
 
+#include "Export/FillCheck.h"
 #include "Systems/LearningSystem.h"
-#include "Systems/UploadRules.h"
 
 namespace {
 
@@ -16,29 +14,6 @@ constexpr size_t kNone = GradebookMatch::kNone;
 
 bool _IsIdentity(ColumnRole role) {
   return role == ColumnRole::kIdentifier || role == ColumnRole::kName || role == ColumnRole::kIdentity;
-}
-
-// What is wrong with columns, whoever has results in them.
-bool _IsColumnTrouble(const Finding& finding) {
-  const auto isColumn = [](const FindingPlace& place) {
-    return place.student == FindingPlace::kNone && place.assignment != FindingPlace::kNone;
-  };
-  return IsTrouble(finding.consequence) && !finding.places.empty() &&
-         std::ranges::all_of(finding.places, isColumn);
-}
-
-// Puts the places of a finding to those that are known under its code.
-void _Join(Finding finding, Findings* findings) {
-  const auto known = std::ranges::find_if(
-      *findings, [&finding](const Finding& other) { return std::string_view(other.code) == finding.code; });
-  if (known == findings->end()) {
-    findings->push_back(std::move(finding));
-    return;
-  }
-  for (FindingPlace& place : finding.places) {
-    const auto isSame = [&place](const FindingPlace& other) { return other.assignment == place.assignment; };
-    if (std::ranges::none_of(known->places, isSame)) known->places.push_back(std::move(place));
-  }
 }
 
 class FillPlanner {
@@ -56,7 +31,7 @@ class FillPlanner {
     PlanCells();
     ListUnmatched();
     m_plan.differentPoints = DifferentPoints(m_subject, m_gradebook, m_plan.match);
-    Check();
+    m_plan.findings = CheckFill(m_plan);
     return std::move(m_plan);
   }
 
@@ -150,84 +125,6 @@ class FillPlanner {
       const bool isItem = m_gradebook.columns[column].role == ColumnRole::kItem;
       if (isItem && match.assignmentOf[column] == kNone) m_plan.unmatchedColumns.push_back(column);
     }
-  }
-
-  // The file for upload as its system sees it: who is in it, and under which titles.
-  ExportSubject FilledSubject() const {
-    ExportSubject filled{.format = m_subject.format,
-                         .texts = m_subject.texts,
-                         .identifier = m_subject.identifier,
-                         .dialect = Dialect::kFilled,
-                         .delimiter = m_gradebook.table.style.separator};
-    for (const FillCell& cell : m_plan.cells) {
-      const bool isNext = filled.students.empty() || filled.students.back() != cell.student;
-      if (isNext && cell.IsWritten()) filled.students.push_back(cell.student);
-    }
-    std::ranges::sort(filled.students);
-    std::vector<const qz::AssignmentRecord*> records;
-    for (const FillColumn& column : m_plan.columns) {
-      if (column.assignment == kNone) continue;
-      filled.assignments.push_back(m_subject.assignments[column.assignment]);
-      filled.titles.push_back(column.column == kNone ? m_subject.titles[column.assignment]
-                                                     : m_gradebook.columns[column.column].title);
-      records.push_back(&m_subject.texts.Record().assignments[filled.assignments.back()]);
-    }
-    filled.scores = ScoreTable(m_subject.texts.Record().students, records);
-    return filled;
-  }
-
-  // The same people and columns in the order of the filled subject.
-  GradebookMatch FilledMatch() const {
-    GradebookMatch match = m_plan.match;
-    match.columnOf.clear();
-    for (const FillColumn& column : m_plan.columns) {
-      if (column.assignment != kNone) match.columnOf.push_back(column.column);
-    }
-    match.titles.assign(match.columnOf.size(), TitleMatch::kExact);
-    return match;
-  }
-
-  // Scores that stay away because the gradebook has others are no trouble.
-  void DropUnwritten(Findings* findings) const {
-    std::set<std::pair<size_t, size_t>> unwritten;
-    for (const FillCell& cell : m_plan.cells) {
-      if (cell.kind == FillKind::kKept) unwritten.emplace(cell.student, m_subject.assignments[cell.assignment]);
-    }
-    if (unwritten.empty()) return;
-    std::erase_if(*findings, [&unwritten](Finding& finding) {
-      const size_t dropped = std::erase_if(finding.places, [&unwritten](const FindingPlace& place) {
-        return unwritten.contains({place.student, place.assignment});
-      });
-      return dropped > 0 && finding.places.empty();
-    });
-  }
-
-  // A new column is to the system what a column of a whole file of ours is.
-  void CheckNewColumns(ExportSubject filled, Findings* findings) const {
-    if (m_plan.newColumns.empty() || FindCurrentFile(*m_subject.format) == nullptr) return;
-    filled.dialect = Dialect::kCurrent;
-    filled.assignments.clear();
-    filled.titles.clear();
-    std::vector<const qz::AssignmentRecord*> records;
-    for (const size_t i : m_plan.newColumns) {
-      filled.assignments.push_back(m_subject.assignments[i]);
-      filled.titles.push_back(m_subject.titles[i]);
-      records.push_back(&m_subject.texts.Record().assignments[filled.assignments.back()]);
-    }
-    filled.scores = ScoreTable(m_subject.texts.Record().students, records);
-    for (Finding& finding : CheckExport(filled)) {
-      if (_IsColumnTrouble(finding)) _Join(std::move(finding), findings);
-    }
-  }
-
-  void Check() {
-    const ExportSubject filled = FilledSubject();
-    Findings& findings = m_plan.findings = CheckExport(filled);
-    CheckNewColumns(filled, &findings);
-    std::ranges::move(CheckAgainstGradebook(filled, m_gradebook, FilledMatch()),
-                      std::back_inserter(findings));
-    DropUnwritten(&findings);
-    std::ranges::stable_sort(findings, {}, &Finding::consequence);
   }
 
   const ExportSubject& m_subject;

@@ -35,13 +35,16 @@ CheckRules _Rules(const ExportSubject& subject) {
   return rules;
 }
 
+// Unless the site allows unlimited grades.
+constexpr double kGreatestScore = 100;
+
 bool _HasCapitals(std::string_view identifier) {
   return std::ranges::any_of(identifier, [](char letter) { return letter >= 'A' && letter <= 'Z'; });
 }
 
 void _Check(ExportCheck* check) {
   const Dialect dialect = check->subject.dialect;
-  check->Add("score-above-100", Consequence::kRefused, ScoresAbove(*check, 100));
+  check->Add("score-above-100", Consequence::kRefused, ScoresAbove(*check, kGreatestScore));
   check->Add("score-negative", Consequence::kChanged, NegativeScores(*check));
   if (dialect == Dialect::kFilled) return;  // whose titles end in " (Real)"
   // It takes away the meaning of the separator or of the quote behind it.
@@ -203,6 +206,7 @@ constexpr UploadRules kUpload = {
     .unknownStudent = Consequence::kRefused,
     .refusesUnknownRows = true,
     .capsScores = true,
+    .greatestScore = kGreatestScore,
     .superseded = kSuperseded,
 };
 

@@ -26,6 +26,7 @@ struct UploadRules {
   std::optional<Consequence> secondColumn = {};  // a title in another letter case makes a column of its own
   Consequence otherPoints = Consequence::kNote;  // of a column that is there
   bool capsScores = false;                       // at the points of the column
+  std::optional<double> greatestScore = {};      // a greater one makes it refuse the file
   bool matchesNames = false;                     // of students whom it does not know by the identifier
 
   // The heading of the system's own numbers of users, as which it reads the identifiers of a classic file

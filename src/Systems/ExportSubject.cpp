@@ -1,7 +1,10 @@
 #include "Systems/ExportSubject.h"
 
+#include <utility>
+
 ExportSubject MakeExportSubject(const FormatRow& format, const qz::ClassTexts& texts,
-                                qz::UserIDField identifier, Dialect dialect) {
+                                qz::UserIDField identifier, Dialect dialect,
+                                std::vector<size_t> assignments) {
   const qz::ClassRecord& record = texts.Record();
   ExportSubject subject{.format = &format, .texts = texts, .identifier = identifier, .dialect = dialect};
   const qz::StudentField& field = qz::FindStudentField(identifier);
@@ -9,13 +12,22 @@ ExportSubject MakeExportSubject(const FormatRow& format, const qz::ClassTexts& t
   for (size_t i = 0; i < record.students.size(); ++i) {
     if (!needsIdentifier || !field.Value(record.students[i]).empty()) subject.students.push_back(i);
   }
-  std::vector<const qz::AssignmentRecord*> selected;
-  for (size_t i = 0; i < record.assignments.size(); ++i) {
-    if (!record.assignments[i].selected) continue;
-    selected.push_back(&record.assignments[i]);
-    subject.assignments.push_back(i);
-    subject.titles.push_back(texts.AssignmentName(i));
+  subject.assignments = std::move(assignments);
+  std::vector<const qz::AssignmentRecord*> exported;
+  for (const size_t position : subject.assignments) {
+    exported.push_back(&record.assignments[position]);
+    subject.titles.push_back(texts.AssignmentName(position));
   }
-  subject.scores = ScoreTable(record.students, selected);
+  subject.scores = ScoreTable(record.students, exported);
   return subject;
+}
+
+ExportSubject MakeExportSubject(const FormatRow& format, const qz::ClassTexts& texts,
+                                qz::UserIDField identifier, Dialect dialect) {
+  const std::vector<qz::AssignmentRecord>& assignments = texts.Record().assignments;
+  std::vector<size_t> selected;
+  for (size_t i = 0; i < assignments.size(); ++i) {
+    if (assignments[i].selected) selected.push_back(i);
+  }
+  return MakeExportSubject(format, texts, identifier, dialect, std::move(selected));
 }

@@ -36,8 +36,12 @@ struct ExportSubject {
   }
 };
 
-// The subject of an export of the selected assignments. In a current file students without an identifier have
-// no row. The class and its original texts outlive the subject.
+// The subject of an export of the assignments at these positions, which ascend. In a current file students
+// without an identifier have no row. The class and its original texts outlive the subject.
+ExportSubject MakeExportSubject(const FormatRow& format, const qz::ClassTexts& texts,
+                                qz::UserIDField identifier, Dialect dialect, std::vector<size_t> assignments);
+
+// The same of the selected assignments.
 ExportSubject MakeExportSubject(const FormatRow& format, const qz::ClassTexts& texts,
                                 qz::UserIDField identifier, Dialect dialect);
 

@@ -7,12 +7,6 @@
 
 namespace {
 
-std::string _FieldTitle(const ExportSubject& subject, TextLanguage language) {
-  const qz::StudentField& field = qz::FindStudentField(subject.identifier);
-  if (language == TextLanguage::kSpanish && field.spanishTitle != nullptr) return field.spanishTitle;
-  return subject.texts.FieldTitle(field);
-}
-
 // Replaces what stands between `open` and `close` and has `middle` in it by one of its halves.
 std::string _Choose(std::string_view text, std::string_view open, std::string_view middle,
                     std::string_view close, bool first) {
@@ -59,7 +53,9 @@ class Sentence {
   std::string Value(std::string_view name) const {
     if (name == "system") return SystemOf(*m_subject.format).name;
     if (name == "id") return m_subject.format->idName != nullptr ? m_subject.format->idName : "";
-    if (name == "field") return _FieldTitle(m_subject, m_language);
+    if (name == "field") {
+      return DescribeField(qz::FindStudentField(m_subject.identifier), m_subject.texts, m_language);
+    }
     if (name == "count") return std::to_string(m_finding.places.size());
     return m_finding.arguments.at(static_cast<size_t>(name.at(0) - '1'));
   }
@@ -113,6 +109,11 @@ const char* ConsequenceKey(Consequence consequence) {
 std::string DescribeConsequence(Consequence consequence, TextLanguage language) {
   const ConsequenceWords& words = _WordsOf(consequence);
   return language == TextLanguage::kSpanish ? words.spanish : words.english;
+}
+
+std::string DescribeField(const qz::StudentField& field, const qz::ClassTexts& texts, TextLanguage language) {
+  if (language == TextLanguage::kSpanish && field.spanishTitle != nullptr) return field.spanishTitle;
+  return texts.FieldTitle(field);
 }
 
 FindingText DescribeFinding(const Finding& finding, const ExportSubject& subject, TextLanguage language) {

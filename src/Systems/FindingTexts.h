@@ -20,6 +20,9 @@ FindingText DescribeFinding(const Finding& finding, const ExportSubject& subject
 // The place in a few words: "Mia Becker (12), Quiz 1: 11 of 10".
 std::string DescribePlace(const FindingPlace& place, const ExportSubject& subject);
 
+// The title of a student field, which of a custom one is the class's label.
+std::string DescribeField(const qz::StudentField& field, const qz::ClassTexts& texts, TextLanguage language);
+
 // "refused", as people read it: "The file will be refused".
 std::string DescribeConsequence(Consequence consequence, TextLanguage language);
 

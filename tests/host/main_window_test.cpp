@@ -12,6 +12,7 @@
 #include <QStatusBar>
 #include <QTableView>
 #include <QToolButton>
+#include <QTreeView>
 #include <cerrno>
 #include <csignal>
 #include <cstring>
@@ -101,6 +102,30 @@ TEST_F(MainWindowTest, ExportsTheSelectedAssignmentOnceAtATime) {
   for (const QLabel* label : result->findChildren<QLabel*>()) labels.append(label->text());
   EXPECT_TRUE(labels.contains(Text(TextID::kReplacedCharacters).arg(3))) << labels.join(u'|').toStdString();
   EXPECT_TRUE(Format(0)->isEnabled());
+}
+
+TEST_F(MainWindowTest, ChecksTheOpenClass) {
+  auto* const check = m_window.findChild<QAction*>(QStringLiteral("check"));
+  EXPECT_FALSE(check->isEnabled());
+  ASSERT_TRUE(OpenSample());
+  EXPECT_TRUE(check->isEnabled());
+  check->trigger();
+  QWidget* const window = FindWindow("checkWindow");
+  ASSERT_NE(window, nullptr);
+  check->trigger();
+  EXPECT_EQ(m_window.findChildren<QWidget*>(QStringLiteral("checkWindow")).size(), 1);
+
+  ASSERT_TRUE(Open(QStringLiteral(SAMPLES "/secondary-school.xml")));
+  EXPECT_EQ(window->windowTitle(), QStringLiteral("Check – Biology 9"));
+  auto* const findings = window->findChild<QTreeView*>(QStringLiteral("findings"));
+  EXPECT_EQ(findings->model()->index(0, 0, findings->model()->index(0, 0)).data().toString().left(12),
+            QStringLiteral("Inés Álvarez"));
+  auto* const table = m_window.findChild<QTableView*>(QStringLiteral("classTable"));
+  table->setCurrentIndex(table->model()->index(9, 3));
+  gestures::ClickRow(findings, 0);
+  EXPECT_EQ(table->currentIndex(), table->model()->index(0, 0));
+  QTest::keyClick(window, Qt::Key_Escape);
+  EXPECT_TRUE(QTest::qWaitFor([] { return FindWindow("checkWindow") == nullptr; }));
 }
 
 TEST_F(MainWindowTest, SaysWhatBecameOfAnExport) {

@@ -29,13 +29,16 @@ QString _Cut(QString name) {
 
 }  // namespace
 
-QString ProposedFileName(const QString& assignmentName, const QString& formatName, const QString& extension) {
+QString ShortFormatName(const QString& formatName) {
   static const QString prefix = QStringLiteral("Assignment Results for ");
+  return formatName.startsWith(prefix) ? formatName.mid(prefix.size()) : formatName;
+}
+
+QString ProposedFileName(const QString& assignmentName, const QString& formatName, const QString& extension) {
   QString name = _Cut(_Cleaned(assignmentName));
   if (name.startsWith(u'.')) name.replace(0, 1, u'_');  // would be hidden
-  const QString system = formatName.startsWith(prefix) ? formatName.mid(prefix.size()) : formatName;
   if (!name.isEmpty()) name += QLatin1String(" - ");
-  return name + _Cleaned(system) + u'.' + extension;
+  return name + _Cleaned(ShortFormatName(formatName)) + u'.' + extension;
 }
 
 bool FitsIntoPath(const QString& path) {

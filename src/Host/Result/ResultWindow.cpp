@@ -11,13 +11,13 @@
 #include <QLocale>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QShortcut>
 #include <QStringList>
 #include <QTabWidget>
 #include <QTableView>
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include "Host/App/CloseKeys.h"
 #include "Host/App/HostTexts.h"
 #include "Host/ClassView/RomanText.h"
 #include "Host/Result/CsvTableModel.h"
@@ -105,9 +105,7 @@ void ResultWindow::AddButtons(const QString& path) {
     QDesktopServices::openUrl(QUrl::fromLocalFile(folder));
   });
   connect(m_close, &QPushButton::clicked, this, &QWidget::close);
-  for (const QKeySequence& keys : {QKeySequence(QKeySequence::Close), QKeySequence(Qt::Key_Escape)}) {
-    connect(new QShortcut(keys, this), &QShortcut::activated, this, &QWidget::close);
-  }
+  CloseByKeys(this);
 }
 
 QString ResultWindow::Notes() const {

@@ -66,13 +66,20 @@ void MainActions::AddExportMenu() {
   m_exportMenu->setObjectName(QStringLiteral("exportMenu"));
   m_noFormats = m_exportMenu->addAction(QString());
   m_noFormats->setEnabled(false);
+  m_formatsEnd = m_exportMenu->addSeparator();
+  m_check = m_exportMenu->addAction(QString(), m_window, [this] { m_handlers.check(); });
+  m_check->setObjectName(QStringLiteral("check"));
+  m_check->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_K));
+  m_check->setIcon(m_window->style()->standardIcon(QStyle::SP_DialogApplyButton));
 }
 
 void MainActions::SetFormats(const std::vector<ExportFormat>& formats) {
   m_noFormats->setVisible(formats.empty());
   for (const ExportFormat& format : formats) {
-    m_exports.append(m_exportMenu->addAction(_Escaped(format.name), m_window,
-                                             [this, format] { m_handlers.exportAs(format); }));
+    auto* const action = new QAction(_Escaped(format.name), m_window);
+    QObject::connect(action, &QAction::triggered, m_window, [this, format] { m_handlers.exportAs(format); });
+    m_exportMenu->insertAction(m_formatsEnd, action);
+    m_exports.append(action);
   }
   SetExportEnabled(false);
 }
@@ -110,9 +117,12 @@ void MainActions::AddToolBar() {
   m_exportButton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   m_exportButton->setIcon(m_window->style()->standardIcon(QStyle::SP_DialogSaveButton));
   m_toolBar->addWidget(m_exportButton);
+  m_toolBar->addAction(m_check);
   // Reachable by keyboard, as the menus are.
   m_exportButton->setFocusPolicy(Qt::TabFocus);
-  m_toolBar->widgetForAction(m_open)->setFocusPolicy(Qt::TabFocus);
+  for (QAction* const action : {m_open, m_check}) {
+    m_toolBar->widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
+  }
 }
 
 void MainActions::SetOpenEnabled(bool enabled) {
@@ -122,6 +132,10 @@ void MainActions::SetOpenEnabled(bool enabled) {
 void MainActions::SetExportEnabled(bool enabled) {
   for (QAction* const action : m_exports) action->setEnabled(enabled);
   m_exportButton->setEnabled(enabled);
+}
+
+void MainActions::SetCheckEnabled(bool enabled) {
+  m_check->setEnabled(enabled);
 }
 
 void MainActions::Retranslate() {
@@ -140,11 +154,14 @@ void MainActions::Retranslate() {
   m_english->setText(Text(TextID::kEnglish));
   m_spanish->setText(Text(TextID::kSpanish));
   m_noFormats->setText(Text(TextID::kNoFormats));
+  m_check->setText(Text(TextID::kCheck));
   m_exportButton->setText(Text(TextID::kExport));
   m_exportButton->setAccessibleName(Text(TextID::kExport));
   m_toolBar->setWindowTitle(Text(TextID::kToolBar));
   m_toolBar->setAccessibleName(Text(TextID::kToolBar));
-  m_toolBar->widgetForAction(m_open)->setAccessibleName(Text(TextID::kOpen).remove(u'&'));
+  for (QAction* const action : {m_open, m_check}) {
+    m_toolBar->widgetForAction(action)->setAccessibleName(action->text().remove(u'&'));
+  }
   (CurrentLanguage() == HostLanguage::kSpanish ? m_spanish : m_english)->setChecked(true);
 }
 

@@ -26,6 +26,7 @@ struct ActionHandlers {
   std::function<void()> about;
   std::function<void(HostLanguage language)> setLanguage;
   std::function<void(const ExportFormat& format)> exportAs;
+  std::function<void()> check;
 };
 
 // Everything is owned by the window.
@@ -35,11 +36,12 @@ class MainActions {
   MainActions(const MainActions&) = delete;
   MainActions& operator=(const MainActions&) = delete;
 
-  // Fills the export menu.
+  // Fills the export menu, in front of the check.
   void SetFormats(const std::vector<ExportFormat>& formats);
 
   void SetOpenEnabled(bool enabled);
   void SetExportEnabled(bool enabled);
+  void SetCheckEnabled(bool enabled);
 
   // Told of a change of the language.
   void Retranslate();
@@ -65,6 +67,8 @@ class MainActions {
   QAction* m_english = nullptr;
   QAction* m_spanish = nullptr;
   QAction* m_noFormats = nullptr;
+  QAction* m_formatsEnd = nullptr;
+  QAction* m_check = nullptr;
   QList<QAction*> m_exports;
   QToolBar* m_toolBar = nullptr;
   QToolButton* m_exportButton = nullptr;

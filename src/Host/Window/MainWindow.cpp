@@ -13,6 +13,7 @@
 #include <QStatusBar>
 #include <QTableView>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <utility>
 
 #include "Host/App/FileDialogs.h"
@@ -21,6 +22,7 @@
 #include "Host/App/RecentFiles.h"
 #include "Host/ClassView/AssignmentPanel.h"
 #include "Host/ClassView/ReadFaultText.h"
+#include "Host/Findings/CheckWindow.h"
 
 namespace host {
 
@@ -44,7 +46,7 @@ MainWindow::MainWindow()
       m_actions(this, {[this] { AskForClassFile(); }, [this](const QString& path) { OpenRecentFile(path); },
                        [this] { close(); }, [this] { ShowAbout(); },
                        [this](HostLanguage language) { SetLanguage(language); },
-                       [this](const ExportFormat& format) { ExportAs(format); }}),
+                       [this](const ExportFormat& format) { ExportAs(format); }, [this] { ShowCheck(); }}),
       m_pages(new QStackedWidget(this)),
       m_summary(new QLabel(this)),
       m_progress(new QProgressBar(this)) {
@@ -166,6 +168,7 @@ void MainWindow::ShowClass(std::shared_ptr<const OpenClass> openClass) {
   m_model.SetClass(m_class);
   FitColumns(m_model.columnCount());
   m_panel->SetClass(m_class);
+  if (m_check != nullptr) m_check->SetClass(m_class);
   m_pages->setCurrentWidget(m_splitter);
   m_table->setFocus();
   Retranslate();
@@ -181,6 +184,27 @@ void MainWindow::FitColumns(int count) {
 
 void MainWindow::SelectColumn(int column) {
   m_panel->Select(column - ClassTableModel::kFirstAssignmentColumn);
+}
+
+// A student without an assignment by name; an assignment without a student in the row that was selected.
+void MainWindow::SelectPlace(const FindingPlace& place) {
+  const bool isStudent = place.student != FindingPlace::kNone;
+  const int row = isStudent ? static_cast<int>(place.student) : std::max(m_table->currentIndex().row(), 0);
+  const bool isAssignment = place.assignment != FindingPlace::kNone;
+  const int column = isAssignment
+                         ? ClassTableModel::kFirstAssignmentColumn + static_cast<int>(place.assignment)
+                         : ClassTableModel::kNameColumn;
+  m_table->setCurrentIndex(m_model.index(row, column));
+}
+
+void MainWindow::ShowCheck() {
+  if (m_class == nullptr) return;
+  if (m_check == nullptr) {
+    m_check = new CheckWindow(this, m_class, [this](const FindingPlace& place) { SelectPlace(place); });
+  }
+  m_check->show();
+  m_check->raise();
+  m_check->activateWindow();
 }
 
 void MainWindow::ExportAs(const ExportFormat& format) {
@@ -202,6 +226,7 @@ void MainWindow::SetLanguage(HostLanguage language) {
   FitColumns(ClassTableModel::kFirstAssignmentColumn);
   m_panel->Retranslate();
   m_export.Retranslate();
+  if (m_check != nullptr) m_check->Retranslate();
   statusBar()->showMessage(m_export.IsRunning() ? Text(TextID::kExportUnderWay) : QString());
 }
 
@@ -220,6 +245,7 @@ void MainWindow::UpdateActions() {
   m_actions.SetOpenEnabled(idle);
   if (m_emptyButton != nullptr) m_emptyButton->setEnabled(idle);
   const bool selected = m_class != nullptr && m_panel != nullptr && m_panel->Selected() >= 0;
+  m_actions.SetCheckEnabled(m_class != nullptr);
   m_actions.SetExportEnabled(selected && !m_export.IsRunning() && !m_export.Formats().empty());
 }
 

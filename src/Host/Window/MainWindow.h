@@ -3,6 +3,7 @@
 #define GRADIX_MAINWINDOW_H
 
 #include <QMainWindow>
+#include <QPointer>
 #include <QTimer>
 #include <memory>
 
@@ -10,6 +11,7 @@
 #include "Host/ClassView/ClassTableModel.h"
 #include "Host/Export/ExportController.h"
 #include "Host/Window/MainActions.h"
+#include "Systems/Finding.h"
 
 class QLabel;
 class QProgressBar;
@@ -21,6 +23,7 @@ class QTableView;
 namespace host {
 
 class AssignmentPanel;
+class CheckWindow;
 
 class MainWindow : public QMainWindow {
  public:
@@ -48,7 +51,9 @@ class MainWindow : public QMainWindow {
   void ShowClass(std::shared_ptr<const OpenClass> openClass);
   void FitColumns(int count);  // the first ones, to their contents
   void SelectColumn(int column);
+  void SelectPlace(const FindingPlace& place);
   void ExportAs(const ExportFormat& format);
+  void ShowCheck();
   void ExportStateChanged(const QString& status);
   void SetLanguage(HostLanguage language);
   void ShowAbout();
@@ -66,6 +71,7 @@ class MainWindow : public QMainWindow {
   QSplitter* m_splitter = nullptr;
   QTableView* m_table = nullptr;
   AssignmentPanel* m_panel = nullptr;
+  QPointer<CheckWindow> m_check;
   QLabel* m_summary;
   QProgressBar* m_progress;
   QTimer m_progressDelay;

@@ -1,0 +1,87 @@
+#include "Host/Findings/FindingsModel.h"
+
+#include <QApplication>
+#include <QStringList>
+#include <QStyle>
+
+#include "Host/App/HostTexts.h"
+#include "Host/ClassView/RomanText.h"
+
+namespace host {
+
+namespace {
+
+constexpr int kStudentRole = Qt::UserRole;
+constexpr int kAssignmentRole = Qt::UserRole + 1;
+
+QIcon _IconOf(Consequence consequence) {
+  QStyle::StandardPixmap icon = QStyle::SP_MessageBoxWarning;
+  if (consequence == Consequence::kRefused) icon = QStyle::SP_MessageBoxCritical;
+  if (consequence == Consequence::kNote) icon = QStyle::SP_MessageBoxInformation;
+  return QApplication::style()->standardIcon(icon);
+}
+
+// Lines for the eye; for a screen reader, sentences.
+QStandardItem* _Item(const QStringList& lines) {
+  auto* const item = new QStandardItem(lines.join(u'\n'));
+  item->setData(lines.join(QLatin1String(". ")), Qt::AccessibleTextRole);
+  item->setEditable(false);
+  return item;
+}
+
+void _SetPlace(QStandardItem* item, const FindingPlace& place) {
+  if (place.student != FindingPlace::kNone) {
+    item->setData(QVariant::fromValue(qulonglong{place.student}), kStudentRole);
+  }
+  if (place.assignment != FindingPlace::kNone) {
+    item->setData(QVariant::fromValue(qulonglong{place.assignment}), kAssignmentRole);
+  }
+}
+
+void _AddPlaces(const Finding& finding, const ExportSubject& subject, QStandardItem* item) {
+  const auto count = static_cast<qsizetype>(finding.places.size());
+  for (const FindingPlace& place : finding.places) {
+    if (item->rowCount() == FindingsModel::kMaxPlaces) break;
+    QStandardItem* const row = _Item({LineFromUtf8(DescribePlace(place, subject))});
+    _SetPlace(row, place);
+    item->appendRow(row);
+  }
+  if (count > FindingsModel::kMaxPlaces) {
+    item->appendRow(_Item({Text(TextID::kAndMore).arg(count - FindingsModel::kMaxPlaces)}));
+  }
+}
+
+QStandardItem* _FindingItem(const Finding& finding, const ExportSubject& subject) {
+  const TextLanguage language = FindingLanguage();
+  const FindingText text = DescribeFinding(finding, subject, language);
+  QStringList lines{QString::fromStdString(DescribeConsequence(finding.consequence, language)),
+                    LineFromUtf8(text.what)};
+  if (!text.advice.empty()) lines.append(LineFromUtf8(text.advice));
+  QStandardItem* const item = _Item(lines);
+  item->setIcon(_IconOf(finding.consequence));
+  if (!finding.places.empty()) _SetPlace(item, finding.places.front());
+  _AddPlaces(finding, subject, item);
+  return item;
+}
+
+size_t _Position(const QModelIndex& index, int role) {
+  const QVariant position = index.data(role);
+  return position.isValid() ? static_cast<size_t>(position.toULongLong()) : FindingPlace::kNone;
+}
+
+}  // namespace
+
+TextLanguage FindingLanguage() {
+  return CurrentLanguage() == HostLanguage::kSpanish ? TextLanguage::kSpanish : TextLanguage::kEnglish;
+}
+
+void FindingsModel::Show(const Findings& findings, const ExportSubject& subject) {
+  clear();
+  for (const Finding& finding : findings) appendRow(_FindingItem(finding, subject));
+}
+
+FindingPlace FindingsModel::PlaceOf(const QModelIndex& index) {
+  return {.student = _Position(index, kStudentRole), .assignment = _Position(index, kAssignmentRole)};
+}
+
+}  // namespace host

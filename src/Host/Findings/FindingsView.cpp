@@ -1,0 +1,93 @@
+#include "Host/Findings/FindingsView.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QStackedWidget>
+#include <QStyle>
+#include <QTreeView>
+#include <algorithm>
+#include <utility>
+
+#include "Host/App/HostTexts.h"
+#include "Host/Findings/FindingDelegate.h"
+#include "Systems/LearningSystem.h"
+
+namespace host {
+
+FindingsView::FindingsView(QWidget* parent, std::function<void(const FindingPlace&)> chosen)
+    : QWidget(parent),
+      m_chosen(std::move(chosen)),
+      m_model(this),
+      m_summary(new QLabel(this)),
+      m_pages(new QStackedWidget(this)),
+      m_tree(new QTreeView(m_pages)) {
+  m_summary->setObjectName(QStringLiteral("findingsSummary"));
+  m_summary->setTextFormat(Qt::PlainText);
+  m_summary->setWordWrap(true);
+  AddTree();
+  m_pages->addWidget(MakeNothingPage());
+  auto* const layout = new QVBoxLayout(this);
+  layout->setContentsMargins({});
+  layout->addWidget(m_summary);
+  layout->addWidget(m_pages, 1);
+}
+
+void FindingsView::AddTree() {
+  m_tree->setObjectName(QStringLiteral("findings"));
+  m_tree->setModel(&m_model);
+  m_tree->setItemDelegate(new FindingDelegate(m_tree));
+  m_tree->setHeaderHidden(true);
+  m_tree->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  m_tree->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+  m_tree->setTabKeyNavigation(false);
+  connect(m_tree, &QTreeView::clicked, this, &FindingsView::Choose);
+  connect(m_tree, &QTreeView::activated, this, &FindingsView::Choose);
+  m_pages->addWidget(m_tree);
+}
+
+QWidget* FindingsView::MakeNothingPage() {
+  auto* const page = new QWidget(m_pages);
+  auto* const icon = new QLabel(page);
+  const int side = fontMetrics().height() * 3;
+  icon->setPixmap(style()->standardIcon(QStyle::SP_DialogApplyButton).pixmap(side, side));
+  icon->setAlignment(Qt::AlignCenter);
+  m_nothing = new QLabel(page);
+  m_nothing->setObjectName(QStringLiteral("nothingFound"));
+  m_nothing->setTextFormat(Qt::PlainText);
+  m_nothing->setAlignment(Qt::AlignCenter);
+  m_nothing->setWordWrap(true);
+  auto* const layout = new QVBoxLayout(page);
+  layout->addStretch();
+  layout->addWidget(icon);
+  layout->addWidget(m_nothing);
+  layout->addStretch();
+  return page;
+}
+
+void FindingsView::Show(const Findings& findings, const ExportSubject& subject) {
+  m_model.Show(findings, subject);
+  for (size_t i = 0; i < findings.size(); ++i) {
+    m_tree->setExpanded(m_model.index(static_cast<int>(i), 0), IsTrouble(findings[i].consequence));
+  }
+  m_tree->setAccessibleName(Text(TextID::kFindings));
+  m_nothing->setText(Text(TextID::kNothingFound).arg(QString::fromUtf8(SystemOf(*subject.format).name)));
+  m_pages->setCurrentIndex(findings.empty() ? 1 : 0);
+  ShowSummary(findings);
+}
+
+void FindingsView::ShowSummary(const Findings& findings) {
+  const auto problems =
+      std::ranges::count_if(findings, [](const Finding& finding) { return IsTrouble(finding.consequence); });
+  const auto notes = static_cast<qsizetype>(findings.size()) - problems;
+  QString text = problems == 0 ? Text(TextID::kNoProblems) : Text(TextID::kProblems).arg(problems);
+  if (notes > 0) text += QLatin1String("   ") + Text(TextID::kNotes).arg(notes);
+  m_summary->setText(text);
+}
+
+void FindingsView::Choose(const QModelIndex& index) {
+  const FindingPlace place = FindingsModel::PlaceOf(index);
+  const bool isInClass = place.student != FindingPlace::kNone || place.assignment != FindingPlace::kNone;
+  if (isInClass) m_chosen(place);
+}
+
+}  // namespace host

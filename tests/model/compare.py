@@ -24,12 +24,9 @@ UNREADABLE, RUNS_PER_FILE = 3, 5
 Run = tuple[list[str], int, bytes]      # arguments, expected exit status, expected bytes
 
 
-with_current = False
-
-
 def choose_dialect(r: random.Random, key: str, options: Options) -> list[str]:
     current = gxcurrent.CURRENT.get(key)
-    if not with_current or not current or r.random() < 0.5:
+    if not current or r.random() < 0.5:
         return []
     semicolons = current.semicolons and r.random() < 0.5
     options.delimiter = ";" if semicolons else ","
@@ -135,10 +132,7 @@ def main() -> int:
     parser.add_argument("--count", type=int, default=100, metavar="N", help="class files to try")
     parser.add_argument("--seed", metavar="S", help="repeats an earlier run")
     parser.add_argument("--keep", type=Path, metavar="DIR", help="where the files of a mismatch go")
-    parser.add_argument("--current", action="store_true", help="try current files, too")
     asked = parser.parse_args()
-    global with_current
-    with_current = asked.current
     check_formats(asked.gxexport)
     seed = asked.seed or str(random.SystemRandom().randrange(10**9))
     print(f"seed {seed}", flush=True)

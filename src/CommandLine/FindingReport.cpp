@@ -50,7 +50,7 @@ std::string FindingGroups(const Findings& findings, const ExportSubject& subject
     }
     last = &finding;
     const std::vector<std::string> lines = Split(FindingBlock(finding, subject), '\n');
-    text.append("  - ").append(_Wrapped(lines.front(), 2).erase(0, 2)).append("\n");
+    text.append("  - ").append(_Wrapped(lines.front(), 4).erase(0, 4)).append("\n");
     for (size_t i = 1; i < lines.size(); ++i) text.append("  ").append(lines[i]).append("\n");
   }
   return text;

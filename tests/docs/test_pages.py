@@ -1,4 +1,5 @@
 """The pages of the documentation: links that lead somewhere, and samples that are what the program writes."""
+import itertools
 import json
 import os
 import re
@@ -36,6 +37,13 @@ class DocumentationTest(unittest.TestCase):
         else:
             self.assertEqual(sample, output)
 
+    def assert_has(self, sample, output):
+        """The sample is the output, with an ellipsis where lines are left out."""
+        for part in sample.split("…\n"):
+            self.assertIn(part, output)
+            output = output[output.index(part) + len(part):]
+        self.assertTrue(sample.endswith("…\n") or not output)
+
     def test_links(self):
         for page in PAGES:
             text = BLOCK.sub("", page.read_text())
@@ -62,11 +70,17 @@ class DocumentationTest(unittest.TestCase):
             with self.subTest(options):
                 self.assert_begins(sample, export(*options.split(), "samples/secondary-school.xml"))
 
-    def test_sample_of_the_readme(self):
+    def test_samples_of_the_readme(self):
         blocks = BLOCK.findall((ROOT / "README.md").read_text())
-        position, command = next((index, text) for index, (_, text) in enumerate(blocks)
-                                 if text.startswith("build/release/bin/gxexport export"))
-        self.assert_begins(blocks[position + 1][1], export(*command.split()[2:]))
+        commands = [(text.split()[1:], sample) for (_, text), (_, sample) in itertools.pairwise(blocks)
+                    if text.startswith("build/release/bin/gxexport ")]
+        self.assertEqual([arguments[0] for arguments, _ in commands], ["check", "export", "fill"])
+        for arguments, sample in commands:
+            with self.subTest(arguments[0]), tempfile.TemporaryDirectory() as folder:
+                arguments = [Path(folder) / text if text == "upload.csv" else text for text in arguments]
+                done = subprocess.run([os.environ["GXEXPORT"], *arguments], cwd=ROOT, stdout=subprocess.PIPE,
+                                      stderr=subprocess.STDOUT, text=True, timeout=60)
+                self.assert_has(sample, done.stdout)
 
     def test_sample_of_the_class_file(self):
         (_, class_file), (_, output) = BLOCK.findall((ROOT / "docs/class-file.md").read_text())[:2]

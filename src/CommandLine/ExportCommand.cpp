@@ -120,7 +120,8 @@ ExitStatus _WriteAndTell(const ExportOptions& options, ClassExport* exporting) {
 
 ExitStatus RunExport(const ExportOptions& options) {
   _RefuseToOverwrite(options);
-  if (options.json && IsStandardOutput(options.outputFile)) _Fail("--json needs --output-dir, or the name of a file with -o");
+  if (options.json && IsStandardOutput(options.outputFile))
+    _Fail("--json needs --output-dir, or the name of a file with -o");
   ClassExport exporting(ReadClassInput(options.classFiles.front()), options.choices,
                         {options.force, options.strict});
   if (exporting.Obstacle() == ExportObstacle::kChoices) {

@@ -46,6 +46,12 @@ class Completion(unittest.TestCase):
             "gxexport export --fields pass": ["password"],
             "gxexport export --fields alias,custom-1,gr": ["alias,custom-1,grade-level"],
             "gxexport export --columns b": ["both"],
+            "gxexport check --dialect c": ["classic", "current"],
+            "gxexport export --delimiter s": ["semicolon"],
+            "gxexport help ins": ["inspect"],
+            f"gxexport check {SAMPLE.name} -a 31": ["310", "311", "312"],
+            f"gxexport export {SAMPLE.name} -a 301,302,30": [f"301,302,30{i}" for i in range(1, 10)],
+            f"gxexport fill {SAMPLE.name} --map 312": ["312="],
             "gxexport export --no": ["--no-quotes", "--no-asterisks"],
             "gxexport export -f canvas second": [SAMPLE.name],
         }

@@ -75,10 +75,10 @@ TEST_F(CheckTest, SaysWhatWillHappenInBothLanguages) {
     HostLanguage language;
     const char *refused, *advice, *summary, *nothing;
   } rows[] = {
-      {HostLanguage::kEnglish, "The file will be refused\nCanvas refuses", "Make the current file instead",
-       "Problems: 1", "will arrive in Canvas"},
-      {HostLanguage::kSpanish, "El archivo será rechazado\nCanvas rechaza", "Cree el archivo actual",
-       "Problemas: 1", "llegarán a Canvas"},
+      {HostLanguage::kEnglish, "The file will be refused\nCanvas refuses",
+       "What to do: Make the current file instead", "Problems: 1", "will arrive in Canvas"},
+      {HostLanguage::kSpanish, "El archivo será rechazado\nCanvas rechaza",
+       "Qué hacer: Cree el archivo actual", "Problemas: 1", "llegarán a Canvas"},
   };
   Show(_WithAccent());
   for (const auto& row : rows) {
@@ -123,6 +123,14 @@ TEST_F(CheckTest, FollowsEveryChoice) {
   all->click();
   EXPECT_EQ(first->checkState(), Qt::Unchecked);
   EXPECT_NE(TextOf(Row(0)).find("No assignment is selected"), std::string::npos) << TextOf(Row(0));
+
+  // The Export menu's dialog writes the classic file, and cannot with a title of this length.
+  const auto openClass = _Class({{"Ana", "ana"}});
+  openClass->record.assignments[1].name.assign(30, 'x');
+  m_window->SetClass(openClass);
+  EXPECT_EQ(m_tree->model()->rowCount(), 0) << TextOf(Row(0));
+  Choose("dialect", "Classic file");
+  EXPECT_EQ(TextOf(Row(0)).rfind("The file will be refused", 0), 0U) << TextOf(Row(0));
 }
 
 TEST_F(CheckTest, ListsTheFirstTwentyAndLeadsToThem) {

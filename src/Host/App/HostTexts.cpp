@@ -91,6 +91,7 @@ constexpr TextRow kTexts[] = {
     {TextID::kAllAssignments, "&All assignments", "&Todas las tareas"},
     {TextID::kAssignments, "Assignments", "Tareas"},
     {TextID::kFindings, "What will happen", "Qué ocurrirá"},
+    {TextID::kWhatToDo, "What to do: %1", "Qué hacer: %1"},
     {TextID::kProblems, "Problems: %1", "Problemas: %1"},
     {TextID::kNoProblems, "No problems were found.", "No se encontraron problemas."},
     {TextID::kNotes, "Good to know: %1", "Conviene saber: %1"},

@@ -78,6 +78,7 @@ enum class TextID : uint8_t {
   kAllAssignments,
   kAssignments,
   kFindings,
+  kWhatToDo,
   kProblems,
   kNoProblems,
   kNotes,

@@ -21,10 +21,11 @@ QIcon _IconOf(Consequence consequence) {
   return QApplication::style()->standardIcon(icon);
 }
 
-// Lines for the eye; for a screen reader, sentences.
-QStandardItem* _Item(const QStringList& lines) {
-  auto* const item = new QStandardItem(lines.join(u'\n'));
-  item->setData(lines.join(QLatin1String(". ")), Qt::AccessibleTextRole);
+// A title and what follows it: for the eye in lines, for a screen reader in one.
+QStandardItem* _Item(const QString& title, const QStringList& lines = {}) {
+  auto* const item = new QStandardItem((QStringList(title) + lines).join(u'\n'));
+  const QString spoken = lines.isEmpty() ? title : title + QLatin1String(": ") + lines.join(u' ');
+  item->setData(spoken, Qt::AccessibleTextRole);
   item->setEditable(false);
   return item;
 }
@@ -42,22 +43,22 @@ void _AddPlaces(const Finding& finding, const ExportSubject& subject, QStandardI
   const auto count = static_cast<qsizetype>(finding.places.size());
   for (const FindingPlace& place : finding.places) {
     if (item->rowCount() == FindingsModel::kMaxPlaces) break;
-    QStandardItem* const row = _Item({LineFromUtf8(DescribePlace(place, subject))});
+    QStandardItem* const row = _Item(LineFromUtf8(DescribePlace(place, subject)));
     _SetPlace(row, place);
     item->appendRow(row);
   }
   if (count > FindingsModel::kMaxPlaces) {
-    item->appendRow(_Item({Text(TextID::kAndMore).arg(count - FindingsModel::kMaxPlaces)}));
+    item->appendRow(_Item(Text(TextID::kAndMore).arg(count - FindingsModel::kMaxPlaces)));
   }
 }
 
 QStandardItem* _FindingItem(const Finding& finding, const ExportSubject& subject) {
   const TextLanguage language = FindingLanguage();
   const FindingText text = DescribeFinding(finding, subject, language);
-  QStringList lines{QString::fromStdString(DescribeConsequence(finding.consequence, language)),
-                    LineFromUtf8(text.what)};
-  if (!text.advice.empty()) lines.append(LineFromUtf8(text.advice));
-  QStandardItem* const item = _Item(lines);
+  QStringList lines(LineFromUtf8(text.what));
+  if (!text.advice.empty()) lines.append(Text(TextID::kWhatToDo).arg(LineFromUtf8(text.advice)));
+  QStandardItem* const item =
+      _Item(QString::fromStdString(DescribeConsequence(finding.consequence, language)), lines);
   item->setIcon(_IconOf(finding.consequence));
   if (!finding.places.empty()) _SetPlace(item, finding.places.front());
   _AddPlaces(finding, subject, item);

@@ -4,8 +4,8 @@
 #include "CommandLine/ChoiceMessages.h"
 #include "CommandLine/ClassInput.h"
 #include "CommandLine/Commands.h"
-#include "CommandLine/FindingReport.h"
-#include "CommandLine/FindingsJson.h"
+#include "CommandLine/Findings/FindingReport.h"
+#include "CommandLine/Findings/FindingsJson.h"
 #include "CommandLine/GradebookInput.h"
 #include "CommandLine/OutputFile.h"
 #include "CommandLine/TerminalText.h"
@@ -94,7 +94,7 @@ CheckedClass _CheckRead(const ClassExport& exporting, const CheckOptions& option
   Findings findings;
   if (exporting.Obstacle() == ExportObstacle::kChoices) {
     checked.status = CheckStatus::kRefused;
-    checked.reason = ChoiceFaultText(exporting.Applied(), exporting.Texts().Record());
+    checked.reason = ChoiceFaultText(exporting.Applied(), exporting.Texts());
   } else {
     findings = _Find(exporting, options);
     if (HasTrouble(findings)) checked.status = CheckStatus::kTrouble;

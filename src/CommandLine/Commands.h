@@ -2,8 +2,8 @@
 #ifndef GRADIX_COMMANDS_H
 #define GRADIX_COMMANDS_H
 
+#include "CommandLine/Arguments/CommandOptions.h"
 #include "CommandLine/CommandError.h"
-#include "CommandLine/CommandOptions.h"
 
 ExitStatus RunFormats(const FormatsOptions& options);
 ExitStatus RunInspect(const InspectOptions& options);

@@ -6,9 +6,9 @@
 #include "CommandLine/ChoiceMessages.h"
 #include "CommandLine/ClassInput.h"
 #include "CommandLine/Commands.h"
-#include "CommandLine/FindingReport.h"
-#include "CommandLine/FindingsJson.h"
-#include "CommandLine/IdentifierMessages.h"
+#include "CommandLine/Findings/FindingReport.h"
+#include "CommandLine/Findings/FindingsJson.h"
+#include "CommandLine/Findings/IdentifierMessages.h"
 #include "CommandLine/OutputFile.h"
 #include "CommandLine/TerminalText.h"
 #include "Export/ClassExport.h"
@@ -125,7 +125,7 @@ ExitStatus RunExport(const ExportOptions& options) {
   ClassExport exporting(ReadClassInput(options.classFiles.front()), options.choices,
                         {options.force, options.strict});
   if (exporting.Obstacle() == ExportObstacle::kChoices) {
-    _Fail(ChoiceFaultText(exporting.Applied(), exporting.Texts().Record()));
+    _Fail(ChoiceFaultText(exporting.Applied(), exporting.Texts()));
   }
   if (options.json) return _WriteAndTell(options, &exporting);
   _Write(options, &exporting);

@@ -7,8 +7,8 @@
 #include <new>
 #include <variant>
 
+#include "CommandLine/Arguments/CommandOptions.h"
 #include "CommandLine/CommandError.h"
-#include "CommandLine/CommandOptions.h"
 #include "CommandLine/Commands.h"
 #include "CommandLine/OutputFile.h"
 #include "CommandLine/TerminalText.h"

@@ -86,7 +86,7 @@ constexpr TextRow kTexts[] = {
     {TextID::kCurrentFile, "Current file", "Archivo actual"},
     {TextID::kClassicHint, "The file that the Export menu writes.", "El archivo que escribe el menú Exportar."},
     {TextID::kCurrentHint,
-     "The file for the %1 of today. The program gxexport writes it, with the option --dialect current.",
+     "The file for today's %1. The program gxexport writes it, with the option --dialect current.",
      "El archivo para %1 en su versión de hoy. Lo escribe el programa gxexport, con la opción --dialect current."},
     {TextID::kAllAssignments, "&All assignments", "&Todas las tareas"},
     {TextID::kAssignments, "Assignments", "Tareas"},

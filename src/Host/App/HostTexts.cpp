@@ -95,8 +95,8 @@ constexpr TextRow kTexts[] = {
     {TextID::kProblems, "Problems: %1", "Problemas: %1"},
     {TextID::kNoProblems, "No problems were found.", "No se encontraron problemas."},
     {TextID::kNotes, "Good to know: %1", "Conviene saber: %1"},
-    {TextID::kNothingFound, "As far as this class tells, all its results will arrive in %1.",
-     "Por lo que indica esta clase, todos sus resultados llegarán a %1."},
+    {TextID::kNothingFound, "As far as this class tells, its results will arrive in %1.",
+     "Por lo que indica esta clase, sus resultados llegarán a %1."},
     {TextID::kAndMore, "and %1 more", "y %1 más"},
 
     {TextID::kCannotOpen, "The class file “%1” could not be opened.", "No se pudo abrir el archivo de clase «%1»."},

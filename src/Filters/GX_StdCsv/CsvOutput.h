@@ -6,7 +6,8 @@
 #include <cstdio>
 #include <string_view>
 
-// The errno value of a stream operation that failed, before which errno was 0; streams do not always leave one.
+// The errno value of a stream operation that failed, before which errno was 0; streams do not always leave
+// one.
 int StreamError();
 
 // Writes one character. A file is written by one thread, so there is nothing to lock.

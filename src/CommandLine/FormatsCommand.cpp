@@ -4,6 +4,7 @@
 #include "CommandLine/OutputFile.h"
 #include "CommandLine/TerminalText.h"
 #include "Common/QZData/StudentFields.h"
+#include "Systems/LearningSystem.h"
 
 namespace {
 
@@ -26,7 +27,8 @@ std::string _AsJson() {
                        {"name", row.name},
                        {"idName", _OrNull(row.idName)},
                        {"defaultField", _OrNull(_DefaultFieldKey(row))},
-                       {"hasUnquotedVariant", row.hasUnquotedVariant}});
+                       {"hasUnquotedVariant", row.hasUnquotedVariant},
+                       {"hasCurrentFile", FindCurrentFile(row) != nullptr}});
   }
   return formats.dump(2) + "\n";
 }

@@ -29,6 +29,11 @@ bool _TakesSemicolons(const FormatRow& row) {
   return current != nullptr && current->takesSemicolons;
 }
 
+bool _HasDecimalCommas(const FormatRow& row) {
+  const CurrentFile* current = FindCurrentFile(row);
+  return current != nullptr && current->hasDecimalCommas;
+}
+
 bool _CanDoWithoutQuotes(const FormatRow& row) {
   return row.hasUnquotedVariant;
 }
@@ -160,9 +165,9 @@ void DefineDialect(CLI::App* command, std::optional<std::string>* dialect) {
 void DefineDelimiter(CLI::App* command, std::optional<std::string>* delimiter) {
   command
       ->add_option("--delimiter", *delimiter,
-                   "What separates the cells of the current file: comma or semicolon, with decimal commas. "
-                   "Only for " +
-                       _FormatsThat(_TakesSemicolons) + ".")
+                   "What separates the cells of the current file: comma or semicolon. Only for " +
+                       _FormatsThat(_TakesSemicolons) + "; " + _FormatsThat(_HasDecimalCommas) +
+                       " have decimal commas with semicolons.")
       ->type_name("WHICH");
 }
 

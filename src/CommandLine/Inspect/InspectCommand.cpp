@@ -26,6 +26,7 @@ std::vector<ScoreStatistics> _ComputeScores(const qz::ClassRecord& record) {
       scores[score.assignment].emplace_back(score.points);
   }
   std::vector<ScoreStatistics> statistics;
+  statistics.reserve(scores.size());
   for (const Scores& ofAssignment : scores) statistics.push_back(ComputeStatistics(ofAssignment));
   return statistics;
 }

@@ -69,6 +69,7 @@ std::string _NearDuplicates(const ClassInspection& inspection) {
   for (const auto& [field, quality] : inspection.fields) {
     for (const std::vector<size_t>& group : quality.nearDuplicates) {
       std::vector<std::string> names;
+      names.reserve(group.size());
       for (const size_t student : group) {
         names.push_back('"' + PrintableUtf8(texts.Student(student, *field)) + "\" (" +
                         PrintableUtf8(texts.StudentName(student)) + ")");

@@ -5,11 +5,11 @@
 #ifndef GRADIX_ORIGINALTEXTS_H
 #define GRADIX_ORIGINALTEXTS_H
 
-#include <compare>
 #include <cstddef>
 #include <cstdint>
 #include <map>
 #include <string>
+#include <tuple>
 
 #include "Common/QZData/StudentFields.h"
 
@@ -50,7 +50,10 @@ class OriginalTexts {
     size_t record;    // the student or the assignment
     size_t part = 0;  // the question or the results
     size_t item = 0;  // the field or the response
-    auto operator<=>(const Place&) const = default;
+    bool operator<(const Place& other) const {
+      return std::tie(owner, record, part, item) <
+             std::tie(other.owner, other.record, other.part, other.item);
+    }
   };
 
   const std::string* Find(const Place& place) const;

@@ -1,10 +1,13 @@
 #!/usr/bin/env python3
-"""Measures whole runs of gxexport: many classes with one and two jobs, the check against the export, a district.
+"""Measures whole runs of gxexport: many classes with one and two jobs, the check and the filling of a downloaded
+gradebook against the export, a district.
 
-    measure_batch.py BIN [batch|check|district]...
+    measure_programs.py BIN [batch|check|fill|district]...
 
 BIN is the folder with gxexport and generate_class. Prints medians of runs in turn; docs/performance.md shows some.
 """
+import csv
+import io
 import random
 import statistics
 import subprocess
@@ -73,6 +76,30 @@ def measure_check(programs, folder):
     print(f"ratio {runs['check']['cpu'] / runs['export']['cpu']:.2f}\n")
 
 
+def write_download(programs, class_file, path):
+    """The gradebook that Canvas would have for the class, with a score here and there."""
+    current = subprocess.run([programs / "gxexport", "export", "-f", "canvas", "--dialect", "current", class_file],
+                             check=True, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True).stdout
+    headings, points, *students = csv.reader(io.StringIO(current))
+    with open(path, "w", newline="", encoding="utf-8") as file:
+        writer = csv.writer(file)
+        writer.writerow(headings[:5] + [f"{title} ({number})" for number, title in enumerate(headings[5:], 100)])
+        writer.writerow(points)
+        for number, row in enumerate(students, 1):
+            writer.writerow([row[0], number, *row[2:5], *("1.00" if number % 7 == 0 else "" for _ in row[5:])])
+
+
+def measure_fill(programs, folder):
+    class_file, download = folder / "large.xml", folder / "download.csv"
+    size = generate(programs, class_file, 20000, 4, 10)
+    write_download(programs, class_file, download)
+    print(f"20,000 students x 4, {size / 1e6:.0f} MB")
+    gxexport = programs / "gxexport"
+    runs = compare({"export": [gxexport, "export", "-f", "canvas", "-o", folder / "o.csv", class_file],
+                    "fill": [gxexport, "fill", "--gradebook", download, "-o", folder / "f.csv", class_file]})
+    print(f"ratio {runs['fill']['cpu'] / runs['export']['cpu']:.2f}\n")
+
+
 def measure_district(programs, folder):
     """Classes as they are at the end of a year: 12 to 35 students, 5 to 40 assignments of 5 to 25 questions."""
     (folder / "classes").mkdir()
@@ -83,7 +110,7 @@ def measure_district(programs, folder):
     compare({f"--jobs {jobs}": batch_command(programs, folder, jobs) for jobs in (1, 2)})
 
 
-MEASUREMENTS = {"batch": measure_batch, "check": measure_check, "district": measure_district}
+MEASUREMENTS = {"batch": measure_batch, "check": measure_check, "fill": measure_fill, "district": measure_district}
 
 
 def main():

@@ -1,4 +1,6 @@
 #include <algorithm>
+#include <map>
+#include <string_view>
 
 #include "Common/KeyIndex.h"
 #include "Systems/LearningSystem.h"
@@ -22,7 +24,12 @@ class GradebookFindings {
       : m_subject(subject),
         m_gradebook(gradebook),
         m_match(match),
-        m_rules(gradebook.system->upload != nullptr ? *gradebook.system->upload : kNoRules) {}
+        m_rules(gradebook.system->upload != nullptr ? *gradebook.system->upload : kNoRules) {
+    for (size_t column = 0; column < gradebook.columns.size(); ++column) {
+      if (gradebook.columns[column].role != ColumnRole::kItem) continue;
+      m_firstColumns.try_emplace(gradebook.columns[column].title, column);
+    }
+  }
 
   Findings Find() {
     if (m_subject.dialect != Dialect::kFilled) {
@@ -36,6 +43,7 @@ class GradebookFindings {
         m_findings.push_back({"gradebook-no-ids", Consequence::kNote});
       }
       FindSecondColumns();
+      FindSeveralColumns();
     }
     FindCapped();
     FindDifferentPoints();
@@ -55,9 +63,18 @@ class GradebookFindings {
 
   // The column that the system itself puts the assignment into.
   size_t ColumnOf(size_t assignment) const {
-    const bool becomesSecond = m_rules.secondColumn && m_match.titles[assignment] == TitleMatch::kFolded &&
-                               m_subject.dialect != Dialect::kFilled;
-    return becomesSecond ? kNone : m_match.columnOf[assignment];
+    if (!m_rules.secondColumn || m_subject.dialect == Dialect::kFilled) return m_match.columnOf[assignment];
+    switch (m_match.titles[assignment]) {
+      case TitleMatch::kFolded: return kNone;
+      case TitleMatch::kSeveralColumns: return FirstColumn(m_subject.titles[assignment]);
+      default: return m_match.columnOf[assignment];
+    }
+  }
+
+  // Of those with exactly the title, or kNone.
+  size_t FirstColumn(const std::string& title) const {
+    const auto found = m_firstColumns.find(title);
+    return found == m_firstColumns.end() ? kNone : found->second;
   }
 
   size_t RowOf(size_t student) const { return m_gradebook.members[m_match.memberOf[student]].row; }
@@ -165,6 +182,16 @@ class GradebookFindings {
     Add("gradebook-second-column", *m_rules.secondColumn, std::move(places));
   }
 
+  void FindSeveralColumns() {
+    if (!m_rules.secondColumn) return;
+    std::vector<FindingPlace> places;
+    for (size_t i = 0; i < m_subject.assignments.size(); ++i) {
+      if (m_match.titles[i] == TitleMatch::kSeveralColumns)
+        places.push_back(Place(FindingPlace::kNone, i, ""));
+    }
+    Add("gradebook-several-columns", Consequence::kNote, std::move(places));
+  }
+
   // Above the points there, where they are fewer than ours: those above ours are everybody's finding.
   void FindCapped() {
     if (!m_rules.capsScores) return;
@@ -200,6 +227,7 @@ class GradebookFindings {
   const Gradebook& m_gradebook;
   const GradebookMatch& m_match;
   const UploadRules& m_rules;
+  std::map<std::string_view, size_t> m_firstColumns;  // by title
   Findings m_findings;
 };
 

@@ -69,6 +69,12 @@ constexpr FindingSentences kSentences[] = {
                  "segunda columna junto a la suya|segundas columnas junto a las suyas>.",
                  "Escriba <el título|los títulos> en la clase como en {system}, o rellene el libro de calificaciones "
                  "descargado de allí."}},
+    {.code = "gradebook-several-columns",
+     .english = {"<One title stands|{count} titles stand> above several columns in {system}, which takes the first "
+                 "of them.",
+                 "Fill the results into the gradebook downloaded from {system}, and name the column there."},
+     .spanish = {"<Un título está|{count} títulos están> sobre varias columnas en {system}, que toma la primera.",
+                 "Rellene el libro de calificaciones descargado de {system} e indique allí la columna."}},
     {.code = "gradebook-score-above-points",
      .english = {"<One score is|{count} scores are> above the points possible in {system}, which cuts <it|them> down.",
                  "Raise the points possible in {system} first."},

@@ -159,6 +159,7 @@ constexpr DownloadLayout kDownload = {
 // Upload
 
 constexpr const char* kSuperseded[] = {"result-missing", "points-replaced"};
+constexpr const char* kOfNewColumns[] = {"points-zero"};
 
 constexpr UploadRules kUpload = {
     .blank = BlankScore::kErasesWhenChanging,
@@ -168,6 +169,7 @@ constexpr UploadRules kUpload = {
     .secondColumn = Consequence::kWrong,
     .otherPoints = Consequence::kChanged,
     .superseded = kSuperseded,
+    .ofNewColumns = kOfNewColumns,
 };
 
 constexpr SystemFormat kFormats[] = {{.key = "sakai", .current = &kCurrent}};

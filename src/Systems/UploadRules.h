@@ -35,6 +35,9 @@ struct UploadRules {
 
   // Codes of findings that say "possibly" as long as the gradebook is not known.
   std::span<const char* const> superseded = {};
+
+  // Codes of findings that are true only of columns that the system has to make.
+  std::span<const char* const> ofNewColumns = {};
 };
 
 // What only the download can tell, for an upload of the subject's own file (Dialect::kClassic or kCurrent)

@@ -71,6 +71,10 @@ const Row kRows[] = {
      "Ann Lee,11,,A,\nx,12,b,A,\n", ""},
     {"a second column", &kCanvasSystem, kClassic, {"a", "b"}, "QUIZ", {7, 7}, kCanvas +
      "y,1,a,A,5\nx,2,b,A,6\n", "gradebook-second-column wrong: QUIZ: Quiz\n"},
+    {"two columns of one title", &kCanvasSystem, kClassic, {"a", "b"}, "Quiz", {7, {}},
+     "Student,ID,SIS User ID,Section,Quiz (40),Quiz (41)\n    Points Possible,,,,10,10\ny,1,a,A,5,\nx,2,b,A,6,\n",
+     "gradebook-erased wrong: Bob Lee (b), Quiz: 6\ngradebook-no-result note: Bob Lee (b)\n"
+     "gradebook-several-columns note: Quiz\n"},
     {"no column at all", &kCanvasSystem, kClassic, {"a", "b"}, "Test", {7, 7}, kCanvas +
      "y,1,a,A,5\nx,2,b,A,6\n", ""},
     {"Moodle's columns are chosen by hand", &kMoodleSystem, kClassic, {"a", "b"}, "QUIZ", {7, 7}, kMoodle +

@@ -163,7 +163,7 @@ def _no_scores(r: random.Random, c: SchoolClass) -> None:
 def _left_out(spoil: Spoil) -> Spoil:
     """What is awkward is in an assignment that is not exported."""
     def spoil_one(r: random.Random, c: SchoolClass) -> None:
-        c.works.append(Work(399, "Extra", 10, {pupil.id: 5.0 for pupil in c.pupils}))
+        c.works.append(Work(max([399, *(work.id + 1 for work in c.works)]), "Extra", 10, {pupil.id: 5.0 for pupil in c.pupils}))
         spoil(r, SchoolClass(c.pupils, c.works[-1:], c.field))
         c.chosen = [work.id for work in c.works[:-1]]
     return spoil_one

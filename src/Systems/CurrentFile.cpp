@@ -65,6 +65,7 @@ class Lines {
   }
 
   void Write(std::string_view bytes) {
+    if (bytes.empty()) return;
     errno = 0;
     const size_t written = std::fwrite(bytes.data(), 1, bytes.size(), m_file);
     if (written != bytes.size() && m_error == 0) m_error = StreamError();

@@ -6,7 +6,6 @@
 #include <cstdio>
 #include <sstream>
 
-#include "Common/RomanText.h"
 #include "Common/xmlutil.h"
 
 namespace {
@@ -49,10 +48,6 @@ void _WriteMessage(const std::string& text) {
 }
 
 }  // namespace
-
-std::string PrintableRoman(std::string_view text) {
-  return PrintableUtf8(Utf8FromRoman(text));
-}
 
 std::string PrintableUtf8(const std::string& text, bool keepLines) {
   std::string printable;

@@ -6,12 +6,8 @@
 #include <string_view>
 #include <vector>
 
-// A class file's text as UTF-8 with control characters as "?", so that no name breaks a line or controls a
-// terminal.
-std::string PrintableRoman(std::string_view text);
-
-// A file name, an argument or a message that quotes one: well-formed UTF-8 with control characters as "?".
-// Line feeds stay when `keepLines` is set.
+// Class data, a file name, an argument: well-formed UTF-8 with control characters as "?", so that no name
+// breaks a line or controls a terminal. Line feeds stay when `keepLines` is set.
 std::string PrintableUtf8(const std::string& text, bool keepLines = false);
 
 // Lines of left-aligned columns two spaces apart, each line ending with a line feed.

@@ -17,17 +17,6 @@
 
 namespace {
 
-qz::StudentRecord _Student(int32_t id, const char* first, const char* last, const char* number,
-                           const char* alias) {
-  qz::StudentRecord student;
-  student.id = id;
-  student.firstName = first;
-  student.lastName = last;
-  student.studentID = number;
-  student.alias = alias;
-  return student;
-}
-
 // One question's answer, or several with their points only.
 qz::ResultsRecord _Results(int32_t student, std::initializer_list<double> points, const char* text = "") {
   qz::ResultsRecord results;
@@ -41,9 +30,9 @@ qz::ResultsRecord _Results(int32_t student, std::initializer_list<double> points
 
 ClassFile _SmallClass() {
   ClassFile file;
-  file.record.students = {_Student(1, "Ann \"A\"", "Smith, Jr.", "0012", "asmith"),
-                          _Student(2, "?ukasz", "Now\x87k", "1;2", ""), _Student(3, "Cy", "", "", "cy"),
-                          _Student(4, "Bo", "Lee", "7", "bo")};
+  file.record.students = {NewStudent(1, "Ann \"A\"", "Smith, Jr.", "0012", "asmith"),
+                          NewStudent(2, "?ukasz", "Now\x87k", "1;2", ""), NewStudent(3, "Cy", "", "", "cy"),
+                          NewStudent(4, "Bo", "Lee", "7", "bo")};
   file.originals.KeepStudent(1, *qz::FindStudentField("first-name"), "Łukasz");
   file.record.assignments.resize(2);
   qz::AssignmentRecord& first = file.record.assignments[0];

@@ -21,6 +21,17 @@ inline std::unique_ptr<Session> NewSession(const FormatRow& format) {
   return format.make(&begin);
 }
 
+inline qz::StudentRecord NewStudent(int32_t id, const char* first, const char* last, const char* number,
+                                    const char* alias) {
+  qz::StudentRecord student;
+  student.id = id;
+  student.firstName = first;
+  student.lastName = last;
+  student.studentID = number;
+  student.alias = alias;
+  return student;
+}
+
 inline std::string ReadFile(const std::filesystem::path& path) {
   std::ifstream file(path, std::ios::binary);
   EXPECT_TRUE(file.is_open()) << path;

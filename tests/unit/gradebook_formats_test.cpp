@@ -14,22 +14,12 @@ qz::ResultsRecord _Results(int32_t student, std::initializer_list<double> points
   return results;
 }
 
-qz::StudentRecord _Student(int32_t id, const char* first, const char* last, const char* number,
-                           const char* alias) {
-  qz::StudentRecord student;
-  student.id = id;
-  student.firstName = first;
-  student.lastName = last;
-  student.studentID = number;
-  student.alias = alias;
-  return student;
-}
-
 // Ann has a result in the first quiz, Bo a zero in the first and an odd one in the second, Cy none at all.
 qz::ClassRecord _SmallClass() {
   qz::ClassRecord record;
-  record.students = {_Student(7, "Ann", "Smith", "1001", "asmith"),
-                     _Student(8, "Bo \"B\"", "Lee, Jr.", "", "b\"l"), _Student(9, "", "\x8Ek", "1003", "")};
+  record.students = {NewStudent(7, "Ann", "Smith", "1001", "asmith"),
+                     NewStudent(8, "Bo \"B\"", "Lee, Jr.", "", "b\"l"),
+                     NewStudent(9, "", "\x8Ek", "1003", "")};
   record.assignments.resize(4);
   record.assignments[0].name = "Quiz \"1\"";
   record.assignments[0].pointsPossible = 8;

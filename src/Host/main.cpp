@@ -7,8 +7,8 @@
 #include <memory>
 #include <string_view>
 
-#include "Host/App/HostTexts.h"
-#include "Host/App/LanguageSetting.h"
+#include "Host/App/Language.h"
+#include "Host/App/Texts.h"
 #include "Host/Window/MainWindow.h"
 
 namespace {
@@ -22,10 +22,11 @@ bool _IsAskedForText(int argc, char** argv) {
 }
 
 void _ParseArguments(QCommandLineParser* parser, const QCoreApplication& application) {
-  parser->setApplicationDescription(host::Text(host::TextID::kDescription));
+  parser->setApplicationDescription(
+      host::Texts::tr("Shows a class and exports its results to a gradebook file."));
   parser->addHelpOption();
   parser->addVersionOption();
-  parser->addPositionalArgument(QStringLiteral("file"), host::Text(host::TextID::kClassFileArgument),
+  parser->addPositionalArgument(QStringLiteral("file"), host::Texts::tr("Class file to open (XML)."),
                                 QStringLiteral("[file]"));
   parser->process(application);
 }

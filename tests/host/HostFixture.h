@@ -15,7 +15,7 @@
 #include <functional>
 #include <string>
 
-#include "Host/App/HostTexts.h"
+#include "Host/App/Language.h"
 #include "Host/Export/FilterModule.h"
 #include "tests/host/fake_filter.h"
 #include "tests/support/Gestures.h"
@@ -48,8 +48,8 @@ inline QWidget* FindWindow(const char* name) {
       [name](const QWidget& window) { return window.objectName() == QLatin1String(name); });
 }
 
-inline void ClickButton(QWidget* window, host::TextID text) {
-  gestures::PressTitled(window, host::Text(text));
+inline void ClickButton(QWidget* window, const char* text) {
+  gestures::PressTitled(window, QString::fromUtf8(text));
 }
 
 // Every test begins with empty settings, in English, and with a filter that has been asked for nothing.
@@ -90,7 +90,7 @@ class HostTest : public testing::Test {
   static void SaveAs(const QString& path) {
     WhenVisible("saveChooser", [path](QWidget* window) {
       window->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(path);
-      ClickButton(window, host::TextID::kSave);
+      ClickButton(window, "Save");
     });
   }
 
@@ -99,8 +99,8 @@ class HostTest : public testing::Test {
     SaveAs(path);
     WhenVisible("message", [part](QWidget* message) {
       EXPECT_TRUE(static_cast<QMessageBox*>(message)->text().contains(QLatin1String(part)));
-      WhenVisible("saveChooser", [](QWidget* window) { ClickButton(window, host::TextID::kCancel); });
-      ClickButton(message, host::TextID::kOk);
+      WhenVisible("saveChooser", [](QWidget* window) { ClickButton(window, "Cancel"); });
+      ClickButton(message, "OK");
     });
   }
 

@@ -83,7 +83,7 @@ TEST_F(CheckTest, SaysWhatWillHappenInBothLanguages) {
   Show(_WithAccent());
   for (const auto& row : rows) {
     SetCurrentLanguage(row.language);
-    m_window->Retranslate();
+    QCoreApplication::processEvents();
     Choose("format", "Canvas");
     Find<QComboBox>("dialect")->setCurrentIndex(0);
     EXPECT_EQ(TextOf(Row(0)).rfind(row.refused, 0), 0U) << TextOf(Row(0));

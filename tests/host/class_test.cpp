@@ -134,23 +134,25 @@ TEST_F(ClassTest, AClassWithoutANameHasItsFiles) {
 TEST_F(ClassTest, FaultsAreToldInWords) {
   const struct {
     const char* text;  // null: no file
-    TextID what;
+    const char* what;
     const char* advice;  // a part of it
   } rows[] = {
-      {"<school/>", TextID::kNotAClass, "class manager saved"},
-      {"<?xml version='1.0' encoding='windows-1252'?><class/>", TextID::kUnsupportedEncoding, "windows-1252"},
-      {nullptr, TextID::kCannotOpen, "No such file"},
+      {"<school/>", "“%1” is not a class file.", "class manager saved"},
+      {"<?xml version='1.0' encoding='windows-1252'?><class/>",
+       "The class file “%1” is written in an encoding that cannot be read.", "windows-1252"},
+      {nullptr, "The class file “%1” could not be opened.", "No such file"},
   };
   for (const auto& row : rows) {
     QFile::remove(PathOf("class.xml"));
     const ReadResult result = row.text != nullptr ? ReadText(row.text) : ReadClass(PathOf("class.xml"));
     EXPECT_EQ(result.openClass, nullptr);
     const FaultText told = TextOfFault(result);
-    EXPECT_EQ(told.what, Text(row.what).arg(QStringLiteral("class.xml")));
+    EXPECT_EQ(told.what, QString::fromUtf8(row.what).arg(QStringLiteral("class.xml")));
     EXPECT_TRUE(told.advice.contains(QLatin1String(row.advice))) << told.advice.toStdString();
   }
-  EXPECT_EQ(TextOfFault(ReadClass(m_folder.path())).what,
-            Text(TextID::kCannotOpen).arg(QFileInfo(m_folder.path()).fileName()));
+  EXPECT_EQ(
+      TextOfFault(ReadClass(m_folder.path())).what,
+      QStringLiteral("The class file “%1” could not be opened.").arg(QFileInfo(m_folder.path()).fileName()));
 
   const ReadResult malformed = ReadText("<class>\n  <student-list>\n</class>");
   EXPECT_EQ(malformed.openClass, nullptr);

@@ -235,7 +235,7 @@ TEST_F(SaveChooserTest, ProposesNameAndLastFolder) {
     EXPECT_EQ(window->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text(),
               QStringLiteral("Quiz 1 - Canvas.csv"));
     EXPECT_EQ(static_cast<QFileDialog*>(window)->directory().absolutePath(), m_folder.path());
-    ClickButton(window, TextID::kCancel);
+    ClickButton(window, "Cancel");
   });
   EXPECT_EQ(Choose(), std::nullopt);
 }
@@ -246,9 +246,9 @@ TEST_F(SaveChooserTest, AsksBeforeReplacing) {
   WhenVisible("replaceQuestion", [this](QWidget* question) {
     WhenVisible("saveChooser", [this](QWidget*) {
       SaveAs(PathOf("old.csv"));
-      WhenVisible("replaceQuestion", [](QWidget* again) { ClickButton(again, TextID::kReplace); });
+      WhenVisible("replaceQuestion", [](QWidget* again) { ClickButton(again, "Replace"); });
     });
-    ClickButton(question, TextID::kCancel);
+    ClickButton(question, "Cancel");
   });
   EXPECT_EQ(Choose(), PathOf("old.csv"));
   EXPECT_EQ(ReadFile(PathOf("old.csv")), "old");

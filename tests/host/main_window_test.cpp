@@ -13,10 +13,13 @@
 #include <QTableView>
 #include <QToolButton>
 #include <QTreeView>
+#include <QXmlStreamReader>
 #include <cerrno>
 #include <csignal>
 #include <cstring>
 #include <optional>
+#include <utility>
+#include <vector>
 
 #include "Host/App/RecentFiles.h"
 #include "tests/host/HostFixture.h"
@@ -59,6 +62,22 @@ class MainWindowTest : public HostTest {
   QMenu* m_menu = nullptr;
 };
 
+// The host's texts with their Spanish.
+std::vector<std::pair<QString, QString>> Translations() {
+  QFile file(QStringLiteral(TRANSLATIONS "/gxhost_es.ts"));
+  EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+  QXmlStreamReader reader(&file);
+  std::vector<std::pair<QString, QString>> texts;
+  while (!reader.atEnd()) {
+    if (reader.readNext() != QXmlStreamReader::StartElement) continue;
+    if (reader.name() == QLatin1String("source")) texts.emplace_back(reader.readElementText(), QString());
+    if (reader.name() == QLatin1String("translation"))
+      texts.back().second = reader.readElementText(QXmlStreamReader::IncludeChildElements);
+  }
+  EXPECT_GT(texts.size(), 100U);
+  return texts;
+}
+
 TEST_F(MainWindowTest, OpensAClass) {
   EXPECT_EQ(m_window.windowTitle(), QStringLiteral("Gradix"));
   EXPECT_FALSE(Format(0)->isEnabled());
@@ -100,7 +119,9 @@ TEST_F(MainWindowTest, ExportsTheSelectedAssignmentOnceAtATime) {
   EXPECT_EQ(result->findChild<QPlainTextEdit*>()->toPlainText(), QStringLiteral("Name,Points\nJosé,5\n"));
   QStringList labels;
   for (const QLabel* label : result->findChildren<QLabel*>()) labels.append(label->text());
-  EXPECT_TRUE(labels.contains(Text(TextID::kReplacedCharacters).arg(3))) << labels.join(u'|').toStdString();
+  EXPECT_TRUE(labels.contains(
+      QStringLiteral("Characters of the class that became “?” because the file cannot hold them: %1").arg(3)))
+      << labels.join(u'|').toStdString();
   EXPECT_TRUE(Format(0)->isEnabled());
 }
 
@@ -133,13 +154,20 @@ TEST_F(MainWindowTest, SaysWhatBecameOfAnExport) {
     uint32_t state;
     int32_t error;
     uint32_t incomplete;
-    TextID status, what, advice;
+    const char *status, *what, *advice;
   } rows[] = {
-      {QZFILTER_NOT_WRITTEN, ENOSPC, 0, TextID::kExportFailed, TextID::kNotWritten, TextID::kDiskFullAdvice},
-      {QZFILTER_NOT_WRITTEN, EACCES, 0, TextID::kExportFailed, TextID::kNotWritten,
-       TextID::kNotWrittenAdvice},
-      {QZFILTER_NOT_WRITTEN, EIO, 1, TextID::kExportFailed, TextID::kIncomplete, TextID::kNotWrittenAdvice},
-      {QZFILTER_PENDING, 0, 0, TextID::kExportEnded, TextID::kOutcomeUnknown, TextID::kOutcomeUnknownAdvice},
+      {QZFILTER_NOT_WRITTEN, ENOSPC, 0, "The export failed", "The file “%1” could not be written.",
+       "The disk is full (%1).\n\nMake room on it, or choose a folder on another disk, and export again."},
+      {QZFILTER_NOT_WRITTEN, EACCES, 0, "The export failed", "The file “%1” could not be written.",
+       "%1\n\nCheck that the folder exists, that you may write to it and that the disk is not full. Then "
+       "export again, perhaps to another folder."},
+      {QZFILTER_NOT_WRITTEN, EIO, 1, "The export failed",
+       "Only a part of the file “%1” could be written. It took the place of the earlier one; do not use it.",
+       "%1\n\nCheck that the folder exists, that you may write to it and that the disk is not full. Then "
+       "export again, perhaps to another folder."},
+      {QZFILTER_PENDING, 0, 0, "The export has ended",
+       "The export filter does not tell whether “%1” was written.",
+       "It is older than this program. Open the file and check that it is complete before you use it."},
   };
   ASSERT_TRUE(OpenSample());
   for (const auto& row : rows) {
@@ -152,11 +180,11 @@ TEST_F(MainWindowTest, SaysWhatBecameOfAnExport) {
     gDialog->close();
     QMessageBox* const message = WaitForMessage();
     ASSERT_NE(message, nullptr);
-    EXPECT_EQ(message->text(), Text(row.what).arg(path));
-    QString advice = Text(row.advice);
+    EXPECT_EQ(message->text(), QString::fromUtf8(row.what).arg(path));
+    QString advice = QString::fromUtf8(row.advice);
     if (row.error != 0) advice = advice.arg(QString::fromLocal8Bit(std::strerror(row.error)));
     EXPECT_EQ(message->informativeText(), advice);
-    EXPECT_EQ(m_window.statusBar()->currentMessage(), Text(row.status));
+    EXPECT_EQ(m_window.statusBar()->currentMessage(), QString::fromUtf8(row.status));
     delete message;
   }
 }
@@ -181,7 +209,8 @@ TEST_F(MainWindowTest, TellsThatAnExportCouldNotBegin) {
   Format(0)->trigger();
   const QMessageBox* const message = WaitForMessage();
   ASSERT_NE(message, nullptr);
-  EXPECT_EQ(message->text(), Text(TextID::kExportFileFailed));
+  EXPECT_EQ(message->text(),
+            QStringLiteral("The filter could not read the class file or its own resource file."));
   EXPECT_TRUE(Format(0)->isEnabled());
 }
 
@@ -200,14 +229,14 @@ TEST_F(MainWindowTest, SpeaksSpanish) {
   for (QAction* action : m_window.findChildren<QAction*>()) {
     if (action->text() == QStringLiteral("Español")) action->trigger();
   }
+  QCoreApplication::processEvents();
   EXPECT_EQ(m_menu->title(), QStringLiteral("&Exportar"));
   EXPECT_EQ(QSettings().value(QStringLiteral("language")).toString(), QStringLiteral("es"));
   Format(0)->trigger();
   EXPECT_EQ(m_fake->languageOfFile, 6);
   // Nothing of the host is left in English.
-  for (int i = 0; i < static_cast<int>(TextID::kCount); ++i) {
-    const QString english = TextIn(HostLanguage::kEnglish, static_cast<TextID>(i));
-    if (english == Text(static_cast<TextID>(i))) continue;
+  for (const auto& [english, spanish] : Translations()) {
+    if (english == spanish) continue;
     for (const QLabel* label : m_window.findChildren<QLabel*>()) EXPECT_NE(label->text(), english);
     for (const QAction* action : m_window.findChildren<QAction*>()) EXPECT_NE(action->text(), english);
     for (const QWidget* widget : m_window.findChildren<QWidget*>())
@@ -268,7 +297,7 @@ TEST_F(RealFilterTest, AFullDiskLeavesTheOldFile) {
   QString alert;
   WhenVisible("replaceQuestion", [&](QWidget* question) {
     disk.emplace();
-    ClickButton(question, TextID::kReplace);
+    ClickButton(question, "Replace");
   });
   QTimer answer;
   QObject::connect(&answer, &QTimer::timeout, [&] {
@@ -285,7 +314,7 @@ TEST_F(RealFilterTest, AFullDiskLeavesTheOldFile) {
   QMessageBox* const message = WaitForMessage();
   ASSERT_NE(message, nullptr);
   EXPECT_EQ(alert, QStringLiteral("Assignment results have been saved in %1.").arg(PathOf("out.csv")));
-  EXPECT_EQ(message->text(), Text(TextID::kNotWritten).arg(PathOf("out.csv")));
+  EXPECT_EQ(message->text(), QStringLiteral("The file “%1” could not be written.").arg(PathOf("out.csv")));
   EXPECT_TRUE(message->informativeText().contains(QString::fromLocal8Bit(std::strerror(EFBIG))));
   EXPECT_EQ(ReadFile(PathOf("out.csv")), "old");
   EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList("out.csv"));

@@ -1,5 +1,3 @@
-#include <QRegularExpression>
-
 #include "Host/App/RecentFiles.h"
 #include "Host/ClassView/RomanText.h"
 #include "Host/Export/FileNames.h"
@@ -77,21 +75,6 @@ TEST(FileNames, PathLimitCountsBytes) {
   EXPECT_FALSE(FitsIntoPath(u'/' + QString(255, u'a')));
   EXPECT_TRUE(FitsIntoPath(u'/' + QString(127, u'é')));
   EXPECT_FALSE(FitsIntoPath(u'/' + QString(128, u'é')));
-}
-
-TEST(Texts, BothLanguagesHaveTheSamePlaceholders) {
-  const QRegularExpression placeholder(QStringLiteral("%[0-9]"));
-  for (int i = 0; i < static_cast<int>(TextID::kCount); ++i) {
-    QStringList found[2];
-    for (const HostLanguage language : {HostLanguage::kEnglish, HostLanguage::kSpanish}) {
-      const QString text = TextIn(language, static_cast<TextID>(i));
-      EXPECT_FALSE(text.isEmpty()) << i;
-      QStringList& list = found[static_cast<int>(language)];
-      for (const auto& match : placeholder.globalMatch(text)) list.append(match.captured());
-      list.sort();
-    }
-    EXPECT_EQ(found[0], found[1]) << TextIn(HostLanguage::kEnglish, static_cast<TextID>(i)).toStdString();
-  }
 }
 
 TEST_F(HostTest, RecentFilesKeepTheLastEight) {

@@ -1,6 +1,6 @@
 #include "Host/App/FileDialogs.h"
 
-#include "Host/App/HostTexts.h"
+#include "Host/App/Texts.h"
 
 namespace host {
 
@@ -12,11 +12,11 @@ void SetUpFileDialog(QFileDialog* dialog, const QString& objectName, QFileDialog
   dialog->setAcceptMode(mode);
   dialog->setFileMode(saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
   // After the modes, which make new buttons.
-  dialog->setLabelText(QFileDialog::Accept, Text(saves ? TextID::kSave : TextID::kOpenButton));
-  dialog->setLabelText(QFileDialog::Reject, Text(TextID::kCancel));
-  dialog->setLabelText(QFileDialog::FileName, Text(TextID::kFileNameLabel));
-  dialog->setLabelText(QFileDialog::FileType, Text(TextID::kFileTypeLabel));
-  dialog->setLabelText(QFileDialog::LookIn, Text(TextID::kLookInLabel));
+  dialog->setLabelText(QFileDialog::Accept, saves ? Texts::tr("Save") : Texts::tr("Open"));
+  dialog->setLabelText(QFileDialog::Reject, Texts::tr("Cancel"));
+  dialog->setLabelText(QFileDialog::FileName, Texts::tr("File &name:"));
+  dialog->setLabelText(QFileDialog::FileType, Texts::tr("Files of type:"));
+  dialog->setLabelText(QFileDialog::LookIn, Texts::tr("Look in:"));
 }
 
 }  // namespace host

@@ -3,7 +3,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 
-#include "Host/App/HostTexts.h"
+#include "Host/App/Texts.h"
 
 namespace host {
 
@@ -13,14 +13,14 @@ namespace {
 void _SetUp(QMessageBox* box, const QString& what, const QString& advice) {
   box->setObjectName(QStringLiteral("message"));
   box->setIcon(QMessageBox::Warning);
-  box->setWindowTitle(Text(TextID::kProgram));
+  box->setWindowTitle(Texts::tr("Gradix"));
   box->setTextFormat(Qt::PlainText);
   box->setText(what);
   box->setInformativeText(advice);
   box->setAccessibleName(what);
   box->setAccessibleDescription(advice);
   box->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  QPushButton* const ok = box->addButton(Text(TextID::kOk), QMessageBox::AcceptRole);
+  QPushButton* const ok = box->addButton(Texts::tr("OK"), QMessageBox::AcceptRole);
   box->setDefaultButton(ok);
   box->setEscapeButton(ok);
 }

@@ -1,6 +1,7 @@
 #include "Host/ClassView/AssignmentPanel.h"
 
 #include <QComboBox>
+#include <QEvent>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -8,6 +9,7 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "Host/App/Texts.h"
 #include "Host/ClassView/HistogramWidget.h"
 #include "Host/ClassView/RomanText.h"
 
@@ -15,9 +17,12 @@ namespace host {
 
 namespace {
 
-constexpr TextID kFigureTitles[] = {
-    TextID::kStudents, TextID::kResults, TextID::kMissing,           TextID::kMean,          TextID::kMedian,
-    TextID::kMinimum,  TextID::kMaximum, TextID::kStandardDeviation, TextID::kPointsPossible};
+constexpr const char* kFigureTitles[] = {
+    QT_TRANSLATE_NOOP("Texts", "Students"),       QT_TRANSLATE_NOOP("Texts", "Results"),
+    QT_TRANSLATE_NOOP("Texts", "Missing"),        QT_TRANSLATE_NOOP("Texts", "Mean"),
+    QT_TRANSLATE_NOOP("Texts", "Median"),         QT_TRANSLATE_NOOP("Texts", "Minimum"),
+    QT_TRANSLATE_NOOP("Texts", "Maximum"),        QT_TRANSLATE_NOOP("Texts", "Standard deviation"),
+    QT_TRANSLATE_NOOP("Texts", "Points possible")};
 
 }  // namespace
 
@@ -49,7 +54,7 @@ AssignmentPanel::AssignmentPanel(QWidget* parent, std::function<void(int)> selec
 void AssignmentPanel::AddFigures() {
   auto* const form = new QFormLayout(m_group);
   form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-  for (const TextID title : kFigureTitles) {
+  for (const char* const title : kFigureTitles) {
     const Figure figure{title, new QLabel(m_group), new QLabel(m_group)};
     figure.value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     figure.value->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -113,18 +118,22 @@ void AssignmentPanel::ShowFigures(const Scores& scores, int pointsPossible) {
   for (size_t i = 0; i < m_figures.size(); ++i) m_figures[i].value->setText(values[i]);
 }
 
+void AssignmentPanel::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::LanguageChange) Retranslate();
+}
+
 void AssignmentPanel::Retranslate() {
-  setAccessibleName(Text(TextID::kPanel));
-  m_label->setText(Text(TextID::kAssignment));
-  m_combo->setAccessibleName(Text(TextID::kPanel));
-  m_nothing->setText(Text(TextID::kNoAssignments));
-  m_group->setTitle(Text(TextID::kStatistics));
-  m_group->setAccessibleName(Text(TextID::kStatistics));
+  setAccessibleName(Texts::tr("Assignment"));
+  m_label->setText(Texts::tr("&Assignment:"));
+  m_combo->setAccessibleName(Texts::tr("Assignment"));
+  m_nothing->setText(Texts::tr("This class has no assignments yet."));
+  m_group->setTitle(Texts::tr("Statistics"));
+  m_group->setAccessibleName(Texts::tr("Statistics"));
   for (const Figure& figure : m_figures) {
-    figure.label->setText(Text(figure.title));
-    figure.value->setAccessibleName(Text(figure.title));
+    figure.label->setText(Texts::tr(figure.title));
+    figure.value->setAccessibleName(Texts::tr(figure.title));
   }
-  m_histogram->Retranslate();
 }
 
 }  // namespace host

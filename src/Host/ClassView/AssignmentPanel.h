@@ -7,7 +7,6 @@
 #include <memory>
 #include <vector>
 
-#include "Host/App/HostTexts.h"
 #include "Host/ClassView/ClassReader.h"
 
 class QComboBox;
@@ -30,12 +29,13 @@ class AssignmentPanel : public QWidget {
   int Selected() const;
   void Select(int assignment);
 
-  // Told of a change of the language.
-  void Retranslate();
+ protected:
+  void changeEvent(QEvent* event) override;
 
  private:
+  void Retranslate();
   struct Figure {
-    TextID title;
+    const char* title;
     QLabel* label;
     QLabel* value;
   };

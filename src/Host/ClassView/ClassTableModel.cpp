@@ -4,7 +4,7 @@
 #include <QPalette>
 #include <utility>
 
-#include "Host/App/HostTexts.h"
+#include "Host/App/Texts.h"
 #include "Host/ClassView/RomanText.h"
 
 namespace host {
@@ -61,8 +61,8 @@ QVariant ClassTableModel::PointsData(size_t student, size_t assignment, int role
   const std::optional<double> points = m_class->scores.Find(student, assignment);
   switch (role) {
     case Qt::DisplayRole: return points ? PointsText(*points) : QStringLiteral("—");
-    case Qt::AccessibleTextRole: return points ? PointsText(*points) : Text(TextID::kNoResult);
-    case Qt::ToolTipRole: return points ? QVariant() : Text(TextID::kNoResult);
+    case Qt::AccessibleTextRole: return points ? PointsText(*points) : Texts::tr("No result");
+    case Qt::ToolTipRole: return points ? QVariant() : Texts::tr("No result");
     case Qt::ForegroundRole:
       return points ? QVariant() : QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
     default: return {};
@@ -77,8 +77,8 @@ QVariant ClassTableModel::headerData(int section, Qt::Orientation orientation, i
   }
   if (role == Qt::TextAlignmentRole) return int{Qt::AlignLeft | Qt::AlignVCenter};
   if (role != Qt::DisplayRole) return {};
-  if (section == kNameColumn) return Text(TextID::kStudentName);
-  return section == kStudentIDColumn ? Text(TextID::kStudentID) : QVariant();
+  if (section == kNameColumn) return Texts::tr("Name");
+  return section == kStudentIDColumn ? Texts::tr("Student ID") : QVariant();
 }
 
 QVariant ClassTableModel::AssignmentHeader(size_t assignment, int role) const {
@@ -89,8 +89,8 @@ QVariant ClassTableModel::AssignmentHeader(size_t assignment, int role) const {
   if (role != Qt::ToolTipRole) return {};
   const int points = m_class->record.assignments[assignment].pointsPossible;
   const QString date = LineFromUtf8(texts.Assignment(assignment, qz::AssignmentText::kDate));
-  QString tip = name + u'\n' + Text(TextID::kPointsPossibleTip).arg(points);
-  if (!date.isEmpty()) tip += u'\n' + Text(TextID::kDateTip).arg(date);
+  QString tip = name + u'\n' + Texts::tr("Points possible: %1").arg(points);
+  if (!date.isEmpty()) tip += u'\n' + Texts::tr("Date: %1").arg(date);
   return tip;
 }
 

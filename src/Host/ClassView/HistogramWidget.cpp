@@ -1,10 +1,11 @@
 #include "Host/ClassView/HistogramWidget.h"
 
+#include <QEvent>
 #include <QPainter>
 #include <QStringList>
 #include <algorithm>
 
-#include "Host/App/HostTexts.h"
+#include "Host/App/Texts.h"
 #include "Host/ClassView/RomanText.h"
 
 namespace host {
@@ -28,15 +29,20 @@ void HistogramWidget::SetHistogram(const Histogram& histogram) {
 }
 
 // What is drawn is told in words, too.
+void HistogramWidget::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::LanguageChange) Retranslate();
+}
+
 void HistogramWidget::Retranslate() {
   QStringList bins;
   for (size_t bin = 0; bin < Histogram::kBins; ++bin) {
-    bins += Text(TextID::kHistogramBin)
+    bins += Texts::tr("%1 to %2: %3")
                 .arg(PointsText(m_histogram.Bound(bin)), PointsText(m_histogram.Bound(bin + 1)))
                 .arg(m_histogram.counts[bin]);
   }
-  setAccessibleName(Text(TextID::kHistogram));
-  setAccessibleDescription(HighestCount() == 0 ? Text(TextID::kHistogramEmpty)
+  setAccessibleName(Texts::tr("Score distribution"));
+  setAccessibleDescription(HighestCount() == 0 ? Texts::tr("No results yet")
                                                : bins.join(QLatin1String("; ")));
   update();
 }
@@ -76,7 +82,7 @@ void HistogramWidget::paintEvent(QPaintEvent* /*event*/) {
   const QRectF plot = PlotArea();
   if (HighestCount() == 0) {
     painter.setPen(palette().color(QPalette::Disabled, QPalette::Text));
-    painter.drawText(plot, Qt::AlignCenter | Qt::TextWordWrap, Text(TextID::kHistogramEmpty));
+    painter.drawText(plot, Qt::AlignCenter | Qt::TextWordWrap, Texts::tr("No results yet"));
   } else {
     DrawBars(&painter, plot);
   }
@@ -108,10 +114,10 @@ void HistogramWidget::DrawAxes(QPainter* painter, const QRectF& plot) const {
     painter->drawText(label, Qt::AlignCenter, PointsText(m_histogram.Bound(bin)));
   }
   const QRectF below(plot.left(), plot.bottom() + kGap + line, plot.width(), line);
-  painter->drawText(below, Qt::AlignCenter, Text(TextID::kHistogramPoints));
+  painter->drawText(below, Qt::AlignCenter, Texts::tr("Points"));
   painter->translate(kGap, plot.bottom());
   painter->rotate(-90);
-  painter->drawText(QRectF(0, 0, plot.height(), line), Qt::AlignCenter, Text(TextID::kHistogramStudents));
+  painter->drawText(QRectF(0, 0, plot.height(), line), Qt::AlignCenter, Texts::tr("Students"));
 }
 
 }  // namespace host

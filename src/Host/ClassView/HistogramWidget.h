@@ -14,16 +14,15 @@ class HistogramWidget : public QWidget {
 
   void SetHistogram(const Histogram& histogram);
 
-  // Told of a change of the language.
-  void Retranslate();
-
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
 
  protected:
+  void changeEvent(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  void Retranslate();
   QRectF PlotArea() const;
   QRectF BarOf(const QRectF& plot, size_t bin) const;
   void DrawBars(QPainter* painter, const QRectF& plot) const;

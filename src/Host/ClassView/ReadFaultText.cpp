@@ -2,16 +2,20 @@
 
 #include <QFileInfo>
 
-#include "Host/App/HostTexts.h"
+#include "Host/App/Texts.h"
 
 namespace host {
 
 namespace {
 
 FaultText _DamagedText(const ClassFault& fault, const QString& name, const QString& reason) {
-  QString advice = Text(TextID::kMalformedAdvice);
-  if (!reason.isEmpty()) advice.prepend(Text(TextID::kMalformedReason).arg(reason));
-  return {Text(TextID::kMalformed).arg(name).arg(fault.line).arg(fault.column), advice};
+  QString advice = Texts::tr("Save the class again in the class manager, or open a copy from a backup.");
+  if (!reason.isEmpty()) advice.prepend(Texts::tr("The reader says: %1.\n\n").arg(reason));
+  return {Texts::tr("The class file “%1” is damaged: line %2, column %3.")
+              .arg(name)
+              .arg(fault.line)
+              .arg(fault.column),
+          advice};
 }
 
 }  // namespace
@@ -21,17 +25,21 @@ FaultText TextOfFault(const ReadResult& result) {
   const QString reason = QString::fromLocal8Bit(result.fault.reason);
   switch (result.fault.code) {
     case ClassFaultCode::kCannotOpen:
-      return {Text(TextID::kCannotOpen).arg(name), Text(TextID::kCannotOpenAdvice).arg(reason)};
+      return {Texts::tr("The class file “%1” could not be opened.").arg(name),
+              Texts::tr("%1\n\nCheck that the file is still there and that you may read it.").arg(reason)};
     case ClassFaultCode::kCannotRead:
-      return {Text(TextID::kCannotRead).arg(name), Text(TextID::kCannotOpenAdvice).arg(reason)};
+      return {Texts::tr("The class file “%1” could not be read to its end.").arg(name),
+              Texts::tr("%1\n\nCheck that the file is still there and that you may read it.").arg(reason)};
     case ClassFaultCode::kDamaged: return _DamagedText(result.fault, name, reason);
     case ClassFaultCode::kUnsupportedEncoding:
-      return {Text(TextID::kUnsupportedEncoding).arg(name),
-              Text(TextID::kUnsupportedEncodingAdvice).arg(reason)};
+      return {Texts::tr("The class file “%1” is written in an encoding that cannot be read.").arg(name),
+              Texts::tr("The reader says: %1.\n\nSave it as UTF-8 with a text editor.").arg(reason)};
     case ClassFaultCode::kNotAClass:
-      return {Text(TextID::kNotAClass).arg(name), Text(TextID::kNotAClassAdvice)};
+      return {Texts::tr("“%1” is not a class file.").arg(name),
+              Texts::tr("Choose a file that the class manager saved. Its name usually ends in .xml.")};
     case ClassFaultCode::kOutOfMemory:
-      return {Text(TextID::kOutOfMemory).arg(name), Text(TextID::kOutOfMemoryAdvice)};
+      return {Texts::tr("There is not enough memory to open “%1”.").arg(name),
+              Texts::tr("Close other programs and try again.")};
     case ClassFaultCode::kNone: break;
   }
   return {};

@@ -7,8 +7,9 @@
 #include <cstring>
 #include <utility>
 
-#include "Host/App/HostTexts.h"
+#include "Host/App/Language.h"
 #include "Host/App/Messages.h"
+#include "Host/App/Texts.h"
 #include "Host/ClassView/RomanText.h"
 #include "Host/Export/FileNames.h"
 #include "Host/Export/SaveChooser.h"
@@ -33,19 +34,26 @@ void ExportController::LoadFilter() {
   }
   m_formats = m_filter->Formats();
   if (m_formats.empty()) {
-    ShowMessage(m_window, Text(TextID::kFilterWithoutFormats), Text(TextID::kFilterWithoutFormatsAdvice));
+    ShowMessage(m_window,
+                Texts::tr("The export filter offers no formats. Classes can be viewed, but not exported."),
+                Texts::tr("Its resource file is probably missing. Install Gradix again."));
   }
 }
 
 void ExportController::ShowLoadError(const QString& path, const FilterLoadError& error) {
   if (error.fault == FilterFault::kNotFound) {
-    ShowMessage(m_window, Text(TextID::kFilterNotFound),
-                Text(TextID::kFilterNotFoundAdvice).arg(QDir::toNativeSeparators(path)));
+    ShowMessage(m_window,
+                Texts::tr("The export filter was not found. Classes can be viewed, but not exported."),
+                Texts::tr("It was looked for here:\n%1\n\nInstall Gradix again.")
+                    .arg(QDir::toNativeSeparators(path)));
     return;
   }
-  const TextID what =
-      error.fault == FilterFault::kMissingSymbol ? TextID::kFilterMissingSymbol : TextID::kFilterNotLoadable;
-  ShowMessage(m_window, Text(what), Text(TextID::kFilterReinstall).arg(error.detail));
+  const QString what = error.fault == FilterFault::kMissingSymbol
+                           ? Texts::tr("The export filter does not fit this program.")
+                           : Texts::tr("The export filter could not be loaded.");
+  ShowMessage(
+      m_window, what,
+      Texts::tr("%1\n\nInstall Gradix again, so that both come from the same version.").arg(error.detail));
 }
 
 void ExportController::Export(const ExportFormat& format, const OpenClass& openClass, size_t assignment) {
@@ -62,7 +70,7 @@ void ExportController::Export(const ExportFormat& format, const OpenClass& openC
   request.spanish = CurrentLanguage() == HostLanguage::kSpanish;
   const StartResult result = m_run.Start(*m_filter, request, m_window);
   if (result == StartResult::kStarted) {
-    m_stateChanged(Text(TextID::kExportUnderWay));
+    m_stateChanged(Texts::tr("An export is under way"));
   } else {
     ShowStartError(result, format, openClass.path);
   }
@@ -72,14 +80,20 @@ void ExportController::ShowStartError(StartResult result, const ExportFormat& fo
                                       const QString& classPath) {
   switch (result) {
     case StartResult::kBeginFailed:
-      ShowMessage(m_window, Text(TextID::kBeginFailed).arg(format.name), Text(TextID::kTryAgain));
+      ShowMessage(m_window,
+                  Texts::tr("The export could not be started: the filter does not know the format “%1”.")
+                      .arg(format.name),
+                  Texts::tr("Try again. If it fails again, quit Gradix and open the class again."));
       break;
     case StartResult::kFileFailed:
-      ShowMessage(m_window, Text(TextID::kExportFileFailed),
-                  Text(TextID::kExportFileFailedAdvice).arg(QFileInfo(classPath).fileName()));
+      ShowMessage(
+          m_window, Texts::tr("The filter could not read the class file or its own resource file."),
+          Texts::tr("Check that “%1” is still there and open it again. If it opens, install Gradix again.")
+              .arg(QFileInfo(classPath).fileName()));
       break;
     case StartResult::kSessionUnknown:
-      ShowMessage(m_window, Text(TextID::kSessionUnknown), Text(TextID::kTryAgain));
+      ShowMessage(m_window, Texts::tr("The export failed: the filter has lost its session."),
+                  Texts::tr("Try again. If it fails again, quit Gradix and open the class again."));
       break;
     case StartResult::kStarted:
     case StartResult::kBusy: break;
@@ -94,17 +108,18 @@ std::optional<QString> ExportController::ChooseFile(QWidget* dialog) {
 void ExportController::RunFinished(const RunResult& result) {
   const QString path = QDir::toNativeSeparators(result.path);
   switch (result.outcome) {
-    case RunOutcome::kCanceled: m_stateChanged(Text(TextID::kExportCanceled)); break;
+    case RunOutcome::kCanceled: m_stateChanged(Texts::tr("Nothing was exported")); break;
     case RunOutcome::kNotWritten: ShowNotWritten(result); break;
     case RunOutcome::kUnknown:
-      m_stateChanged(Text(TextID::kExportEnded));
-      ShowMessage(m_window, Text(TextID::kOutcomeUnknown).arg(path), Text(TextID::kOutcomeUnknownAdvice));
+      m_stateChanged(Texts::tr("The export has ended"));
+      ShowMessage(m_window, Texts::tr("The export filter does not tell whether “%1” was written.").arg(path),
+                  Texts::tr("It is older than this program. Open the file and check that it is complete "
+                            "before you use it."));
       break;
     case RunOutcome::kWritten: {
-      m_stateChanged(Text(TextID::kExported).arg(path));
+      m_stateChanged(Texts::tr("Exported to %1").arg(path));
       auto* const window = new ResultWindow(
           m_window, {result.path, result.replacedCharacters, result.studentsWithoutIdentifier});
-      m_results.append(window);
       window->show();
       break;
     }
@@ -112,13 +127,20 @@ void ExportController::RunFinished(const RunResult& result) {
 }
 
 void ExportController::ShowNotWritten(const RunResult& result) {
-  m_stateChanged(Text(TextID::kExportFailed));
+  m_stateChanged(Texts::tr("The export failed"));
   const bool isFull = result.error == ENOSPC || result.error == EDQUOT;
   const QString reason = result.error == 0 ? QString() : QString::fromLocal8Bit(std::strerror(result.error));
-  ShowMessage(m_window,
-              Text(result.incomplete ? TextID::kIncomplete : TextID::kNotWritten)
-                  .arg(QDir::toNativeSeparators(result.path)),
-              Text(isFull ? TextID::kDiskFullAdvice : TextID::kNotWrittenAdvice).arg(reason).trimmed());
+  const QString what = result.incomplete ? Texts::tr(
+                                               "Only a part of the file “%1” could be written. It took the "
+                                               "place of the earlier one; do not use it.")
+                                         : Texts::tr("The file “%1” could not be written.");
+  const QString advice = isFull ? Texts::tr(
+                                      "The disk is full (%1).\n\nMake room on it, or choose a folder on "
+                                      "another disk, and export again.")
+                                : Texts::tr(
+                                      "%1\n\nCheck that the folder exists, that you may write to it and that "
+                                      "the disk is not full. Then export again, perhaps to another folder.");
+  ShowMessage(m_window, what.arg(QDir::toNativeSeparators(result.path)), advice.arg(reason).trimmed());
 }
 
 void ExportController::CloseDialog() {
@@ -128,11 +150,6 @@ void ExportController::CloseDialog() {
   if (dialog == nullptr || !dialog->isVisible()) return;
   dialog->raise();
   dialog->activateWindow();
-}
-
-void ExportController::Retranslate() {
-  m_results.removeAll(nullptr);
-  for (const QPointer<ResultWindow>& window : m_results) window->Retranslate();
 }
 
 }  // namespace host

@@ -2,9 +2,7 @@
 #ifndef GRADIX_EXPORTCONTROLLER_H
 #define GRADIX_EXPORTCONTROLLER_H
 
-#include <QList>
 #include <QObject>
-#include <QPointer>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -36,9 +34,6 @@ class ExportController : public QObject {
   // Asks the dialog of the run under way to close and brings it to the front when it does not.
   void CloseDialog();
 
-  // Told of a change of the language.
-  void Retranslate();
-
  private:
   std::optional<QString> ChooseFile(QWidget* dialog);
   void RunFinished(const RunResult& result);
@@ -54,7 +49,6 @@ class ExportController : public QObject {
   QString m_exportedClassPath;  // another one when a class was opened meanwhile
   QString m_proposedName;
   QString m_extension;
-  QList<QPointer<ResultWindow>> m_results;
   ExportRun m_run;
 };
 

@@ -11,8 +11,8 @@
 #include <system_error>
 
 #include "Host/App/FileDialogs.h"
-#include "Host/App/HostTexts.h"
 #include "Host/App/Messages.h"
+#include "Host/App/Texts.h"
 #include "Host/Export/FileNames.h"
 
 namespace host {
@@ -30,18 +30,19 @@ QString _LastFolder() {
 void _SetUp(QFileDialog* dialog, const QString& extension) {
   SetUpFileDialog(dialog, QStringLiteral("saveChooser"), QFileDialog::AcceptSave);
   dialog->setDefaultSuffix(extension);
-  dialog->setNameFilters({Text(TextID::kCsvFiles).arg(extension), Text(TextID::kAllFiles)});
+  dialog->setNameFilters({Texts::tr("Gradebook files (*.%1)").arg(extension), Texts::tr("All files (*)")});
   dialog->setOption(QFileDialog::DontConfirmOverwrite);  // asked here, in the host's language
 }
 
 bool _MayReplace(QWidget* parent, const QString& path) {
   if (!QFileInfo::exists(path)) return true;
-  QMessageBox question(QMessageBox::Warning, Text(TextID::kReplaceTitle),
-                       Text(TextID::kReplaceQuestion).arg(QFileInfo(path).fileName()), QMessageBox::NoButton,
-                       parent);
+  QMessageBox question(
+      QMessageBox::Warning, Texts::tr("Replace File"),
+      Texts::tr("“%1” already exists. Do you want to replace it?").arg(QFileInfo(path).fileName()),
+      QMessageBox::NoButton, parent);
   question.setObjectName(QStringLiteral("replaceQuestion"));
-  QPushButton* const replace = question.addButton(Text(TextID::kReplace), QMessageBox::AcceptRole);
-  QPushButton* const keep = question.addButton(Text(TextID::kCancel), QMessageBox::RejectRole);
+  QPushButton* const replace = question.addButton(Texts::tr("Replace"), QMessageBox::AcceptRole);
+  QPushButton* const keep = question.addButton(Texts::tr("Cancel"), QMessageBox::RejectRole);
   question.setDefaultButton(keep);
   question.setEscapeButton(keep);
   question.exec();
@@ -57,13 +58,17 @@ bool _IsSameFile(const QString& path, const QString& other) {
 
 bool _MayWrite(QWidget* parent, const QString& path, const QStringList& classPaths) {
   if (!FitsIntoPath(path)) {
-    AskToConfirm(parent, Text(TextID::kPathTooLong), Text(TextID::kPathTooLongAdvice).arg(kMaxPathBytes));
+    AskToConfirm(parent, Texts::tr("The name of the file with all its folders is too long."),
+                 Texts::tr("It may have at most %1 bytes. Choose a shorter name or another folder.")
+                     .arg(kMaxPathBytes));
     return false;
   }
   const auto isPath = [&path](const QString& classPath) { return _IsSameFile(path, classPath); };
   if (std::any_of(classPaths.begin(), classPaths.end(), isPath)) {
-    AskToConfirm(parent, Text(TextID::kIsTheClass).arg(QFileInfo(path).fileName()),
-                 Text(TextID::kIsTheClassAdvice));
+    AskToConfirm(parent,
+                 Texts::tr("“%1” is the open class. Exporting to it would destroy the class.")
+                     .arg(QFileInfo(path).fileName()),
+                 Texts::tr("Choose another name or another folder."));
     return false;
   }
   return _MayReplace(parent, path);
@@ -73,7 +78,7 @@ bool _MayWrite(QWidget* parent, const QString& path, const QStringList& classPat
 
 std::optional<QString> ChooseSaveFile(QWidget* parent, const QString& proposedName, const QString& extension,
                                       const QStringList& classPaths) {
-  QFileDialog dialog(parent, Text(TextID::kSaveTitle), _LastFolder());
+  QFileDialog dialog(parent, Texts::tr("Export To"), _LastFolder());
   _SetUp(&dialog, extension);
   dialog.selectFile(proposedName);
   while (dialog.exec() == QDialog::Accepted) {

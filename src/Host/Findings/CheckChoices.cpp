@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QEvent>
 #include <QLabel>
 #include <QListWidget>
 #include <QSignalBlocker>
@@ -9,7 +10,7 @@
 #include <utility>
 
 #include "Common/QZData/StudentFields.h"
-#include "Host/App/HostTexts.h"
+#include "Host/App/Texts.h"
 #include "Host/ClassView/RomanText.h"
 #include "Host/Export/FileNames.h"
 #include "Host/Findings/FindingsModel.h"
@@ -94,7 +95,7 @@ void CheckChoices::SetClass(std::shared_ptr<const OpenClass> openClass) {
   }
   ShowWhetherAll();
   const bool isFirst = m_field->count() == 0;
-  ShowFields();
+  Retranslate();
   if (isFirst) ProposeField();
 }
 
@@ -173,27 +174,36 @@ void CheckChoices::ShowDialects() {
   {
     const QSignalBlocker blocker(m_dialect);
     if (m_dialect->count() == 0) m_dialect->addItems({QString(), QString()});
-    m_dialect->setItemText(0, Text(TextID::kClassicFile));
-    m_dialect->setItemText(1, Text(TextID::kCurrentFile));
+    m_dialect->setItemText(0, Texts::tr("Classic file"));
+    m_dialect->setItemText(1, Texts::tr("Current file"));
   }
   m_dialectLabel->setVisible(hasCurrent);
   m_dialect->setVisible(hasCurrent);
   m_dialectHint->setVisible(hasCurrent);
-  m_dialectHint->setText(ChosenDialect() == Dialect::kCurrent ? Text(TextID::kCurrentHint).arg(system)
-                                                              : Text(TextID::kClassicHint));
+  m_dialectHint->setText(
+      ChosenDialect() == Dialect::kCurrent
+          ? Texts::tr(
+                "The file for today's %1. The program gxexport writes it, with the option --dialect current.")
+                .arg(system)
+          : Texts::tr("The file that the Export menu writes."));
+}
+
+void CheckChoices::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::LanguageChange && m_class != nullptr) Retranslate();
 }
 
 void CheckChoices::Retranslate() {
-  const auto label = [](QLabel* title, QWidget* field, TextID text) {
-    title->setText(Text(text));
-    field->setAccessibleName(Text(text).remove(u'&').remove(u':'));
+  const auto label = [](QLabel* title, QWidget* field, const char* text) {
+    title->setText(Texts::tr(text));
+    field->setAccessibleName(Texts::tr(text).remove(u'&').remove(u':'));
   };
-  label(m_formatLabel, m_format, TextID::kCheckSystem);
-  label(m_fieldLabel, m_field, TextID::kCheckField);
-  label(m_dialectLabel, m_dialect, TextID::kCheckFile);
-  m_all->setText(Text(TextID::kAllAssignments));
-  m_all->setAccessibleName(Text(TextID::kAllAssignments).remove(u'&'));
-  m_assignments->setAccessibleName(Text(TextID::kAssignments));
+  label(m_formatLabel, m_format, QT_TRANSLATE_NOOP("Texts", "&System:"));
+  label(m_fieldLabel, m_field, QT_TRANSLATE_NOOP("Texts", "Student &field:"));
+  label(m_dialectLabel, m_dialect, QT_TRANSLATE_NOOP("Texts", "Fi&le:"));
+  m_all->setText(Texts::tr("&All assignments"));
+  m_all->setAccessibleName(Texts::tr("&All assignments").remove(u'&'));
+  m_assignments->setAccessibleName(Texts::tr("Assignments"));
   ShowFields();
   ShowDialects();
 }

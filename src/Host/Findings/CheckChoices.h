@@ -28,10 +28,11 @@ class CheckChoices : public QWidget {
   // The export that is chosen. The class outlives it.
   ExportSubject Subject() const;
 
-  // Told of a change of the language.
-  void Retranslate();
+ protected:
+  void changeEvent(QEvent* event) override;
 
  private:
+  void Retranslate();
   const FormatRow& Format() const;
   qz::UserIDField Identifier() const;
   Dialect ChosenDialect() const;

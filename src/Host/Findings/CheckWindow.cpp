@@ -1,5 +1,6 @@
 #include "Host/Findings/CheckWindow.h"
 
+#include <QEvent>
 #include <QPushButton>
 #include <QScreen>
 #include <QSplitter>
@@ -7,7 +8,7 @@
 #include <utility>
 
 #include "Host/App/CloseKeys.h"
-#include "Host/App/HostTexts.h"
+#include "Host/App/Texts.h"
 #include "Host/Findings/CheckChoices.h"
 #include "Host/Findings/FindingsView.h"
 #include "Systems/LearningSystem.h"
@@ -48,12 +49,16 @@ void CheckWindow::Check() {
   m_findings->Show(CheckExport(subject), subject);
 }
 
+void CheckWindow::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::LanguageChange) Retranslate();
+}
+
 void CheckWindow::Retranslate() {
-  setWindowTitle(Text(TextID::kCheckTitle).arg(m_class->name));
+  setWindowTitle(Texts::tr("Check – %1").arg(m_class->name));
   setAccessibleName(windowTitle());
-  m_choices->Retranslate();
-  m_close->setText(Text(TextID::kClose));
-  m_close->setAccessibleName(Text(TextID::kClose).remove(u'&'));
+  m_close->setText(Texts::tr("&Close"));
+  m_close->setAccessibleName(Texts::tr("&Close").remove(u'&'));
   Check();
 }
 

@@ -26,10 +26,11 @@ class CheckWindow : public QWidget {
   // Another class has taken the place of the shown one. Never null.
   void SetClass(std::shared_ptr<const OpenClass> openClass);
 
-  // Told of a change of the language.
-  void Retranslate();
+ protected:
+  void changeEvent(QEvent* event) override;
 
  private:
+  void Retranslate();
   void Check();
 
   std::shared_ptr<const OpenClass> m_class;

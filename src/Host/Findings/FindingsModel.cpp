@@ -4,7 +4,8 @@
 #include <QStringList>
 #include <QStyle>
 
-#include "Host/App/HostTexts.h"
+#include "Host/App/Language.h"
+#include "Host/App/Texts.h"
 #include "Host/ClassView/RomanText.h"
 
 namespace host {
@@ -48,7 +49,7 @@ void _AddPlaces(const Finding& finding, const ExportSubject& subject, QStandardI
     item->appendRow(row);
   }
   if (count > FindingsModel::kMaxPlaces) {
-    item->appendRow(_Item(Text(TextID::kAndMore).arg(count - FindingsModel::kMaxPlaces)));
+    item->appendRow(_Item(Texts::tr("and %1 more").arg(count - FindingsModel::kMaxPlaces)));
   }
 }
 
@@ -56,7 +57,7 @@ QStandardItem* _FindingItem(const Finding& finding, const ExportSubject& subject
   const TextLanguage language = FindingLanguage();
   const FindingText text = DescribeFinding(finding, subject, language);
   QStringList lines(LineFromUtf8(text.what));
-  if (!text.advice.empty()) lines.append(Text(TextID::kWhatToDo).arg(LineFromUtf8(text.advice)));
+  if (!text.advice.empty()) lines.append(Texts::tr("What to do: %1").arg(LineFromUtf8(text.advice)));
   QStandardItem* const item =
       _Item(QString::fromStdString(DescribeConsequence(finding.consequence, language)), lines);
   item->setIcon(_IconOf(finding.consequence));

@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "Host/App/HostTexts.h"
+#include "Host/App/Texts.h"
 #include "Host/Findings/FindingDelegate.h"
 #include "Systems/LearningSystem.h"
 
@@ -69,8 +69,9 @@ void FindingsView::Show(const Findings& findings, const ExportSubject& subject) 
   for (size_t i = 0; i < findings.size(); ++i) {
     m_tree->setExpanded(m_model.index(static_cast<int>(i), 0), IsTrouble(findings[i].consequence));
   }
-  m_tree->setAccessibleName(Text(TextID::kFindings));
-  m_nothing->setText(Text(TextID::kNothingFound).arg(QString::fromUtf8(SystemOf(*subject.format).name)));
+  m_tree->setAccessibleName(Texts::tr("What will happen"));
+  m_nothing->setText(Texts::tr("As far as this class tells, its results will arrive in %1.")
+                         .arg(QString::fromUtf8(SystemOf(*subject.format).name)));
   m_pages->setCurrentIndex(findings.empty() ? 1 : 0);
   ShowSummary(findings);
 }
@@ -79,8 +80,9 @@ void FindingsView::ShowSummary(const Findings& findings) {
   const auto problems =
       std::ranges::count_if(findings, [](const Finding& finding) { return IsTrouble(finding.consequence); });
   const auto notes = static_cast<qsizetype>(findings.size()) - problems;
-  QString text = problems == 0 ? Text(TextID::kNoProblems) : Text(TextID::kProblems).arg(problems);
-  if (notes > 0) text += QLatin1String("   ") + Text(TextID::kNotes).arg(notes);
+  QString text =
+      problems == 0 ? Texts::tr("No problems were found.") : Texts::tr("Problems: %1").arg(problems);
+  if (notes > 0) text += QLatin1String("   ") + Texts::tr("Good to know: %1").arg(notes);
   m_summary->setText(text);
 }
 

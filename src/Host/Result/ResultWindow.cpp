@@ -2,6 +2,7 @@
 
 #include <QDesktopServices>
 #include <QDir>
+#include <QEvent>
 #include <QFile>
 #include <QFileInfo>
 #include <QFontDatabase>
@@ -18,7 +19,7 @@
 #include <QVBoxLayout>
 
 #include "Host/App/CloseKeys.h"
-#include "Host/App/HostTexts.h"
+#include "Host/App/Texts.h"
 #include "Host/ClassView/RomanText.h"
 #include "Host/Result/CsvTableModel.h"
 
@@ -111,38 +112,44 @@ void ResultWindow::AddButtons(const QString& path) {
 QString ResultWindow::Notes() const {
   QStringList notes;
   if (m_file.replacedCharacters > 0)
-    notes.append(Text(TextID::kReplacedCharacters).arg(m_file.replacedCharacters));
+    notes.append(Texts::tr("Characters of the class that became “?” because the file cannot hold them: %1")
+                     .arg(m_file.replacedCharacters));
   if (m_file.studentsWithoutIdentifier > 0)
-    notes.append(Text(TextID::kWithoutIdentifier).arg(m_file.studentsWithoutIdentifier));
+    notes.append(Texts::tr("Students without an identifier: %1").arg(m_file.studentsWithoutIdentifier));
   return notes.join(u'\n');
 }
 
+void ResultWindow::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::LanguageChange) Retranslate();
+}
+
 void ResultWindow::Retranslate() {
-  setWindowTitle(Text(TextID::kResultTitle).arg(QFileInfo(m_file.path).fileName()));
+  setWindowTitle(Texts::tr("Exported file: %1").arg(QFileInfo(m_file.path).fileName()));
   setAccessibleName(windowTitle());
-  constexpr TextID kTabs[] = {TextID::kResultTable, TextID::kResultText};
+  constexpr const char* kTabs[] = {QT_TRANSLATE_NOOP("Texts", "Table"), QT_TRANSLATE_NOOP("Texts", "Text")};
   int tab = 0;
-  for (const TextID title : kTabs) {
-    m_tabs->setTabText(tab, Text(title));
-    m_tabs->widget(tab++)->setAccessibleName(Text(title));
+  for (const char* const title : kTabs) {
+    m_tabs->setTabText(tab, Texts::tr(title));
+    m_tabs->widget(tab++)->setAccessibleName(Texts::tr(title));
   }
   m_tabs->setAccessibleName(windowTitle());
-  m_cut->setText(Text(TextID::kResultTooLarge));
+  m_cut->setText(Texts::tr("The file is too large to be shown here completely; this is its beginning."));
   m_notes->setText(Notes());
   m_notes->setVisible(!m_notes->text().isEmpty());
-  constexpr TextID kDetails[] = {TextID::kResultPath, TextID::kResultSize};
-  const QLocale locale(CurrentLanguage() == HostLanguage::kSpanish ? QLocale::Spanish : QLocale::English);
-  m_sizeText->setText(locale.formattedDataSize(m_size));
+  constexpr const char* kDetails[] = {QT_TRANSLATE_NOOP("Texts", "File:"),
+                                      QT_TRANSLATE_NOOP("Texts", "Size:")};
+  m_sizeText->setText(QLocale().formattedDataSize(m_size));
   int row = 0;
-  for (const TextID title : kDetails) {
+  for (const char* const title : kDetails) {
     auto* const label = static_cast<QLabel*>(m_details->itemAt(row, QFormLayout::LabelRole)->widget());
-    label->setText(Text(title));
-    m_details->itemAt(row++, QFormLayout::FieldRole)->widget()->setAccessibleName(Text(title));
+    label->setText(Texts::tr(title));
+    m_details->itemAt(row++, QFormLayout::FieldRole)->widget()->setAccessibleName(Texts::tr(title));
   }
-  m_openFolder->setText(Text(TextID::kOpenFolder));
-  m_openFolder->setAccessibleName(Text(TextID::kOpenFolder).remove(u'&'));
-  m_close->setText(Text(TextID::kClose));
-  m_close->setAccessibleName(Text(TextID::kClose).remove(u'&'));
+  m_openFolder->setText(Texts::tr("Open &folder"));
+  m_openFolder->setAccessibleName(Texts::tr("Open &folder").remove(u'&'));
+  m_close->setText(Texts::tr("&Close"));
+  m_close->setAccessibleName(Texts::tr("&Close").remove(u'&'));
 }
 
 }  // namespace host

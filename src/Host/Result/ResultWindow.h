@@ -25,10 +25,11 @@ class ResultWindow : public QWidget {
   // Reads the file, a very large one in part. Says how many characters and identifiers are missing.
   ResultWindow(QWidget* parent, const ExportedFile& file);
 
-  // Told of a change of the language.
-  void Retranslate();
+ protected:
+  void changeEvent(QEvent* event) override;
 
  private:
+  void Retranslate();
   void AddTabs(const QByteArray& bytes);
   void AddDetails(const QString& path);
   void AddButtons(const QString& path);

@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "Host/App/RecentFiles.h"
+#include "Host/App/Texts.h"
 
 namespace host {
 
@@ -58,7 +59,7 @@ void MainActions::FillRecentMenu() {
     action->setEnabled(m_open->isEnabled());
   }
   m_recentMenu->setToolTipsVisible(true);
-  if (number == 0) m_recentMenu->addAction(Text(TextID::kNoRecentFiles))->setEnabled(false);
+  if (number == 0) m_recentMenu->addAction(Texts::tr("No recent classes"))->setEnabled(false);
 }
 
 void MainActions::AddExportMenu() {
@@ -139,26 +140,26 @@ void MainActions::SetCheckEnabled(bool enabled) {
 }
 
 void MainActions::Retranslate() {
-  const auto title = [](QMenu* menu, TextID id) {
-    menu->setTitle(Text(id));
-    menu->setAccessibleName(Text(id).remove(u'&'));
+  const auto title = [](QMenu* menu, const char* id) {
+    menu->setTitle(Texts::tr(id));
+    menu->setAccessibleName(Texts::tr(id).remove(u'&'));
   };
-  title(m_fileMenu, TextID::kFileMenu);
-  title(m_recentMenu, TextID::kRecentMenu);
-  title(m_exportMenu, TextID::kExportMenu);
-  title(m_languageMenu, TextID::kLanguageMenu);
-  title(m_helpMenu, TextID::kHelpMenu);
-  m_open->setText(Text(TextID::kOpen));
-  m_quit->setText(Text(TextID::kQuit));
-  m_about->setText(Text(TextID::kAbout));
-  m_english->setText(Text(TextID::kEnglish));
-  m_spanish->setText(Text(TextID::kSpanish));
-  m_noFormats->setText(Text(TextID::kNoFormats));
-  m_check->setText(Text(TextID::kCheck));
-  m_exportButton->setText(Text(TextID::kExport));
-  m_exportButton->setAccessibleName(Text(TextID::kExport));
-  m_toolBar->setWindowTitle(Text(TextID::kToolBar));
-  m_toolBar->setAccessibleName(Text(TextID::kToolBar));
+  title(m_fileMenu, QT_TRANSLATE_NOOP("Texts", "&File"));
+  title(m_recentMenu, QT_TRANSLATE_NOOP("Texts", "Open &Recent"));
+  title(m_exportMenu, QT_TRANSLATE_NOOP("Texts", "&Export"));
+  title(m_languageMenu, QT_TRANSLATE_NOOP("Texts", "&Language"));
+  title(m_helpMenu, QT_TRANSLATE_NOOP("Texts", "&Help"));
+  m_open->setText(Texts::tr("&Open Class…"));
+  m_quit->setText(Texts::tr("&Quit"));
+  m_about->setText(Texts::tr("&About Gradix"));
+  m_english->setText(Texts::tr("English"));
+  m_spanish->setText(Texts::tr("Español"));
+  m_noFormats->setText(Texts::tr("No formats available"));
+  m_check->setText(Texts::tr("&Check…"));
+  m_exportButton->setText(Texts::tr("Export"));
+  m_exportButton->setAccessibleName(Texts::tr("Export"));
+  m_toolBar->setWindowTitle(Texts::tr("Tools"));
+  m_toolBar->setAccessibleName(Texts::tr("Tools"));
   for (QAction* const action : {m_open, m_check}) {
     m_toolBar->widgetForAction(action)->setAccessibleName(action->text().remove(u'&'));
   }

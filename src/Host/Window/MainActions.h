@@ -7,7 +7,7 @@
 #include <functional>
 #include <vector>
 
-#include "Host/App/HostTexts.h"
+#include "Host/App/Language.h"
 #include "Host/Export/FilterModule.h"
 
 class QAction;

@@ -17,9 +17,9 @@
 #include <utility>
 
 #include "Host/App/FileDialogs.h"
-#include "Host/App/LanguageSetting.h"
 #include "Host/App/Messages.h"
 #include "Host/App/RecentFiles.h"
+#include "Host/App/Texts.h"
 #include "Host/ClassView/AssignmentPanel.h"
 #include "Host/ClassView/ReadFaultText.h"
 #include "Host/Findings/CheckWindow.h"
@@ -108,7 +108,7 @@ void MainWindow::AddProgress() {
   m_progressDelay.setInterval(kProgressDelay);
   connect(&m_progressDelay, &QTimer::timeout, this, [this] {
     m_progress->show();
-    statusBar()->showMessage(Text(TextID::kReading).arg(m_readingName));
+    statusBar()->showMessage(Texts::tr("Reading “%1”…").arg(m_readingName));
   });
 }
 
@@ -119,10 +119,10 @@ void MainWindow::LoadFilter() {
 }
 
 void MainWindow::AskForClassFile() {
-  auto* const dialog = new QFileDialog(this, Text(TextID::kOpenTitle));
+  auto* const dialog = new QFileDialog(this, Texts::tr("Open Class"));
   SetUpFileDialog(dialog, QStringLiteral("openChooser"), QFileDialog::AcceptOpen);
   dialog->setAttribute(Qt::WA_DeleteOnClose);
-  dialog->setNameFilters({Text(TextID::kClassFiles), Text(TextID::kAllFiles)});
+  dialog->setNameFilters({Texts::tr("Class files (*.xml)"), Texts::tr("All files (*)")});
   if (m_class != nullptr) dialog->setDirectory(QFileInfo(m_class->path).absolutePath());
   connect(dialog, &QFileDialog::fileSelected, this, &MainWindow::OpenClassFile);
   dialog->open();
@@ -134,13 +134,15 @@ void MainWindow::OpenRecentFile(const QString& path) {
     return;
   }
   RemoveRecentFile(path);
-  ShowMessage(this, Text(TextID::kRecentGone).arg(path), Text(TextID::kRecentGoneAdvice));
+  ShowMessage(
+      this, Texts::tr("The class file “%1” is no longer there.").arg(path),
+      Texts::tr("It was taken off the list of recent classes. If it was moved, open it from its new place."));
 }
 
 void MainWindow::OpenClassFile(const QString& path) {
   const bool started = m_loader.Load(path, [this](const ReadResult& result) { ClassRead(result); });
   if (!started) {
-    statusBar()->showMessage(Text(TextID::kBusyReading));
+    statusBar()->showMessage(Texts::tr("Another class is being read. Please wait a moment."));
     return;
   }
   m_readingName = QFileInfo(path).fileName();
@@ -220,23 +222,27 @@ void MainWindow::ExportStateChanged(const QString& status) {
 
 void MainWindow::SetLanguage(HostLanguage language) {
   ChangeLanguage(language);
+  statusBar()->showMessage(m_export.IsRunning() ? Texts::tr("An export is under way") : QString());
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() != QEvent::LanguageChange) return;
   Retranslate();
   m_actions.Retranslate();
   m_model.Retranslate();
   FitColumns(ClassTableModel::kFirstAssignmentColumn);
-  m_panel->Retranslate();
-  m_export.Retranslate();
-  if (m_check != nullptr) m_check->Retranslate();
-  statusBar()->showMessage(m_export.IsRunning() ? Text(TextID::kExportUnderWay) : QString());
 }
 
 void MainWindow::ShowAbout() {
-  auto* const box = new QMessageBox(QMessageBox::Information, Text(TextID::kAboutTitle),
-                                    Text(TextID::kAboutText).arg(QStringLiteral(GRADIX_VERSION)),
-                                    QMessageBox::NoButton, this);
-  box->addButton(Text(TextID::kOk), QMessageBox::AcceptRole);
+  auto* const box = new QMessageBox(
+      QMessageBox::Information, Texts::tr("About Gradix"),
+      Texts::tr("Gradix %1\n\nShows a class and exports its results to the gradebooks of learning systems.")
+          .arg(QStringLiteral(GRADIX_VERSION)),
+      QMessageBox::NoButton, this);
+  box->addButton(Texts::tr("OK"), QMessageBox::AcceptRole);
   box->setAttribute(Qt::WA_DeleteOnClose);
-  box->setAccessibleName(Text(TextID::kAboutTitle));
+  box->setAccessibleName(Texts::tr("About Gradix"));
   box->open();
 }
 
@@ -250,17 +256,19 @@ void MainWindow::UpdateActions() {
 }
 
 void MainWindow::Retranslate() {
-  const QString program = Text(TextID::kProgram);
+  const QString program = Texts::tr("Gradix");
   setWindowTitle(m_class == nullptr ? program : m_class->name + QStringLiteral(" – ") + program);
   setAccessibleName(windowTitle());
-  m_emptyHint->setText(Text(TextID::kEmptyHint));
-  m_emptyHint->setAccessibleName(Text(TextID::kEmptyHint));
-  m_emptyButton->setText(Text(TextID::kEmptyButton));
-  m_emptyButton->setAccessibleName(Text(TextID::kEmptyButton));
-  m_table->setAccessibleName(Text(TextID::kClassTable));
-  m_progress->setAccessibleName(Text(TextID::kReading).arg(m_readingName));
+  m_emptyHint->setText(
+      Texts::tr("Open a class file to see its students and results.\nYou can also drop one on this window."));
+  m_emptyHint->setAccessibleName(
+      Texts::tr("Open a class file to see its students and results.\nYou can also drop one on this window."));
+  m_emptyButton->setText(Texts::tr("Open a class file…"));
+  m_emptyButton->setAccessibleName(Texts::tr("Open a class file…"));
+  m_table->setAccessibleName(Texts::tr("Students and their points"));
+  m_progress->setAccessibleName(Texts::tr("Reading “%1”…").arg(m_readingName));
   if (m_class == nullptr) return;
-  m_summary->setText(Text(TextID::kClassSummary)
+  m_summary->setText(Texts::tr("Students: %1   Assignments: %2")
                          .arg(m_class->record.students.size())
                          .arg(m_class->record.assignments.size()));
   m_summary->setAccessibleName(m_summary->text());
@@ -275,7 +283,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
   event->ignore();
   m_quitPatience.start();
   m_export.CloseDialog();
-  if (m_export.IsRunning()) statusBar()->showMessage(Text(TextID::kCloseDialogFirst));
+  if (m_export.IsRunning()) statusBar()->showMessage(Texts::tr("Close the export dialog first"));
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {

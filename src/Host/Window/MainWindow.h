@@ -36,6 +36,7 @@ class MainWindow : public QMainWindow {
   void OpenClassFile(const QString& path);
 
  protected:
+  void changeEvent(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;

@@ -1,0 +1,10 @@
+#include "Host/Findings/BeforeDialog.h"
+
+namespace host {
+
+void TellBeforeDialog(QWidget* /*parent*/, const OpenClass& /*openClass*/, const FormatRow& /*format*/,
+                      BeforeDialogHandlers handlers) {
+  handlers.openDialog();
+}
+
+}  // namespace host

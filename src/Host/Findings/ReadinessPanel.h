@@ -1,0 +1,50 @@
+// Whether the open class is ready for a learning system: what will happen to its file, worst first.
+#ifndef GRADIX_READINESSPANEL_H
+#define GRADIX_READINESSPANEL_H
+
+#include <QWidget>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "Host/ClassView/ClassReader.h"
+#include "Host/ClassView/ProblemMarks.h"
+#include "Systems/ExportSubject.h"
+
+namespace host {
+
+// System, student field and kind of file are chosen in it and remembered: the system, and for each system its
+// field.
+class ReadinessPanel : public QWidget {
+ public:
+  struct Handlers {
+    std::function<void()> changed;  // another choice, or the class
+    std::function<void(const std::vector<FindingPlace>& places)> placesChosen;  // the user wants to see them
+  };
+
+  ReadinessPanel(QWidget* parent, Handlers handlers);
+
+  // Never null.
+  void SetClass(std::shared_ptr<const OpenClass> openClass);
+
+  const FormatRow& Format() const;
+  qz::UserIDField Identifier() const;
+  Dialect ChosenDialect() const;
+
+  // Chooses the format with its remembered or proposed field.
+  void ChooseFormat(const FormatRow& format);
+  void ChooseIdentifier(qz::UserIDField field);
+
+  // Of the class and the choices, in the current language.
+  ProblemMarks Marks() const;
+
+ protected:
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void Retranslate();
+};
+
+}  // namespace host
+
+#endif  // GRADIX_READINESSPANEL_H

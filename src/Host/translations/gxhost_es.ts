@@ -1,0 +1,571 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es">
+<context>
+    <name>Texts</name>
+    <message>
+        <source>Gradix</source>
+        <translation>Gradix</translation>
+    </message>
+    <message>
+        <source>Shows a class and exports its results to a gradebook file.</source>
+        <translation>Muestra una clase y exporta sus resultados a un archivo de calificaciones.</translation>
+    </message>
+    <message>
+        <source>Class file to open (XML).</source>
+        <translation>Archivo de clase que se abrirá (XML).</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Archivo</translation>
+    </message>
+    <message>
+        <source>&amp;Open Class…</source>
+        <translation>A&amp;brir clase…</translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>Abrir &amp;recientes</translation>
+    </message>
+    <message>
+        <source>No recent classes</source>
+        <translation>No hay clases recientes</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Salir</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>&amp;Exportar</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportar</translation>
+    </message>
+    <message>
+        <source>No formats available</source>
+        <translation>No hay formatos disponibles</translation>
+    </message>
+    <message>
+        <source>&amp;Check…</source>
+        <translation>&amp;Comprobar…</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Idioma</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>Español</source>
+        <translation>Español</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <source>&amp;About Gradix</source>
+        <translation>&amp;Acerca de Gradix</translation>
+    </message>
+    <message>
+        <source>About Gradix</source>
+        <translation>Acerca de Gradix</translation>
+    </message>
+    <message>
+        <source>Gradix %1
+
+Shows a class and exports its results to the gradebooks of learning systems.</source>
+        <translation>Gradix %1
+
+Muestra una clase y exporta sus resultados a los libros de calificaciones de plataformas de aprendizaje.</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Herramientas</translation>
+    </message>
+    <message>
+        <source>Open a class file to see its students and results.
+You can also drop one on this window.</source>
+        <translation>Abra un archivo de clase para ver sus estudiantes y resultados.
+También puede arrastrarlo a esta ventana.</translation>
+    </message>
+    <message>
+        <source>Open a class file…</source>
+        <translation>Abrir un archivo de clase…</translation>
+    </message>
+    <message>
+        <source>Open Class</source>
+        <translation>Abrir clase</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Class files (*.xml)</source>
+        <translation>Archivos de clase (*.xml)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Reading “%1”…</source>
+        <translation>Leyendo «%1»…</translation>
+    </message>
+    <message>
+        <source>Another class is being read. Please wait a moment.</source>
+        <translation>Se está leyendo otra clase. Espere un momento.</translation>
+    </message>
+    <message>
+        <source>Students and their points</source>
+        <translation>Estudiantes y sus puntos</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Student ID</source>
+        <translation>ID de estudiante</translation>
+    </message>
+    <message>
+        <source>No result</source>
+        <translation>Sin resultado</translation>
+    </message>
+    <message>
+        <source>Points possible: %1</source>
+        <translation>Puntos posibles: %1</translation>
+    </message>
+    <message>
+        <source>Date: %1</source>
+        <translation>Fecha: %1</translation>
+    </message>
+    <message>
+        <source>Students: %1   Assignments: %2</source>
+        <translation>Estudiantes: %1   Tareas: %2</translation>
+    </message>
+    <message>
+        <source>Assignment</source>
+        <translation>Tarea</translation>
+    </message>
+    <message>
+        <source>&amp;Assignment:</source>
+        <translation>&amp;Tarea:</translation>
+    </message>
+    <message>
+        <source>This class has no assignments yet.</source>
+        <translation>Esta clase aún no tiene tareas.</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation>Estadísticas</translation>
+    </message>
+    <message>
+        <source>Students</source>
+        <translation>Estudiantes</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>Resultados</translation>
+    </message>
+    <message>
+        <source>Missing</source>
+        <translation>Faltan</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>Media</translation>
+    </message>
+    <message>
+        <source>Median</source>
+        <translation>Mediana</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>Mínimo</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Máximo</translation>
+    </message>
+    <message>
+        <source>Standard deviation</source>
+        <translation>Desviación estándar</translation>
+    </message>
+    <message>
+        <source>Points possible</source>
+        <translation>Puntos posibles</translation>
+    </message>
+    <message>
+        <source>Score distribution</source>
+        <translation>Distribución de puntos</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>Puntos</translation>
+    </message>
+    <message>
+        <source>No results yet</source>
+        <translation>Aún no hay resultados</translation>
+    </message>
+    <message>
+        <source>%1 to %2: %3</source>
+        <translation>%1 a %2: %3</translation>
+    </message>
+    <message>
+        <source>Check – %1</source>
+        <translation>Comprobar: %1</translation>
+    </message>
+    <message>
+        <source>&amp;System:</source>
+        <translation>&amp;Plataforma:</translation>
+    </message>
+    <message>
+        <source>Student &amp;field:</source>
+        <translation>Campo del &amp;estudiante:</translation>
+    </message>
+    <message>
+        <source>Fi&amp;le:</source>
+        <translation>Archi&amp;vo:</translation>
+    </message>
+    <message>
+        <source>Classic file</source>
+        <translation>Archivo clásico</translation>
+    </message>
+    <message>
+        <source>Current file</source>
+        <translation>Archivo actual</translation>
+    </message>
+    <message>
+        <source>The file that the Export menu writes.</source>
+        <translation>El archivo que escribe el menú Exportar.</translation>
+    </message>
+    <message>
+        <source>The file for today&apos;s %1. The program gxexport writes it, with the option --dialect current.</source>
+        <translation>El archivo para %1 en su versión de hoy. Lo escribe el programa gxexport, con la opción --dialect current.</translation>
+    </message>
+    <message>
+        <source>&amp;All assignments</source>
+        <translation>&amp;Todas las tareas</translation>
+    </message>
+    <message>
+        <source>Assignments</source>
+        <translation>Tareas</translation>
+    </message>
+    <message>
+        <source>What will happen</source>
+        <translation>Qué ocurrirá</translation>
+    </message>
+    <message>
+        <source>What to do: %1</source>
+        <translation>Qué hacer: %1</translation>
+    </message>
+    <message>
+        <source>Problems: %1</source>
+        <translation>Problemas: %1</translation>
+    </message>
+    <message>
+        <source>No problems were found.</source>
+        <translation>No se encontraron problemas.</translation>
+    </message>
+    <message>
+        <source>Good to know: %1</source>
+        <translation>Conviene saber: %1</translation>
+    </message>
+    <message>
+        <source>As far as this class tells, its results will arrive in %1.</source>
+        <translation>Por lo que indica esta clase, sus resultados llegarán a %1.</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>y %1 más</translation>
+    </message>
+    <message>
+        <source>The class file “%1” could not be opened.</source>
+        <translation>No se pudo abrir el archivo de clase «%1».</translation>
+    </message>
+    <message>
+        <source>%1
+
+Check that the file is still there and that you may read it.</source>
+        <translation>%1
+
+Compruebe que el archivo siga ahí y que tenga permiso para leerlo.</translation>
+    </message>
+    <message>
+        <source>The class file “%1” could not be read to its end.</source>
+        <translation>No se pudo leer hasta el final el archivo de clase «%1».</translation>
+    </message>
+    <message>
+        <source>The class file “%1” is damaged: line %2, column %3.</source>
+        <translation>El archivo de clase «%1» está dañado: línea %2, columna %3.</translation>
+    </message>
+    <message>
+        <source>The reader says: %1.
+
+</source>
+        <translation>El lector indica: %1.
+
+</translation>
+    </message>
+    <message>
+        <source>Save the class again in the class manager, or open a copy from a backup.</source>
+        <translation>Guarde de nuevo la clase en el gestor de clases o abra una copia de seguridad.</translation>
+    </message>
+    <message>
+        <source>“%1” is not a class file.</source>
+        <translation>«%1» no es un archivo de clase.</translation>
+    </message>
+    <message>
+        <source>Choose a file that the class manager saved. Its name usually ends in .xml.</source>
+        <translation>Elija un archivo guardado por el gestor de clases. Su nombre suele terminar en .xml.</translation>
+    </message>
+    <message>
+        <source>The class file “%1” is written in an encoding that cannot be read.</source>
+        <translation>El archivo de clase «%1» está escrito en una codificación que no se puede leer.</translation>
+    </message>
+    <message>
+        <source>The reader says: %1.
+
+Save it as UTF-8 with a text editor.</source>
+        <translation>El lector indica: %1.
+
+Guárdelo como UTF-8 con un editor de texto.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to open “%1”.</source>
+        <translation>No hay memoria suficiente para abrir «%1».</translation>
+    </message>
+    <message>
+        <source>Close other programs and try again.</source>
+        <translation>Cierre otros programas e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The class file “%1” is no longer there.</source>
+        <translation>El archivo de clase «%1» ya no está.</translation>
+    </message>
+    <message>
+        <source>It was taken off the list of recent classes. If it was moved, open it from its new place.</source>
+        <translation>Se quitó de la lista de clases recientes. Si se movió, ábralo desde su nuevo lugar.</translation>
+    </message>
+    <message>
+        <source>The export filter was not found. Classes can be viewed, but not exported.</source>
+        <translation>No se encontró el filtro de exportación. Las clases se pueden ver, pero no exportar.</translation>
+    </message>
+    <message>
+        <source>It was looked for here:
+%1
+
+Install Gradix again.</source>
+        <translation>Se buscó aquí:
+%1
+
+Vuelva a instalar Gradix.</translation>
+    </message>
+    <message>
+        <source>The export filter could not be loaded.</source>
+        <translation>No se pudo cargar el filtro de exportación.</translation>
+    </message>
+    <message>
+        <source>The export filter does not fit this program.</source>
+        <translation>El filtro de exportación no corresponde a este programa.</translation>
+    </message>
+    <message>
+        <source>%1
+
+Install Gradix again, so that both come from the same version.</source>
+        <translation>%1
+
+Vuelva a instalar Gradix para que ambos sean de la misma versión.</translation>
+    </message>
+    <message>
+        <source>The export filter offers no formats. Classes can be viewed, but not exported.</source>
+        <translation>El filtro de exportación no ofrece ningún formato. Las clases se pueden ver, pero no exportar.</translation>
+    </message>
+    <message>
+        <source>Its resource file is probably missing. Install Gradix again.</source>
+        <translation>Probablemente falta su archivo de recursos. Vuelva a instalar Gradix.</translation>
+    </message>
+    <message>
+        <source>The export could not be started: the filter does not know the format “%1”.</source>
+        <translation>No se pudo iniciar la exportación: el filtro no conoce el formato «%1».</translation>
+    </message>
+    <message>
+        <source>The filter could not read the class file or its own resource file.</source>
+        <translation>El filtro no pudo leer el archivo de clase o su propio archivo de recursos.</translation>
+    </message>
+    <message>
+        <source>Check that “%1” is still there and open it again. If it opens, install Gradix again.</source>
+        <translation>Compruebe que «%1» siga ahí y ábralo de nuevo. Si se abre, vuelva a instalar Gradix.</translation>
+    </message>
+    <message>
+        <source>The export failed: the filter has lost its session.</source>
+        <translation>La exportación falló: el filtro perdió su sesión.</translation>
+    </message>
+    <message>
+        <source>Try again. If it fails again, quit Gradix and open the class again.</source>
+        <translation>Inténtelo de nuevo. Si vuelve a fallar, salga de Gradix y abra la clase de nuevo.</translation>
+    </message>
+    <message>
+        <source>An export is under way</source>
+        <translation>Hay una exportación en curso</translation>
+    </message>
+    <message>
+        <source>Nothing was exported</source>
+        <translation>No se exportó nada</translation>
+    </message>
+    <message>
+        <source>Exported to %1</source>
+        <translation>Exportado a %1</translation>
+    </message>
+    <message>
+        <source>The export failed</source>
+        <translation>La exportación falló</translation>
+    </message>
+    <message>
+        <source>The export has ended</source>
+        <translation>La exportación terminó</translation>
+    </message>
+    <message>
+        <source>Close the export dialog first</source>
+        <translation>Cierre primero el diálogo de exportación</translation>
+    </message>
+    <message>
+        <source>Export To</source>
+        <translation>Exportar a</translation>
+    </message>
+    <message>
+        <source>Gradebook files (*.%1)</source>
+        <translation>Archivos de calificaciones (*.%1)</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>File &amp;name:</source>
+        <translation>&amp;Nombre de archivo:</translation>
+    </message>
+    <message>
+        <source>Files of type:</source>
+        <translation>Tipo de archivo:</translation>
+    </message>
+    <message>
+        <source>Look in:</source>
+        <translation>Buscar en:</translation>
+    </message>
+    <message>
+        <source>Replace File</source>
+        <translation>Reemplazar archivo</translation>
+    </message>
+    <message>
+        <source>“%1” already exists. Do you want to replace it?</source>
+        <translation>«%1» ya existe. ¿Desea reemplazarlo?</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Reemplazar</translation>
+    </message>
+    <message>
+        <source>The name of the file with all its folders is too long.</source>
+        <translation>El nombre del archivo con todas sus carpetas es demasiado largo.</translation>
+    </message>
+    <message>
+        <source>It may have at most %1 bytes. Choose a shorter name or another folder.</source>
+        <translation>Puede tener como máximo %1 bytes. Elija un nombre más corto u otra carpeta.</translation>
+    </message>
+    <message>
+        <source>“%1” is the open class. Exporting to it would destroy the class.</source>
+        <translation>«%1» es la clase abierta. Exportar a ese archivo destruiría la clase.</translation>
+    </message>
+    <message>
+        <source>Choose another name or another folder.</source>
+        <translation>Elija otro nombre u otra carpeta.</translation>
+    </message>
+    <message>
+        <source>The file “%1” could not be written.</source>
+        <translation>No se pudo escribir el archivo «%1».</translation>
+    </message>
+    <message>
+        <source>Only a part of the file “%1” could be written. It took the place of the earlier one; do not use it.</source>
+        <translation>Solo se pudo escribir una parte del archivo «%1». Ocupa el lugar del anterior; no lo use.</translation>
+    </message>
+    <message>
+        <source>The disk is full (%1).
+
+Make room on it, or choose a folder on another disk, and export again.</source>
+        <translation>El disco está lleno (%1).
+
+Libere espacio o elija una carpeta en otro disco y exporte de nuevo.</translation>
+    </message>
+    <message>
+        <source>%1
+
+Check that the folder exists, that you may write to it and that the disk is not full. Then export again, perhaps to another folder.</source>
+        <translation>%1
+
+Compruebe que la carpeta exista, que tenga permiso de escritura y que el disco no esté lleno. Después exporte de nuevo, quizás a otra carpeta.</translation>
+    </message>
+    <message>
+        <source>The export filter does not tell whether “%1” was written.</source>
+        <translation>El filtro de exportación no indica si se escribió «%1».</translation>
+    </message>
+    <message>
+        <source>It is older than this program. Open the file and check that it is complete before you use it.</source>
+        <translation>Es más antiguo que este programa. Abra el archivo y compruebe que esté completo antes de usarlo.</translation>
+    </message>
+    <message>
+        <source>Exported file: %1</source>
+        <translation>Archivo exportado: %1</translation>
+    </message>
+    <message>
+        <source>Table</source>
+        <translation>Tabla</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>File:</source>
+        <translation>Archivo:</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>Tamaño:</translation>
+    </message>
+    <message>
+        <source>The file is too large to be shown here completely; this is its beginning.</source>
+        <translation>El archivo es demasiado grande para mostrarse completo; este es su comienzo.</translation>
+    </message>
+    <message>
+        <source>Characters of the class that became “?” because the file cannot hold them: %1</source>
+        <translation>Caracteres de la clase que se convirtieron en «?» porque el archivo no los admite: %1</translation>
+    </message>
+    <message>
+        <source>Students without an identifier: %1</source>
+        <translation>Estudiantes sin identificador: %1</translation>
+    </message>
+    <message>
+        <source>Open &amp;folder</source>
+        <translation>Abrir &amp;carpeta</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+</context>
+</TS>

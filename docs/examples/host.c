@@ -92,7 +92,14 @@ static void tell_outcome(const Filter* filter, unsigned long id) {
   if (filter->getExportOutcome == NULL || filter->getExportOutcome(id, &outcome) != QZFILTER_SUCCESS) {
     puts("This filter does not tell what became of the export.");
   } else if (outcome.state == QZFILTER_WRITTEN) {
-    printf("Written: %s, %u replaced characters\n", outcome.path, (unsigned)outcome.replacedCharacters);
+    printf("Written: %s, %u replaced characters, assignments", outcome.path,
+           (unsigned)outcome.replacedCharacters);
+    if (outcome.chosenAssignments != NULL) { /* an older filter does not tell */
+      for (uint32_t i = 0; i < outcome.assignments; ++i) {
+        printf(" %u", (unsigned)outcome.chosenAssignments[i] + 1);
+      }
+    }
+    putchar('\n');
   } else if (outcome.state == QZFILTER_NOT_WRITTEN) {
     printf("Not written: %s: %s\n", outcome.path, strerror(outcome.error));
   } else {

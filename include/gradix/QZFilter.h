@@ -94,6 +94,8 @@ typedef struct QZEXPORTFILE {
 #define QZFILTER_WRITTEN 2u   /* the file is there, complete */
 #define QZFILTER_NOT_WRITTEN 3u
 
+#define QZFILTER_FIRST_OUTCOME_SIZE 296u /* of the record's first version, which ended with its path */
+
 /* What became of an export. The host clears the record and sets its size. */
 typedef struct QZEXPORTOUTCOME {
   uint32_t size;        /* sizeof(QZEXPORTOUTCOME); later versions may have more members */
@@ -113,6 +115,15 @@ typedef struct QZEXPORTOUTCOME {
   uint32_t incomplete; /* 1: not written, and a part of it stands where the earlier file was */
 
   char path[QZFILTER_PATH_SIZE + 4]; /* as the file chooser gave it, always with its NUL */
+
+  /* More of the user's choices, told together with the others. */
+
+  /* Which assignments were chosen: as many positions as `assignments` says, ascending; null when there is
+   * none. They count from 0 in the class file's order. The filter's, valid until the next export begins. */
+  const uint32_t* chosenAssignments;
+
+  uint32_t useQuotes; /* 1: texts stand in quotes; 0 only in a format that lets the user choose */
+  uint32_t students;  /* of the class, as it was read for this export */
 } QZEXPORTOUTCOME;
 
 /* Returns the number of export formats; their indices start at 0. */
@@ -145,9 +156,9 @@ QZFILTER_API uint32_t QZFilter_ExportFileA(void* hostWindow, unsigned long id, c
 QZFILTER_API uint32_t QZFilter_ExportEnd(unsigned long id);
 
 /* Tells what became of an export: of a session that lives, and of one that has ended until the next begins.
- * Fills `record` as far as its size goes, with zeros where a later version knows more. Returns
+ * Fills `record` as the version of its size has it, with zeros where a later one knows more. Returns
  * QZFILTER_SUCCESS, or QZFILTER_FAILED with the record untouched for an unknown session and for a size below
- * 296, the record's first. A host finds it by name and does without where an older module has none. */
+ * QZFILTER_FIRST_OUTCOME_SIZE. A host finds it by name and does without where an older module has none. */
 QZFILTER_API uint32_t QZFilter_GetExportOutcome(unsigned long id, QZEXPORTOUTCOME* record);
 typedef uint32_t (*QZFilter_GetExportOutcomeProc)(unsigned long id, QZEXPORTOUTCOME* record);
 
@@ -164,12 +175,12 @@ QZFILTER_API int32_t DllMain(void* module, uint32_t reason, void* reserved);
 static_assert(sizeof(QZEXPORTBEGIN) == (sizeof(void*) == 4 ? 24 : 32), "QZEXPORTBEGIN layout");
 static_assert(sizeof(QZEXPORTFORMAT) == 80, "QZEXPORTFORMAT layout");
 static_assert(sizeof(QZEXPORTFILE) == 92, "QZEXPORTFILE layout");
-static_assert(sizeof(QZEXPORTOUTCOME) == 296, "QZEXPORTOUTCOME layout");
+static_assert(sizeof(QZEXPORTOUTCOME) == (sizeof(void*) == 4 ? 308 : 312), "QZEXPORTOUTCOME layout");
 #elif defined(__STDC_VERSION__) && __STDC_VERSION__ >= 201112L
 _Static_assert(sizeof(QZEXPORTBEGIN) == (sizeof(void*) == 4 ? 24 : 32), "QZEXPORTBEGIN layout");
 _Static_assert(sizeof(QZEXPORTFORMAT) == 80, "QZEXPORTFORMAT layout");
 _Static_assert(sizeof(QZEXPORTFILE) == 92, "QZEXPORTFILE layout");
-_Static_assert(sizeof(QZEXPORTOUTCOME) == 296, "QZEXPORTOUTCOME layout");
+_Static_assert(sizeof(QZEXPORTOUTCOME) == (sizeof(void*) == 4 ? 308 : 312), "QZEXPORTOUTCOME layout");
 #endif
 
 #endif /* GRADIX_QZFILTER_H */

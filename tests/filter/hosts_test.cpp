@@ -13,6 +13,7 @@
 namespace {
 
 constexpr int32_t kQuiz1 = 301;
+constexpr uint32_t kBlackboard91 = 5;
 
 class HostsTest : public FilterTest {
  protected:
@@ -175,20 +176,23 @@ TEST_F(HostsTest, EndsTheSessionHoweverTheDialogCloses) {
 
 // Whatever the dialog says.
 TEST_F(HostsTest, TellsWhatBecameOfAnExport) {
-  const std::string classFile = WriteClass(ClassXml({"1", "", "3"}, {{7, "\u6F22\u5B57"}, {8, "B"}}));
+  const std::string classFile =
+      WriteClass(ClassXml({"1", "", "3"}, {{6, "A"}, {7, "\u6F22\u5B57"}, {8, "B"}}));
   const std::string tooLong = PathOf(std::string(256 - PathOf("").size(), 'f'));  // leaves no room for a zero
   const struct {
     uint32_t format;
     std::string path;
     uint32_t state;
     int32_t error, field;
-    uint32_t assignments, withoutIdentifier;
+    std::vector<uint32_t> assignments;
+    uint32_t withoutIdentifier;
+    uint32_t useQuotes = 1;
   } rows[] = {
-      {kCanvas, tooLong, QZFILTER_WRITTEN, 0, 3, 2, 1},
-      {kDetailed, tooLong, QZFILTER_WRITTEN, 0, 0, 1, 0},
-      {kCanvas, PathOf("no-such-folder/a.csv"), QZFILTER_NOT_WRITTEN, ENOENT, 3, 2, 1},
-      {kDetailed, PathOf("no-such-folder/a.csv"), QZFILTER_NOT_WRITTEN, ENOENT, 0, 1, 0},
-      {kCanvas, "/dev/full", QZFILTER_NOT_WRITTEN, ENOSPC, 3, 2, 1},
+      {kCanvas, tooLong, QZFILTER_WRITTEN, 0, 3, {0, 2}, 1},
+      {kDetailed, tooLong, QZFILTER_WRITTEN, 0, 0, {1}, 0},
+      {kCanvas, PathOf("no-such-folder/a.csv"), QZFILTER_NOT_WRITTEN, ENOENT, 3, {0, 2}, 1},
+      {kDetailed, PathOf("no-such-folder/a.csv"), QZFILTER_NOT_WRITTEN, ENOENT, 0, {1}, 0},
+      {kBlackboard91, "/dev/full", QZFILTER_NOT_WRITTEN, ENOSPC, 3, {0, 2}, 1, 0},
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.path);
@@ -197,7 +201,12 @@ TEST_F(HostsTest, TellsWhatBecameOfAnExport) {
     EXPECT_EQ(ExportFile(session, classFile, 7), 1U);
     ASSERT_EQ(Dialogs().size(), 1U);
     QWidget* const dialog = Dialogs().front();
-    if (row.format == kCanvas) Click(dialog, kSelectAll);
+    if (row.format != kDetailed) {
+      Click(dialog, kSelectAll);
+      ToggleRow(dialog, kAssignments, 1, Input::mouse);
+    }
+    if (row.useQuotes == 0) Click(dialog, kWithoutQuotes);
+    EXPECT_EQ(Outcome(session).chosenAssignments, nullptr) << "nothing is decided";
     Click(dialog, OKItem(row.format));
     EXPECT_EQ(alerts.TakeTexts().back(), SavedText(row.path));
     const QZEXPORTOUTCOME outcome = Outcome(session);
@@ -205,7 +214,11 @@ TEST_F(HostsTest, TellsWhatBecameOfAnExport) {
     EXPECT_EQ(outcome.error, row.error);
     EXPECT_EQ(outcome.formatIndex, row.format);
     EXPECT_EQ(outcome.userIDField, row.field);
-    EXPECT_EQ(outcome.assignments, row.assignments);
+    EXPECT_EQ(
+        std::vector<uint32_t>(outcome.chosenAssignments, outcome.chosenAssignments + outcome.assignments),
+        row.assignments);
+    EXPECT_EQ(outcome.useQuotes, row.useQuotes);
+    EXPECT_EQ(outcome.students, 3U);
     EXPECT_EQ(outcome.replacedCharacters, 2U);
     EXPECT_EQ(outcome.studentsWithoutIdentifier, row.withoutIdentifier);
     EXPECT_EQ(outcome.path, row.path);

@@ -23,4 +23,6 @@ _Static_assert(sizeof(QZEXPORTFILE) == 92, "export-file record");
 _Static_assert(offsetof(QZEXPORTOUTCOME, error) == 8, "error");
 _Static_assert(offsetof(QZEXPORTOUTCOME, studentsWithoutIdentifier) == 28, "last count");
 _Static_assert(offsetof(QZEXPORTOUTCOME, path) == 36, "path");
-_Static_assert(sizeof(QZEXPORTOUTCOME) == 296, "outcome record");
+_Static_assert(offsetof(QZEXPORTOUTCOME, chosenAssignments) == QZFILTER_FIRST_OUTCOME_SIZE, "first version");
+_Static_assert(offsetof(QZEXPORTOUTCOME, useQuotes) == 296 + POINTER, "quotes");
+_Static_assert(sizeof(QZEXPORTOUTCOME) == 304 + POINTER, "outcome record");

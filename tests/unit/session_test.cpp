@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <cstring>
@@ -93,25 +94,46 @@ TEST(EntryPoints, KeepAnOutcomeUntilTheNextSession) {
   EXPECT_EQ(stateOf(first), 98U);
   EXPECT_EQ(stateOf(second), QZFILTER_PENDING);
 
-  // A record of a later version, and one that is none.
-  struct {
-    QZEXPORTOUTCOME outcome;
-    uint32_t later, beyond;
-  } record;
-  std::memset(&record, 0x5A, sizeof record);
-  record.outcome.size = offsetof(decltype(record), beyond);
-  EXPECT_EQ(QZFilter_GetExportOutcome(third, &record.outcome), QZFILTER_SUCCESS);
-  EXPECT_EQ(record.outcome.size, offsetof(decltype(record), beyond));
-  EXPECT_EQ(record.outcome.formatIndex, 6U);
-  EXPECT_EQ(record.later, 0U);
-  EXPECT_EQ(record.beyond, 0x5A5A5A5AU);
-  record.outcome.size = 295;
-  record.outcome.state = 99;
-  EXPECT_EQ(QZFilter_GetExportOutcome(third, &record.outcome), QZFILTER_FAILED);
-  EXPECT_EQ(record.outcome.state, 99U);
   EXPECT_EQ(QZFilter_GetExportOutcome(third, nullptr), QZFILTER_FAILED);
   g_sessionMgr.EndSession(second);
   g_sessionMgr.EndSession(third);
+}
+
+TEST(EntryPoints, TellAHostWhatItsRecordHasRoomFor) {
+  QZEXPORTBEGIN begin{};
+  begin.formatIndex = 6;
+  unsigned long id = 0;
+  ASSERT_EQ(QZFilter_ExportBeginA(nullptr, &begin, &id), QZFILTER_SUCCESS);
+  const uint32_t chosen[] = {3};
+  QZEXPORTOUTCOME& kept = g_sessionMgr.FindOutcome(id)->told;
+  kept.chosenAssignments = chosen;
+  kept.students = 30;
+  std::strcpy(kept.path + QZFILTER_PATH_SIZE, "end");
+
+  constexpr uint32_t kNow = sizeof(QZEXPORTOUTCOME);
+  const struct {
+    const char* name;
+    uint32_t size, known;
+  } rows[] = {{"none", 295, 0},
+              {"the first", 296, 296},
+              {"between versions, where a pointer would be half there", 300, 296},
+              {"this one", kNow, kNow},
+              {"a later one", kNow + 8, kNow}};
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.name);
+    constexpr char kBeyond = 'Z';
+    std::string record(kNow + 16, kBeyond);
+    std::memcpy(record.data(), &row.size, sizeof row.size);
+    std::string expected = record;
+    if (row.known != 0) expected.replace(0, row.size, row.size, '\0');
+    QZEXPORTOUTCOME told = kept;
+    told.size = row.size;
+    std::memcpy(expected.data(), &told, std::max<size_t>(row.known, sizeof told.size));
+    EXPECT_EQ(QZFilter_GetExportOutcome(id, reinterpret_cast<QZEXPORTOUTCOME*>(record.data())),
+              row.known == 0 ? QZFILTER_FAILED : QZFILTER_SUCCESS);
+    EXPECT_EQ(record, expected);
+  }
+  g_sessionMgr.EndSession(id);
 }
 
 TEST(Session, TellsWhyItsFileIsNotThere) {

@@ -28,28 +28,41 @@ bool _CleanDialog(DLGRecord* dialog) {
   return true;
 }
 
-template <typename Rows, typename Matches>
-uint32_t _Count(const Rows& rows, Matches matches) {
-  const auto count = std::count_if(rows.begin(), rows.end(), matches);
+template <typename Count>
+uint32_t _Number(Count count) {
   constexpr auto kMost = std::numeric_limits<uint32_t>::max();
   return static_cast<uint32_t>(std::min<uint64_t>(static_cast<uint64_t>(count), kMost));
 }
 
-void _DescribeChoices(const qz::ClassRecord& record, QZEXPORTOUTCOME* outcome) {
-  outcome->assignments =
-      _Count(record.assignments, [](const qz::AssignmentRecord& assignment) { return assignment.selected; });
+void _DescribeAssignments(const qz::ClassRecord& record, SessionOutcome* outcome) {
+  std::vector<uint32_t>& chosen = outcome->chosenAssignments;
+  chosen.clear();
+  for (size_t i = 0; i < record.assignments.size(); ++i) {
+    if (record.assignments[i].selected) chosen.push_back(_Number(i));
+  }
+  outcome->told.assignments = _Number(chosen.size());
+  outcome->told.chosenAssignments = chosen.empty() ? nullptr : chosen.data();
+}
+
+void _DescribeChoices(const Session& session, QZEXPORTOUTCOME* outcome) {
+  const qz::ClassRecord& record = session.Class();
+  outcome->useQuotes = session.m_bUseQuotes ? 1 : 0;
+  outcome->students = _Number(record.students.size());
   std::memset(outcome->path, 0, sizeof outcome->path);
   record.exportPath.copy(outcome->path, sizeof outcome->path - 1);
   if (FindFormat(outcome->formatIndex)->IsReport()) return;
   outcome->userIDField = record.userIDField;
-  outcome->studentsWithoutIdentifier = _Count(record.students, [&record](const qz::StudentRecord& student) {
-    return student.GetUserID(record.userIDField).empty();
-  });
+  outcome->studentsWithoutIdentifier =
+      _Number(std::ranges::count_if(record.students, [&record](const qz::StudentRecord& student) {
+        return student.GetUserID(record.userIDField).empty();
+      }));
 }
 
 // Writes the file and keeps for the host what became of it.
-void _Export(Session* session, QZEXPORTOUTCOME* outcome) {
-  _DescribeChoices(*session->GetClass(), outcome);
+void _Export(Session* session, SessionOutcome* kept) {
+  QZEXPORTOUTCOME* const outcome = &kept->told;
+  _DescribeAssignments(session->Class(), kept);
+  _DescribeChoices(*session, outcome);
   outcome->state = QZFILTER_NOT_WRITTEN;
   outcome->error = ENOMEM;  // should writing throw
   const uint32_t status = session->Export(session->GetClass()->exportPath.c_str());

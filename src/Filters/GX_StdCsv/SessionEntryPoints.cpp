@@ -1,17 +1,10 @@
 // The entry points that show nothing: they work in any process.
-#include <algorithm>
 #include <cstring>
 
 #include "Filters/GX_StdCsv/FilterState.h"
 #include "Filters/GX_StdCsv/FormatTable.h"
 #include "Filters/GX_StdCsv/Session.h"
 #include "gradix/QZFilter.h"
-
-namespace {
-
-constexpr size_t kFirstOutcomeSize = 296;  // of the record's first version, which every host has
-
-}  // namespace
 
 uint32_t QZFilter_GetNumExportFormatsA() {
   return static_cast<uint32_t>(FormatTable().size());
@@ -37,13 +30,15 @@ uint32_t QZFilter_GetCustomMessageA(void* /*host*/, unsigned long /*id*/, char* 
 }
 
 uint32_t QZFilter_GetExportOutcome(unsigned long id, QZEXPORTOUTCOME* record) {
-  const QZEXPORTOUTCOME* outcome = g_sessionMgr.FindOutcome(id);
-  if (outcome == nullptr || record == nullptr || record->size < kFirstOutcomeSize) return QZFILTER_FAILED;
-  const size_t size = record->size;
-  const size_t known = std::min(size, sizeof *outcome);
+  const SessionOutcome* outcome = g_sessionMgr.FindOutcome(id);
+  if (outcome == nullptr || record == nullptr) return QZFILTER_FAILED;
+  // As bytes: the record of a host of the first version may lie where this one could not.
   auto* const bytes = reinterpret_cast<char*>(record);
-  std::memcpy(bytes, outcome, known);
-  std::memset(bytes + known, 0, size - known);
-  record->size = static_cast<uint32_t>(size);
+  QZEXPORTOUTCOME told = outcome->told;
+  std::memcpy(&told.size, bytes, sizeof told.size);
+  if (told.size < QZFILTER_FIRST_OUTCOME_SIZE) return QZFILTER_FAILED;
+  const size_t known = told.size < sizeof told ? QZFILTER_FIRST_OUTCOME_SIZE : sizeof told;
+  std::memcpy(bytes, &told, known);
+  std::memset(bytes + known, 0, told.size - known);
   return QZFILTER_SUCCESS;
 }

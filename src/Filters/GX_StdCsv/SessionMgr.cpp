@@ -18,7 +18,7 @@ unsigned long SessionMgr::CreateSession(const QZEXPORTBEGIN* begin) {
   std::unique_ptr<Session> session = format->make(begin);
   std::erase_if(m_outcomes, [this](const auto& row) { return !m_sessions.contains(row.first); });
   const unsigned long id = m_created | kSessionIDBits;
-  QZEXPORTOUTCOME& outcome = m_outcomes[id] = {};
+  QZEXPORTOUTCOME& outcome = (m_outcomes[id] = {}).told;
   outcome.state = QZFILTER_PENDING;
   outcome.formatIndex = begin->formatIndex;
   m_sessions[id] = std::move(session);
@@ -33,11 +33,11 @@ Session* SessionMgr::GetSession(unsigned long id) const {
 
 void SessionMgr::EndSession(unsigned long id) {
   if (m_sessions.erase(id) == 0) return;
-  QZEXPORTOUTCOME& outcome = m_outcomes[id];
+  QZEXPORTOUTCOME& outcome = m_outcomes[id].told;
   if (outcome.state == QZFILTER_PENDING) outcome.state = QZFILTER_CANCELLED;
 }
 
-QZEXPORTOUTCOME* SessionMgr::FindOutcome(unsigned long id) {
+SessionOutcome* SessionMgr::FindOutcome(unsigned long id) {
   const auto found = m_outcomes.find(id);
   return found == m_outcomes.end() ? nullptr : &found->second;
 }

@@ -5,10 +5,17 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <vector>
 
 #include "gradix/QZFilter.h"
 
 class Session;
+
+// What became of a session's export, with the positions that its record points to.
+struct SessionOutcome {
+  QZEXPORTOUTCOME told = {};
+  std::vector<uint32_t> chosenAssignments = {};
+};
 
 class SessionMgr {
  public:
@@ -27,11 +34,11 @@ class SessionMgr {
 
   // What became of a session's export: of one that lives, and of one that has ended until the next is
   // created. Null for an unknown id.
-  QZEXPORTOUTCOME* FindOutcome(unsigned long id);
+  SessionOutcome* FindOutcome(unsigned long id);
 
  private:
   std::map<unsigned long, std::unique_ptr<Session>> m_sessions;
-  std::map<unsigned long, QZEXPORTOUTCOME> m_outcomes;
+  std::map<unsigned long, SessionOutcome> m_outcomes;
   uint32_t m_created = 0;
 };
 

@@ -47,7 +47,7 @@ bool _ReadClassFile(const FSRef* file, qz::ClassRecord* record) {
   QZClassParseReport report;
   const bool parsed = QZClassParse(record, stream, &report);
   constexpr uint64_t kMost = std::numeric_limits<uint32_t>::max();
-  g_sessionMgr.FindOutcome(ncontextID)->replacedCharacters =
+  g_sessionMgr.FindOutcome(ncontextID)->told.replacedCharacters =
       static_cast<uint32_t>(std::min(report.replacedCharacters, kMost));
   return parsed;
 }

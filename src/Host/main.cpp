@@ -7,6 +7,7 @@
 #include <memory>
 #include <string_view>
 
+#include "Host/App/AccessibleRoles.h"
 #include "Host/App/Language.h"
 #include "Host/App/Texts.h"
 #include "Host/Window/MainWindow.h"
@@ -48,6 +49,7 @@ int main(int argc, char** argv) {
   _ParseArguments(&parser, application);
   QGuiApplication::setDesktopFileName(QStringLiteral("gradix"));
   QGuiApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("gradix")));
+  host::InstallAccessibleRoles();
   host::MainWindow window;
   window.show();
   const auto start = [&window, &parser] {

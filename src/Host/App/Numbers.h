@@ -1,0 +1,14 @@
+// Numbers as the language writes them.
+#ifndef GRADIX_NUMBERS_H
+#define GRADIX_NUMBERS_H
+
+#include <QString>
+
+namespace host {
+
+// With at most two decimals: 7, 7.5, 7.33.
+QString NumberText(double number);
+
+}  // namespace host
+
+#endif  // GRADIX_NUMBERS_H

@@ -58,6 +58,7 @@ class HostTest : public testing::Test {
   explicit HostTest(const char* module = FILTERS "/fake_filter.so")
       : m_filter(host::FilterModule::Load(QString::fromUtf8(module), nullptr)) {
     QSettings().clear();
+    qputenv("PATH", QFile::encodeName(m_folder.path()));  // without the desktop's opener
     host::SetCurrentLanguage(host::HostLanguage::kEnglish);
     void* const handle = ::dlopen(module, RTLD_NOW | RTLD_NOLOAD);
     m_fake = handle != nullptr ? static_cast<FakeFilter*>(::dlsym(handle, "gFake")) : nullptr;

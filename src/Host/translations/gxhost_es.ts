@@ -567,5 +567,33 @@ Compruebe que la carpeta exista, que tenga permiso de escritura y que el disco n
         <source>OK</source>
         <translation>Aceptar</translation>
     </message>
+    <message>
+        <source>The help book is not installed.</source>
+        <translation>El libro de ayuda no está instalado.</translation>
+    </message>
+    <message>
+        <source>This page was looked for:
+%1
+
+Install Gradix again.</source>
+        <translation>Se buscó esta página:
+%1
+
+Vuelva a instalar Gradix.</translation>
+    </message>
+    <message>
+        <source>No browser could be opened for the help page.</source>
+        <translation>No se pudo abrir ningún navegador para la página de ayuda.</translation>
+    </message>
+    <message>
+        <source>The page is this file:
+%1
+
+Open it by hand in a browser, here or on another computer.</source>
+        <translation>La página es este archivo:
+%1
+
+Ábralo usted mismo en un navegador, en este ordenador o en otro.</translation>
+    </message>
 </context>
 </TS>

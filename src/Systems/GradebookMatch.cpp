@@ -28,7 +28,7 @@ bool GradebookMatch::HasStudents() const {
 GradebookMatch MatchGradebook(const ExportSubject& subject, const Gradebook& gradebook,
                               const MatchChoices& choices) {
   GradebookMatch match;
-  MatchStudents(subject, gradebook, choices.matchNames, &match);
+  MatchStudents(subject, gradebook, choices, &match);
   MatchTitles(subject, gradebook, choices, &match);
   return match;
 }

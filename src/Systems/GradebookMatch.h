@@ -17,6 +17,9 @@ struct MatchChoices {
   std::vector<std::pair<int32_t, std::string>> titles =
       {};                   // of columns, UTF-8, by assignment id: the user's
   bool matchNames = false;  // where identifiers fail, names unique on both sides
+  // Positions in ClassRecord::students and Gradebook::members whom the user joined, whatever their
+  // identifiers say. Of joins with a side in common the last one holds; one of nobody is left out.
+  std::vector<std::pair<size_t, size_t>> members = {};
 };
 
 // How a student was found in the course, or why not. Nobody is guessed.
@@ -24,11 +27,13 @@ enum class StudentMatch : uint8_t {
   kIdentifier,
   kFoldedIdentifier,  // differs in letter case, which is nothing to the system
   kName,
+  kChosen,   // by the user
   kUnknown,  // no member has the identifier
   kNoIdentifier,
   kLetterCase,        // a member's identifier differs in letter case, and so is another one to the system
   kSharedIdentifier,  // by several of our students
   kSeveralMembers,    // have the identifier
+  kTakenMember,       // the user joined the one who has it with another student
 };
 
 // How an assignment's column was found, or why not.

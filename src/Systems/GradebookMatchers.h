@@ -4,7 +4,7 @@
 
 #include "Systems/GradebookMatch.h"
 
-void MatchStudents(const ExportSubject& subject, const Gradebook& gradebook, bool matchNames,
+void MatchStudents(const ExportSubject& subject, const Gradebook& gradebook, const MatchChoices& choices,
                    GradebookMatch* match);
 
 void MatchTitles(const ExportSubject& subject, const Gradebook& gradebook, const MatchChoices& choices,

@@ -29,6 +29,16 @@ class StudentMatcher {
     }
   }
 
+  // First, so that no identifier takes a member away.
+  void MatchChosen(const std::vector<std::pair<size_t, size_t>>& members) {
+    for (const auto& [student, member] : members) {
+      if (student >= m_match.memberOf.size() || member >= m_match.studentOf.size()) continue;
+      Part(student, m_match.memberOf[student]);
+      Part(m_match.studentOf[member], member);
+      Join(student, member, StudentMatch::kChosen);
+    }
+  }
+
   void MatchIdentifiers() {
     const bool folds = m_gradebook.system->download->foldsIdentifierCase;
     const OwnerIndex ours(m_ours);
@@ -69,6 +79,21 @@ class StudentMatcher {
     m_match.memberOf[student] = member;
     m_match.studentOf[member] = student;
     m_match.students[student] = how;
+  }
+
+  // Takes back a join, if there is one.
+  void Part(size_t student, size_t member) {
+    if (student == kNone || member == kNone) return;
+    m_match.memberOf[student] = kNone;
+    m_match.studentOf[member] = kNone;
+    m_match.students[student] =
+        m_ours[student].empty() ? StudentMatch::kNoIdentifier : StudentMatch::kUnknown;
+  }
+
+  bool IsChosen(size_t student) const { return m_match.students[student] == StudentMatch::kChosen; }
+
+  bool IsTaken(size_t member) const {
+    return m_match.studentOf[member] != kNone && IsChosen(m_match.studentOf[member]);
   }
 
   // Chooses the column in which most of our texts stand, the first of several such. Gives its texts by
@@ -132,11 +157,14 @@ class StudentMatcher {
 
   void MatchExactly(const OwnerIndex& ours, const OwnerIndex& theirs) {
     for (size_t i = 0; i < m_ours.size(); ++i) {
+      if (IsChosen(i)) continue;
       const size_t member = theirs.Find(m_ours[i]);
       if (ours.Find(m_ours[i]) == kSeveral) {
         m_match.students[i] = StudentMatch::kSharedIdentifier;
       } else if (member == kSeveral) {
         m_match.students[i] = StudentMatch::kSeveralMembers;
+      } else if (member != kNone && IsTaken(member)) {
+        m_match.students[i] = StudentMatch::kTakenMember;
       } else if (member != kNone) {
         Join(i, member, StudentMatch::kIdentifier);
       }
@@ -156,6 +184,8 @@ class StudentMatcher {
         if (isOnlyOne && member != kSeveral) m_match.likeMember[i] = member;
       } else if (!isOnlyOne) {
         m_match.students[i] = StudentMatch::kSharedIdentifier;
+      } else if (member != kSeveral && IsTaken(member)) {
+        m_match.students[i] = StudentMatch::kTakenMember;
       } else if (!IsFree(member)) {
         m_match.students[i] = StudentMatch::kSeveralMembers;
       } else {
@@ -173,9 +203,10 @@ class StudentMatcher {
 
 }  // namespace
 
-void MatchStudents(const ExportSubject& subject, const Gradebook& gradebook, bool matchNames,
+void MatchStudents(const ExportSubject& subject, const Gradebook& gradebook, const MatchChoices& choices,
                    GradebookMatch* match) {
   StudentMatcher matcher(subject, gradebook, match);
+  matcher.MatchChosen(choices.members);
   matcher.MatchIdentifiers();
-  if (matchNames) matcher.MatchNames();
+  if (choices.matchNames) matcher.MatchNames();
 }

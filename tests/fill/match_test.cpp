@@ -20,7 +20,7 @@ TestClass _Class(const std::vector<std::string>& ids, const std::vector<std::str
 std::string _Students(const GradebookMatch& match) {
   std::string text;
   for (size_t i = 0; i < match.students.size(); ++i) {
-    text += "ifnu0csm"[static_cast<size_t>(match.students[i])];
+    text += "ifnhu0csmt"[static_cast<size_t>(match.students[i])];
     if (match.memberOf[i] != GradebookMatch::kNone) text += std::to_string(match.memberOf[i]);
   }
   return text;
@@ -32,8 +32,9 @@ TEST(GradebookMatch, FindsStudents) {
     std::vector<std::string> ids;
     bool matchNames;
     std::string members;
-    const char*
-        expected;  // i by id, f folded, n by name, u unknown, 0 no id, c other case, s shared, m several
+    const char* expected;  // i by id, f folded, n by name, h by hand, u unknown, 0 no id, c other case, s
+                           // shared, m several, t taken
+    std::vector<std::pair<size_t, size_t>> chosen = {};
   } rows[] = {
       {"by the login", {"a", "b", "x"}, false, "\"Lee, Bob\",1,u1,b,A,\n\"Lee, Ann\",2,u2,a,A,\n", "i1i0u"},
       {"most values decide", {"u1", "u2", "b"}, false, ",1,u1,b,A,\n,2,u2,a,A,\n", "i0i1u"},
@@ -54,13 +55,25 @@ TEST(GradebookMatch, FindsStudents) {
       {"Canvas's own numbers", {"1", "3"}, false, "\"Lee, Ann\",1,,q,A,\n\"Lee, Bob\",3,,r,A,\n", "i0i1"},
       {"other people's numbers", {"1", "3"}, false, "\"Lee, Eve\",1,,q,A,\n\"Fox, Bob\",3,,r,A,\n", "uu"},
       {"nobody", {"a", ""}, false, "x,1,u1,q,A,\n", "u0"},
+      {"by hand", {"a", "x", ""}, false, "p,1,,a,A,\nq,2,,b,A,\nr,3,,c,A,\n", "i0h2h1", {{1, 2}, {2, 1}}},
+      {"by hand before the id", {"a", "b"}, false, "p,1,,a,A,\nq,2,,b,A,\n", "th0", {{1, 0}}},
+      {"by hand before the id, folded", {"A", "b"}, false, "p,1,,a,A,\nq,2,,b,A,\n", "ch0", {{1, 0}}},
+      {"by hand before the name", {"x", "b"}, true, "\"Lee, Ann\",1,,q,A,\ny,2,,b,A,\n", "uh0", {{1, 0}}},
+      {"by hand, one of two with an id", {"a", "a"}, false, "p,1,,a,A,\n", "h0s", {{0, 0}}},
+      {"a later join holds",
+       {"x", "", "z"},
+       false,
+       "p,1,,a,A,\nq,2,,b,A,\n",
+       "u0h0",
+       {{0, 0}, {1, 1}, {0, 1}, {2, 0}, {2, 1}, {2, 0}}},
+      {"joins of nobody", {"a"}, false, "p,1,,a,A,\n", "i0", {{1, 0}, {0, 1}}},
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.name);
     const TestClass made = _Class(row.ids, {});
     const Gradebook gradebook = Parsed(kHead + "Q (1)\n" + row.members);
     const GradebookMatch match = MatchGradebook(made.Subject(kCanvasSystem, Dialect::kFilled), gradebook,
-                                                {.matchNames = row.matchNames});
+                                                {.matchNames = row.matchNames, .members = row.chosen});
     EXPECT_EQ(_Students(match), row.expected);
   }
 }

@@ -21,6 +21,7 @@ const char* _Reason(StudentMatch match) {
     case StudentMatch::kLetterCase: return "the id differs in upper and lower case";
     case StudentMatch::kSharedIdentifier: return "another student of the class has the same id";
     case StudentMatch::kSeveralMembers: return "several students in the gradebook have the id";
+    case StudentMatch::kTakenMember: return "another student was joined with the one who has the id";
     default: return "the id is not in the gradebook";
   }
 }
@@ -153,6 +154,7 @@ const char* UnmatchedKey(StudentMatch match) {
     case StudentMatch::kLetterCase: return "letter-case";
     case StudentMatch::kSharedIdentifier: return "shared-id";
     case StudentMatch::kSeveralMembers: return "several-members";
+    case StudentMatch::kTakenMember: return "taken-member";
     default: return nullptr;
   }
 }

@@ -1,46 +1,11 @@
 #include "Host/App/RecentFiles.h"
 #include "Host/ClassView/RomanText.h"
 #include "Host/Export/FileNames.h"
-#include "Host/Result/CsvTableModel.h"
 #include "tests/host/HostFixture.h"
 
 namespace host {
 
 namespace {
-
-TEST(CsvReader, Rows) {
-  struct Case {
-    const char* text;
-    std::vector<CsvRow> rows;
-  };
-  const Case cases[] = {
-      {"", {}},
-      {"a", {{"a"}}},
-      {"a,b\nc,d\n", {{"a", "b"}, {"c", "d"}}},
-      {"a\r\nb\rc\n", {{"a"}, {"b"}, {"c"}}},
-      {",\n\n,", {{"", ""}, {""}, {"", ""}}},
-      {"\"a,b\",\"c\nd\",\"say \"\"hi\"\"\"\n", {{"a,b", "c\nd", "say \"hi\""}}},
-      {"a\"b,\"c\"d,\"\"", {{"a\"b", "cd", ""}}},
-      {"\"never closed, \"\"", {{"never closed, \""}}},
-      {"\"\"\"\",x", {{"\"", "x"}}},
-      {"\xFF\x80,\"\x8E\"", {{"\xFF\x80", "\x8E"}}},
-  };
-  for (const Case& test : cases) EXPECT_EQ(ReadCsv(test.text), test.rows) << test.text;
-}
-
-TEST(CsvTable, RowsOfDifferentLengths) {
-  const CsvTableModel model(nullptr, ReadCsv("Name,P\x8Es\nAnn\nBob,1,\"x\ny\"\n"));
-  EXPECT_EQ(model.rowCount(), 2);
-  EXPECT_EQ(model.columnCount(), 3);
-  EXPECT_EQ(model.headerData(1, Qt::Horizontal, Qt::DisplayRole).toString(), QStringLiteral("Pés"));
-  EXPECT_FALSE(model.headerData(2, Qt::Horizontal, Qt::DisplayRole).isValid());
-  EXPECT_EQ(model.index(0, 0).data().toString(), QStringLiteral("Ann"));
-  EXPECT_FALSE(model.index(0, 1).data().isValid());
-  EXPECT_EQ(model.index(1, 2).data().toString(), QStringLiteral("x y"));
-  const CsvTableModel empty(nullptr, {});
-  EXPECT_EQ(empty.rowCount(), 0);
-  EXPECT_EQ(empty.columnCount(), 0);
-}
 
 TEST(RomanText, DecodesEveryCode) {
   EXPECT_EQ(FromRoman("Jos\x8E \xDB"

@@ -3,49 +3,27 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QEvent>
-#include <QFile>
 #include <QFileInfo>
-#include <QFontDatabase>
 #include <QFormLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLocale>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QStringList>
 #include <QTabWidget>
-#include <QTableView>
 #include <QUrl>
 #include <QVBoxLayout>
 
 #include "Host/App/CloseKeys.h"
 #include "Host/App/Texts.h"
-#include "Host/ClassView/RomanText.h"
-#include "Host/Result/CsvTableModel.h"
+#include "Host/Preview/FilePreview.h"
 
 namespace host {
-
-namespace {
-
-constexpr qint64 kMaxShownBytes = qint64{8} * 1024 * 1024;
-
-QByteArray _Beginning(const QString& path) {
-  QFile file(path);
-  return file.open(QIODevice::ReadOnly) ? file.read(kMaxShownBytes) : QByteArray();
-}
-
-std::string_view _View(const QByteArray& bytes) {
-  return {bytes.constData(), static_cast<size_t>(bytes.size())};
-}
-
-}  // namespace
 
 ResultWindow::ResultWindow(QWidget* parent, const ExportedFile& file)
     : QWidget(parent, Qt::Window),
       m_file(file),
       m_size(QFileInfo(file.path).size()),
-      m_tabs(new QTabWidget(this)),
-      m_cut(new QLabel(this)),
+      m_preview(new FilePreview(this)),
       m_notes(new QLabel(this)),
       m_details(new QFormLayout),
       m_sizeText(new QLabel(this)),
@@ -54,35 +32,14 @@ ResultWindow::ResultWindow(QWidget* parent, const ExportedFile& file)
   setObjectName(QStringLiteral("resultWindow"));
   setAttribute(Qt::WA_DeleteOnClose);
   auto* const layout = new QVBoxLayout(this);
-  layout->addWidget(m_tabs, 1);
-  layout->addWidget(m_cut);
+  layout->addWidget(m_preview, 1);
   layout->addWidget(m_notes);
   layout->addLayout(m_details);
-  AddTabs(_Beginning(file.path));
+  m_preview->Show(BeginningOf(file.path), {}, m_size);
   AddDetails(file.path);
   AddButtons(file.path);
   Retranslate();
   resize(fontMetrics().height() * 48, fontMetrics().height() * 28);
-}
-
-void ResultWindow::AddTabs(const QByteArray& bytes) {
-  auto* const table = new QTableView(m_tabs);
-  table->setModel(new CsvTableModel(table, ReadCsv(_View(bytes))));
-  table->setAlternatingRowColors(true);
-  table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-  table->resizeColumnsToContents();
-  table->setTabKeyNavigation(false);
-
-  auto* const text = new QPlainTextEdit(m_tabs);
-  text->setReadOnly(true);
-  text->setTabChangesFocus(true);
-  text->setLineWrapMode(QPlainTextEdit::NoWrap);
-  text->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-  text->setPlainText(FromRoman(_View(bytes)));
-
-  m_tabs->addTab(table, QString());
-  m_tabs->addTab(text, QString());
-  m_cut->setVisible(bytes.size() < m_size);
 }
 
 void ResultWindow::AddDetails(const QString& path) {
@@ -127,14 +84,7 @@ void ResultWindow::changeEvent(QEvent* event) {
 void ResultWindow::Retranslate() {
   setWindowTitle(Texts::tr("Exported file: %1").arg(QFileInfo(m_file.path).fileName()));
   setAccessibleName(windowTitle());
-  constexpr const char* kTabs[] = {QT_TRANSLATE_NOOP("Texts", "Table"), QT_TRANSLATE_NOOP("Texts", "Text")};
-  int tab = 0;
-  for (const char* const title : kTabs) {
-    m_tabs->setTabText(tab, Texts::tr(title));
-    m_tabs->widget(tab++)->setAccessibleName(Texts::tr(title));
-  }
-  m_tabs->setAccessibleName(windowTitle());
-  m_cut->setText(Texts::tr("The file is too large to be shown here completely; this is its beginning."));
+  m_preview->Pages()->setAccessibleName(windowTitle());
   m_notes->setText(Notes());
   m_notes->setVisible(!m_notes->text().isEmpty());
   constexpr const char* kDetails[] = {QT_TRANSLATE_NOOP("Texts", "File:"),

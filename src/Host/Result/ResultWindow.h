@@ -9,9 +9,10 @@
 class QFormLayout;
 class QLabel;
 class QPushButton;
-class QTabWidget;
 
 namespace host {
+
+class FilePreview;
 
 struct ExportedFile {
   QString path;
@@ -30,7 +31,6 @@ class ResultWindow : public QWidget {
 
  private:
   void Retranslate();
-  void AddTabs(const QByteArray& bytes);
   void AddDetails(const QString& path);
   void AddButtons(const QString& path);
 
@@ -38,8 +38,7 @@ class ResultWindow : public QWidget {
 
   ExportedFile m_file;
   qint64 m_size = 0;
-  QTabWidget* m_tabs;
-  QLabel* m_cut;
+  FilePreview* m_preview;
   QLabel* m_notes;
   QFormLayout* m_details;
   QLabel* m_sizeText;

@@ -595,5 +595,44 @@ Open it by hand in a browser, here or on another computer.</source>
 
 Ábralo usted mismo en un navegador, en este ordenador o en otro.</translation>
     </message>
+    <message>
+        <source>no line ends</source>
+        <translation>sin finales de línea</translation>
+    </message>
+    <message>
+        <source>line ends LF</source>
+        <translation>finales de línea LF</translation>
+    </message>
+    <message>
+        <source>line ends CR LF</source>
+        <translation>finales de línea CR LF</translation>
+    </message>
+    <message>
+        <source>line ends CR</source>
+        <translation>finales de línea CR</translation>
+    </message>
+    <message>
+        <source>different line ends</source>
+        <translation>finales de línea distintos</translation>
+    </message>
+    <message>
+        <source>UTF-8 with a byte-order mark</source>
+        <translation>UTF-8 con marca de orden de bytes</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rows below the headings</source>
+        <translation>
+            <numerusform>%n fila bajo los encabezados</numerusform>
+            <numerusform>%n filas bajo los encabezados</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Table</source>
+        <translation>&amp;Tabla</translation>
+    </message>
+    <message>
+        <source>Te&amp;xt</source>
+        <translation>Te&amp;xto</translation>
+    </message>
 </context>
 </TS>

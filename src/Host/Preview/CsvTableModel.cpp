@@ -1,4 +1,4 @@
-#include "Host/Result/CsvTableModel.h"
+#include "Host/Preview/CsvTableModel.h"
 
 #include <algorithm>
 #include <utility>
@@ -11,14 +11,19 @@ namespace {
 
 QVariant _Cell(const CsvRow& row, int column) {
   const auto position = static_cast<size_t>(column);
-  return position < row.size() ? LineFromRoman(row[position]) : QVariant();
+  return position < row.size() ? LineFromUtf8(row[position]) : QVariant();
 }
 
 }  // namespace
 
-CsvTableModel::CsvTableModel(QObject* parent, std::vector<CsvRow> rows)
-    : QAbstractTableModel(parent), m_rows(std::move(rows)) {
+bool CsvTableModel::SetRows(std::vector<CsvRow> rows) {
+  const CsvRow header = m_rows.empty() ? CsvRow() : std::move(m_rows.front());
+  beginResetModel();
+  m_rows = std::move(rows);
+  m_columns = 0;
   for (const CsvRow& row : m_rows) m_columns = std::max(m_columns, row.size());
+  endResetModel();
+  return !m_rows.empty() && m_rows.front() == header;
 }
 
 int CsvTableModel::rowCount(const QModelIndex& parent) const {

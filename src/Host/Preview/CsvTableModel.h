@@ -1,18 +1,21 @@
-// Comma-separated values as a table whose header is the first row.
+// Delimited values, in UTF-8, as a table whose header is the first row.
 #ifndef GRADIX_CSVTABLEMODEL_H
 #define GRADIX_CSVTABLEMODEL_H
 
 #include <QAbstractTableModel>
 #include <vector>
 
-#include "Host/Result/CsvReader.h"
+#include "Host/Preview/CsvReader.h"
 
 namespace host {
 
 // As wide as the widest row; shorter rows end with empty cells.
 class CsvTableModel : public QAbstractTableModel {
  public:
-  CsvTableModel(QObject* parent, std::vector<CsvRow> rows);
+  explicit CsvTableModel(QObject* parent) : QAbstractTableModel(parent) {}
+
+  // Shows these in place of others. Tells whether the header is as it was.
+  bool SetRows(std::vector<CsvRow> rows);
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;

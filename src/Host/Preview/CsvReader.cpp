@@ -1,4 +1,4 @@
-#include "Host/Result/CsvReader.h"
+#include "Host/Preview/CsvReader.h"
 
 #include <algorithm>
 
@@ -8,7 +8,8 @@ namespace {
 
 class CsvScanner {
  public:
-  explicit CsvScanner(std::string_view text) : m_text(text) {}
+  CsvScanner(std::string_view text, char delimiter)
+      : m_text(text), m_delimiter(delimiter), m_valueEnds{delimiter, '\r', '\n'} {}
 
   std::vector<CsvRow> Rows() {
     std::vector<CsvRow> rows;
@@ -35,7 +36,7 @@ class CsvScanner {
     CsvRow row;
     do {
       row.push_back(Value());
-    } while (Take(','));
+    } while (Take(m_delimiter));
     TakeLineEnd();
     return row;
   }
@@ -43,7 +44,7 @@ class CsvScanner {
   std::string Value() {
     std::string value;
     if (Take('"')) value = QuotedPart();
-    const size_t end = std::min(m_text.find_first_of(",\r\n", m_position), m_text.size());
+    const size_t end = std::min(m_text.find_first_of(m_valueEnds, m_position), m_text.size());
     value.append(m_text.substr(m_position, end - m_position));
     m_position = end;
     return value;
@@ -63,13 +64,15 @@ class CsvScanner {
   }
 
   std::string_view m_text;
+  char m_delimiter;
+  std::string m_valueEnds;  // without quotes
   size_t m_position = 0;
 };
 
 }  // namespace
 
-std::vector<CsvRow> ReadCsv(std::string_view text) {
-  return CsvScanner(text).Rows();
+std::vector<CsvRow> ReadCsv(std::string_view text, char delimiter) {
+  return CsvScanner(text, delimiter).Rows();
 }
 
 }  // namespace host

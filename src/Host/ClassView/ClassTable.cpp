@@ -18,6 +18,8 @@ void ClassTable::SelectPlaces(const std::vector<FindingPlace>& /*places*/) {}
 
 void ClassTable::Find() {}
 
+void ClassTable::SortByCurrentColumn() {}
+
 void ClassTable::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   if (event->type() == QEvent::LanguageChange) Retranslate();

@@ -33,8 +33,11 @@ class ClassTable : public QWidget {
   // Selects the cells, rows or columns that the places are about and brings the first one into view.
   void SelectPlaces(const std::vector<FindingPlace>& places);
 
-  // Opens the search.
+  // Opens the search, or goes to its field.
   void Find();
+
+  // Ascending, then descending, then in the class's own order, as a click on the heading does.
+  void SortByCurrentColumn();
 
  protected:
   void changeEvent(QEvent* event) override;

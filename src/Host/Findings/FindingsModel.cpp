@@ -1,12 +1,11 @@
 #include "Host/Findings/FindingsModel.h"
 
-#include <QApplication>
 #include <QStringList>
-#include <QStyle>
 
 #include "Host/App/Language.h"
 #include "Host/App/Texts.h"
 #include "Host/ClassView/RomanText.h"
+#include "Host/Findings/ConsequenceIcon.h"
 
 namespace host {
 
@@ -14,13 +13,6 @@ namespace {
 
 constexpr int kStudentRole = Qt::UserRole;
 constexpr int kAssignmentRole = Qt::UserRole + 1;
-
-QIcon _IconOf(Consequence consequence) {
-  QStyle::StandardPixmap icon = QStyle::SP_MessageBoxWarning;
-  if (consequence == Consequence::kRefused) icon = QStyle::SP_MessageBoxCritical;
-  if (consequence == Consequence::kNote) icon = QStyle::SP_MessageBoxInformation;
-  return QApplication::style()->standardIcon(icon);
-}
 
 // A title and what follows it: for the eye in lines, for a screen reader in one.
 QStandardItem* _Item(const QString& title, const QStringList& lines = {}) {
@@ -60,7 +52,7 @@ QStandardItem* _FindingItem(const Finding& finding, const ExportSubject& subject
   if (!text.advice.empty()) lines.append(Texts::tr("What to do: %1").arg(LineFromUtf8(text.advice)));
   QStandardItem* const item =
       _Item(QString::fromStdString(DescribeConsequence(finding.consequence, language)), lines);
-  item->setIcon(_IconOf(finding.consequence));
+  item->setIcon(ConsequenceIcon(finding.consequence));
   if (!finding.places.empty()) _SetPlace(item, finding.places.front());
   _AddPlaces(finding, subject, item);
   return item;

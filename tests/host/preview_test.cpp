@@ -1,7 +1,10 @@
+#include <QCheckBox>
 #include <QLabel>
+#include <QListWidget>
 #include <QPlainTextEdit>
 #include <QTabWidget>
 
+#include "Host/Preview/AssignmentPicker.h"
 #include "Host/Preview/CsvTableModel.h"
 #include "Host/Preview/FilePreview.h"
 #include "tests/host/HostFixture.h"
@@ -46,6 +49,48 @@ TEST(CsvTable, RowsOfDifferentLengths) {
   EXPECT_EQ(model.index(1, 2).data().toString(), QStringLiteral("x y"));
   EXPECT_TRUE(model.SetRows(ReadCsv("Name,Pés\nAnn,2\n")));
   EXPECT_EQ(model.columnCount(), 2);
+}
+
+std::shared_ptr<OpenClass> _ClassWith(const std::vector<int32_t>& ids) {
+  auto made = std::make_shared<OpenClass>();
+  made->path = QStringLiteral("class.xml");
+  for (const int32_t id : ids) made->record.assignments.emplace_back().id = id;
+  return made;
+}
+
+TEST_F(HostTest, AssignmentsStayChosenWhenTheClassIsReadAgain) {
+  int changes = 0;
+  AssignmentPicker picker(nullptr, [&changes] { ++changes; });
+  picker.SetClass(_ClassWith({1, 2, 3}));
+  picker.show();
+  using Positions = std::vector<size_t>;
+  EXPECT_EQ(picker.Chosen(), (Positions{0, 1, 2}));
+  auto* const list = picker.findChild<QListWidget*>(QStringLiteral("assignments"));
+  list->setFocus();
+  list->setCurrentRow(1);
+  QTest::keyClick(list, Qt::Key_Space);
+  EXPECT_EQ(picker.Chosen(), (Positions{0, 2}));
+  picker.SetClass(_ClassWith({2, 3, 4}));
+  EXPECT_EQ(picker.Chosen(), (Positions{1, 2}));
+  EXPECT_EQ(changes, 1);
+
+  auto* const all = picker.findChild<QCheckBox*>(QStringLiteral("allAssignments"));
+  EXPECT_EQ(all->checkState(), Qt::PartiallyChecked);
+  const std::pair<Qt::CheckState, Positions> clicks[] = {{Qt::Checked, {0, 1, 2}}, {Qt::Unchecked, {}}};
+  for (const auto& [state, chosen] : clicks) {
+    gestures::Click(all);
+    EXPECT_EQ(all->checkState(), state);
+    EXPECT_EQ(picker.Chosen(), chosen);
+  }
+  picker.SetOnlyOne(true);
+  EXPECT_EQ(picker.Chosen(), (Positions{0}));
+  gestures::ClickRow(picker.findChild<QListWidget*>(QStringLiteral("oneAssignment")), 2);
+  EXPECT_EQ(picker.Chosen(), (Positions{2}));
+  EXPECT_EQ(changes, 4);
+  picker.SetOnlyOne(false);
+  EXPECT_EQ(picker.Chosen(), (Positions{}));
+  picker.Choose({0, 2});
+  EXPECT_EQ(picker.Chosen(), (Positions{0, 2}));
 }
 
 TEST_F(HostTest, PreviewReadsAFileByItsEncoding) {

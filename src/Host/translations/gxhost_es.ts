@@ -155,7 +155,7 @@ También puede arrastrarlo a esta ventana.</translation>
     </message>
     <message>
         <source>&amp;Assignment:</source>
-        <translation>&amp;Tarea:</translation>
+        <translation>T&amp;area:</translation>
     </message>
     <message>
         <source>This class has no assignments yet.</source>

@@ -11,11 +11,11 @@
 #include "Systems/ExportSubject.h"
 
 class QCheckBox;
-class QComboBox;
-class QLabel;
 class QListWidget;
 
 namespace host {
+
+class ExportPicker;
 
 class CheckChoices : public QWidget {
  public:
@@ -33,27 +33,13 @@ class CheckChoices : public QWidget {
 
  private:
   void Retranslate();
-  const FormatRow& Format() const;
-  qz::UserIDField Identifier() const;
-  Dialect ChosenDialect() const;
   std::vector<size_t> Assignments() const;
-
-  void AddFormats();
-  void ProposeField();
   void AllClicked();
   void ShowWhetherAll();
-  void ShowFields();
-  void ShowDialects();
 
   std::function<void()> m_changed;
   std::shared_ptr<const OpenClass> m_class;
-  QLabel* m_formatLabel;
-  QComboBox* m_format;
-  QLabel* m_fieldLabel;
-  QComboBox* m_field;
-  QLabel* m_dialectLabel;
-  QComboBox* m_dialect;
-  QLabel* m_dialectHint;
+  ExportPicker* m_picker;
   QCheckBox* m_all;
   QListWidget* m_assignments;
 };

@@ -226,28 +226,12 @@ También puede arrastrarlo a esta ventana.</translation>
         <translation>&amp;Plataforma:</translation>
     </message>
     <message>
-        <source>Student &amp;field:</source>
-        <translation>Campo del &amp;estudiante:</translation>
-    </message>
-    <message>
-        <source>Fi&amp;le:</source>
-        <translation>Archi&amp;vo:</translation>
-    </message>
-    <message>
         <source>Classic file</source>
         <translation>Archivo clásico</translation>
     </message>
     <message>
         <source>Current file</source>
         <translation>Archivo actual</translation>
-    </message>
-    <message>
-        <source>The file that the Export menu writes.</source>
-        <translation>El archivo que escribe el menú Exportar.</translation>
-    </message>
-    <message>
-        <source>The file for today&apos;s %1. The program gxexport writes it, with the option --dialect current.</source>
-        <translation>El archivo para %1 en su versión de hoy. Lo escribe el programa gxexport, con la opción --dialect current.</translation>
     </message>
     <message>
         <source>&amp;All assignments</source>
@@ -633,6 +617,34 @@ Open it by hand in a browser, here or on another computer.</source>
     <message>
         <source>Te&amp;xt</source>
         <translation>Te&amp;xto</translation>
+    </message>
+    <message>
+        <source>For today&apos;s %1. This program writes it, without the export window.</source>
+        <translation>Para el %1 de hoy. Lo escribe este programa, sin la ventana de exportación.</translation>
+    </message>
+    <message>
+        <source>The file that the export window writes.</source>
+        <translation>El archivo que escribe la ventana de exportación.</translation>
+    </message>
+    <message>
+        <source>Student fiel&amp;d:</source>
+        <translation>Ca&amp;mpo del estudiante:</translation>
+    </message>
+    <message>
+        <source>&amp;Kind of file:</source>
+        <translation>Tipo &amp;de archivo:</translation>
+    </message>
+    <message>
+        <source>Se&amp;parator:</source>
+        <translation>&amp;Separador:</translation>
+    </message>
+    <message>
+        <source>Commas</source>
+        <translation>Comas</translation>
+    </message>
+    <message>
+        <source>Semicolons</source>
+        <translation>Punto y coma</translation>
     </message>
 </context>
 </TS>

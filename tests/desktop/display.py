@@ -263,4 +263,24 @@ class Wayland(X11):
         return window[0] + left, window[1] + top, width, height
 
 
+class SpokenX11(X11):
+    """With the bus of screen readers, which the program and this process are on; once in a process."""
+
+    def __init__(self):
+        super().__init__()
+        for name in ("AT_SPI_BUS_ADDRESS", "DBUS_SESSION_BUS_ADDRESS", "WAYLAND_DISPLAY"):
+            self.environment.pop(name, None)
+        self.environment.update(QT_ACCESSIBILITY="1", QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
+        # The session, and all that it starts, lives as long as our end of the pipe.
+        self.session = subprocess.Popen(
+            ["dbus-run-session", "--", "sh", "-c", 'echo "$DBUS_SESSION_BUS_ADDRESS"; cat'], env=self.environment,
+            stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = self.session.stdout.readline().strip()
+        os.environ.update(self.environment)
+
+    def close(self):
+        self.session.communicate()
+        super().close()
+
+
 DESKTOPS = {"x11": X11, "wayland": Wayland}

@@ -103,7 +103,8 @@ TEST_F(ClassTest, PanelFollowsTheSelection) {
 // Light or dark, bars and labels differ from their ground.
 TEST_F(ClassTest, HistogramIsDrawnInThePalette) {
   HistogramWidget widget(nullptr);
-  widget.SetHistogram(ComputeHistogram({1.0, 9.5, 9.5}, 10));
+  const Scores scores = {1.0, 9.5, 9.5};
+  widget.ShowScores(ComputeStatistics(scores), ComputeHistogram(scores, 10));
   EXPECT_TRUE(widget.accessibleDescription().contains(QStringLiteral("9 to 10: 2")));
   widget.resize(widget.sizeHint());
   for (const QColor& base : {QColor(Qt::white), QColor(Qt::black)}) {

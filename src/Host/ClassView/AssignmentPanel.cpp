@@ -5,10 +5,14 @@
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLocale>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 #include <utility>
 
+#include "Host/App/Numbers.h"
 #include "Host/App/Texts.h"
 #include "Host/ClassView/HistogramWidget.h"
 #include "Host/ClassView/RomanText.h"
@@ -17,35 +21,40 @@ namespace host {
 
 namespace {
 
-constexpr const char* kFigureTitles[] = {
-    QT_TRANSLATE_NOOP("Texts", "Students"),       QT_TRANSLATE_NOOP("Texts", "Results"),
-    QT_TRANSLATE_NOOP("Texts", "Missing"),        QT_TRANSLATE_NOOP("Texts", "Mean"),
-    QT_TRANSLATE_NOOP("Texts", "Median"),         QT_TRANSLATE_NOOP("Texts", "Minimum"),
-    QT_TRANSLATE_NOOP("Texts", "Maximum"),        QT_TRANSLATE_NOOP("Texts", "Standard deviation"),
-    QT_TRANSLATE_NOOP("Texts", "Points possible")};
+constexpr int kComboLength = 16;  // letters that a title shows at least
+
+constexpr const char* kCaptions[] = {
+    QT_TRANSLATE_NOOP("Texts", "Students:"),       QT_TRANSLATE_NOOP("Texts", "Results:"),
+    QT_TRANSLATE_NOOP("Texts", "Missing:"),        QT_TRANSLATE_NOOP("Texts", "Mean:"),
+    QT_TRANSLATE_NOOP("Texts", "Median:"),         QT_TRANSLATE_NOOP("Texts", "Minimum:"),
+    QT_TRANSLATE_NOOP("Texts", "Maximum:"),        QT_TRANSLATE_NOOP("Texts", "Standard deviation:"),
+    QT_TRANSLATE_NOOP("Texts", "Points possible:")};
 
 }  // namespace
 
 AssignmentPanel::AssignmentPanel(QWidget* parent, std::function<void(int)> selected)
     : QWidget(parent),
       m_selected(std::move(selected)),
-      m_label(new QLabel(this)),
-      m_combo(new QComboBox(this)),
-      m_nothing(new QLabel(this)),
-      m_group(new QGroupBox(this)),
-      m_histogram(new HistogramWidget(this)) {
+      m_label(new QLabel),
+      m_combo(new QComboBox),
+      m_nothing(new QLabel),
+      m_group(new QGroupBox),
+      m_histogram(new HistogramWidget(nullptr)),
+      m_scrolling(new QScrollArea(this)) {
   m_combo->setObjectName(QStringLiteral("assignment"));
   m_combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  m_combo->setMinimumContentsLength(20);
+  m_combo->setMinimumContentsLength(kComboLength);
   m_label->setBuddy(m_combo);
   m_nothing->setWordWrap(true);
   AddFigures();
-  auto* const layout = new QVBoxLayout(this);
+  auto* const contents = new QWidget;
+  auto* const layout = new QVBoxLayout(contents);
   layout->addWidget(m_label);
   layout->addWidget(m_combo);
   layout->addWidget(m_nothing);
   layout->addWidget(m_group);
   layout->addWidget(m_histogram, 1);
+  AddScrolling(contents);
   connect(m_combo, &QComboBox::currentIndexChanged, this, [this] { ShowSelected(); });
   SetClass(nullptr);
   Retranslate();
@@ -54,14 +63,37 @@ AssignmentPanel::AssignmentPanel(QWidget* parent, std::function<void(int)> selec
 void AssignmentPanel::AddFigures() {
   auto* const form = new QFormLayout(m_group);
   form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-  for (const char* const title : kFigureTitles) {
-    const Figure figure{title, new QLabel(m_group), new QLabel(m_group)};
+  form->setVerticalSpacing(fontMetrics().height() / 8);
+  for (const char* const caption : kCaptions) {
+    const Figure figure{caption, new QLabel(m_group), new QLabel(m_group)};
     figure.value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     figure.value->setTextInteractionFlags(Qt::TextSelectableByMouse);
     figure.label->setBuddy(figure.value);
     form->addRow(figure.label, figure.value);
     m_figures.push_back(figure);
   }
+}
+
+// The keyboard scrolls, too, where there is something to scroll.
+void AssignmentPanel::AddScrolling(QWidget* contents) {
+  m_scrolling->setFrameShape(QFrame::NoFrame);
+  m_scrolling->setWidgetResizable(true);
+  m_scrolling->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  m_scrolling->setFocusPolicy(Qt::NoFocus);
+  m_scrolling->setWidget(contents);
+  connect(m_scrolling->verticalScrollBar(), &QScrollBar::rangeChanged, this,
+          [this](int /*minimum*/, int maximum) {
+            m_scrolling->setFocusPolicy(maximum > 0 ? Qt::StrongFocus : Qt::NoFocus);
+          });
+  auto* const layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(m_scrolling);
+}
+
+// It never scrolls to the side.
+void AssignmentPanel::FitWidth() {
+  m_scrolling->setMinimumWidth(m_scrolling->widget()->minimumSizeHint().width() +
+                               m_scrolling->verticalScrollBar()->sizeHint().width());
 }
 
 void AssignmentPanel::SetClass(std::shared_ptr<const OpenClass> openClass) {
@@ -97,43 +129,40 @@ void AssignmentPanel::ShowSelected() {
     const auto position = static_cast<size_t>(selected);
     const int pointsPossible = m_class->record.assignments[position].pointsPossible;
     const Scores scores = m_class->ScoresOn(position);
-    ShowFigures(scores, pointsPossible);
-    m_histogram->SetHistogram(ComputeHistogram(scores, pointsPossible));
+    const ScoreStatistics statistics = ComputeStatistics(scores);
+    ShowFigures(statistics, pointsPossible);
+    m_histogram->ShowScores(statistics, ComputeHistogram(scores, pointsPossible));
   }
   if (m_selected) m_selected(selected);
 }
 
-void AssignmentPanel::ShowFigures(const Scores& scores, int pointsPossible) {
-  const ScoreStatistics statistics = ComputeStatistics(scores);
-  const auto number = [](size_t count) { return QString::number(count); };
+void AssignmentPanel::ShowFigures(const ScoreStatistics& statistics, int pointsPossible) {
+  const auto number = [](size_t count) { return QLocale().toString(static_cast<qulonglong>(count)); };
   const auto points = [&statistics](double ScoreFigures::*member) {
-    return statistics.figures ? PointsText((*statistics.figures).*member) : QStringLiteral("—");
+    return statistics.figures ? NumberText((*statistics.figures).*member) : QStringLiteral("—");
   };
-  const QString values[] = {number(statistics.students),    number(statistics.results),
-                            number(statistics.missing),     points(&ScoreFigures::mean),
-                            points(&ScoreFigures::median),  points(&ScoreFigures::minimum),
-                            points(&ScoreFigures::maximum), points(&ScoreFigures::standardDeviation),
-                            QString::number(pointsPossible)};
-  static_assert(std::size(values) == std::size(kFigureTitles));
+  const QString values[] = {number(statistics.students),       number(statistics.results),
+                            number(statistics.missing),        points(&ScoreFigures::mean),
+                            points(&ScoreFigures::median),     points(&ScoreFigures::minimum),
+                            points(&ScoreFigures::maximum),    points(&ScoreFigures::standardDeviation),
+                            QLocale().toString(pointsPossible)};
+  static_assert(std::size(values) == std::size(kCaptions));
   for (size_t i = 0; i < m_figures.size(); ++i) m_figures[i].value->setText(values[i]);
 }
 
 void AssignmentPanel::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   if (event->type() == QEvent::LanguageChange) Retranslate();
+  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) FitWidth();
 }
 
 void AssignmentPanel::Retranslate() {
-  setAccessibleName(Texts::tr("Assignment"));
   m_label->setText(Texts::tr("&Assignment:"));
-  m_combo->setAccessibleName(Texts::tr("Assignment"));
   m_nothing->setText(Texts::tr("This class has no assignments yet."));
   m_group->setTitle(Texts::tr("Statistics"));
-  m_group->setAccessibleName(Texts::tr("Statistics"));
-  for (const Figure& figure : m_figures) {
-    figure.label->setText(Texts::tr(figure.title));
-    figure.value->setAccessibleName(Texts::tr(figure.title));
-  }
+  m_scrolling->setAccessibleName(Texts::tr("Statistics"));
+  for (const Figure& figure : m_figures) figure.label->setText(Texts::tr(figure.caption));
+  FitWidth();
 }
 
 }  // namespace host

@@ -12,11 +12,13 @@
 class QComboBox;
 class QGroupBox;
 class QLabel;
+class QScrollArea;
 
 namespace host {
 
 class HistogramWidget;
 
+// Scrolls when it is lower than its figures.
 class AssignmentPanel : public QWidget {
  public:
   // `selected` is called when another assignment becomes the selected one, whoever selected it.
@@ -33,16 +35,18 @@ class AssignmentPanel : public QWidget {
   void changeEvent(QEvent* event) override;
 
  private:
-  void Retranslate();
   struct Figure {
-    const char* title;
+    const char* caption;
     QLabel* label;
     QLabel* value;
   };
 
   void AddFigures();
+  void AddScrolling(QWidget* contents);
+  void FitWidth();
   void ShowSelected();
-  void ShowFigures(const Scores& scores, int pointsPossible);
+  void ShowFigures(const ScoreStatistics& statistics, int pointsPossible);
+  void Retranslate();
 
   std::function<void(int)> m_selected;
   std::shared_ptr<const OpenClass> m_class;
@@ -52,6 +56,7 @@ class AssignmentPanel : public QWidget {
   QGroupBox* m_group;
   std::vector<Figure> m_figures;
   HistogramWidget* m_histogram;
+  QScrollArea* m_scrolling;
 };
 
 }  // namespace host

@@ -3,16 +3,21 @@
 #define GRADIX_HISTOGRAMWIDGET_H
 
 #include <QWidget>
+#include <vector>
 
 #include "Export/Statistics.h"
 
+class QPainter;
+
 namespace host {
 
+// Told to assistive technology as a chart, with what it shows as the description.
 class HistogramWidget : public QWidget {
  public:
   explicit HistogramWidget(QWidget* parent);
 
-  void SetHistogram(const Histogram& histogram);
+  // Both of the same scores.
+  void ShowScores(const ScoreStatistics& statistics, const Histogram& histogram);
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
@@ -22,13 +27,26 @@ class HistogramWidget : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  struct Axes {
+    std::vector<double> counts;
+    std::vector<double> points;
+    QRectF plot;
+  };
+
   void Retranslate();
-  QRectF PlotArea() const;
-  QRectF BarOf(const QRectF& plot, size_t bin) const;
-  void DrawBars(QPainter* painter, const QRectF& plot) const;
-  void DrawAxes(QPainter* painter, const QRectF& plot) const;
+  QString Summary() const;
+  QString Bins() const;
+  bool HasTitles() const;
+  Axes LayOut() const;
+  std::vector<double> PointTicks(double width) const;
+  QRectF BarOf(const Axes& axes, size_t bin) const;
+  void DrawBars(QPainter* painter, const Axes& axes) const;
+  void DrawPoints(QPainter* painter, const Axes& axes) const;
+  void DrawCounts(QPainter* painter, const Axes& axes) const;
+  size_t HighestBin() const;
   size_t HighestCount() const;
 
+  ScoreStatistics m_statistics;
   Histogram m_histogram;
 };
 

@@ -10,5 +10,19 @@
             <numerusform>%n rows below the headings</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n result(s) of %1 points</source>
+        <translation>
+            <numerusform>%n result of %1 points</numerusform>
+            <numerusform>%n results of %1 points</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n result(s) from %1 to %2 points; most, %3, from %4 to %5</source>
+        <translation>
+            <numerusform>%n result from %1 to %2 points; most, %3, from %4 to %5</numerusform>
+            <numerusform>%n results from %1 to %2 points; most, %3, from %4 to %5</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

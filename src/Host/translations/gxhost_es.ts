@@ -150,10 +150,6 @@ También puede arrastrarlo a esta ventana.</translation>
         <translation>Estudiantes: %1   Tareas: %2</translation>
     </message>
     <message>
-        <source>Assignment</source>
-        <translation>Tarea</translation>
-    </message>
-    <message>
         <source>&amp;Assignment:</source>
         <translation>T&amp;area:</translation>
     </message>
@@ -168,38 +164,6 @@ También puede arrastrarlo a esta ventana.</translation>
     <message>
         <source>Students</source>
         <translation>Estudiantes</translation>
-    </message>
-    <message>
-        <source>Results</source>
-        <translation>Resultados</translation>
-    </message>
-    <message>
-        <source>Missing</source>
-        <translation>Faltan</translation>
-    </message>
-    <message>
-        <source>Mean</source>
-        <translation>Media</translation>
-    </message>
-    <message>
-        <source>Median</source>
-        <translation>Mediana</translation>
-    </message>
-    <message>
-        <source>Minimum</source>
-        <translation>Mínimo</translation>
-    </message>
-    <message>
-        <source>Maximum</source>
-        <translation>Máximo</translation>
-    </message>
-    <message>
-        <source>Standard deviation</source>
-        <translation>Desviación estándar</translation>
-    </message>
-    <message>
-        <source>Points possible</source>
-        <translation>Puntos posibles</translation>
     </message>
     <message>
         <source>Score distribution</source>
@@ -645,6 +609,56 @@ Open it by hand in a browser, here or on another computer.</source>
     <message>
         <source>Semicolons</source>
         <translation>Punto y coma</translation>
+    </message>
+    <message>
+        <source>Students:</source>
+        <translation>Estudiantes:</translation>
+    </message>
+    <message>
+        <source>Results:</source>
+        <translation>Resultados:</translation>
+    </message>
+    <message>
+        <source>Missing:</source>
+        <translation>Faltan:</translation>
+    </message>
+    <message>
+        <source>Mean:</source>
+        <translation>Media:</translation>
+    </message>
+    <message>
+        <source>Median:</source>
+        <translation>Mediana:</translation>
+    </message>
+    <message>
+        <source>Minimum:</source>
+        <translation>Mínimo:</translation>
+    </message>
+    <message>
+        <source>Maximum:</source>
+        <translation>Máximo:</translation>
+    </message>
+    <message>
+        <source>Standard deviation:</source>
+        <translation>Desviación estándar:</translation>
+    </message>
+    <message>
+        <source>Points possible:</source>
+        <translation>Puntos posibles:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n result(s) of %1 points</source>
+        <translation>
+            <numerusform>%n resultado de %1 puntos</numerusform>
+            <numerusform>%n resultados de %1 puntos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n result(s) from %1 to %2 points; most, %3, from %4 to %5</source>
+        <translation>
+            <numerusform>%n resultado de %1 a %2 puntos; la mayoría, %3, de %4 a %5</numerusform>
+            <numerusform>%n resultados de %1 a %2 puntos; la mayoría, %3, de %4 a %5</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

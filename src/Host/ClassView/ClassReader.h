@@ -9,12 +9,17 @@
 #include "Export/ClassFile.h"
 #include "Export/Statistics.h"
 #include "Filters/GX_StdCsv/ResultsJoin.h"
+#include "Host/App/FileKind.h"
+#include "Host/App/FileStamp.h"
 
 namespace host {
 
+struct ReadWatch;
+
 struct OpenClass {
-  QString path;  // absolute
-  QString name;  // the class's; the file's base name when it has none
+  QString path;     // absolute
+  FileStamp stamp;  // of the file as it was read
+  QString name;     // the class's; the file's base name when it has none
   qz::ClassRecord record;
   qz::OriginalTexts originals;
   ScoreTable scores;  // on all assignments
@@ -24,13 +29,16 @@ struct OpenClass {
 };
 
 struct ReadResult {
-  std::shared_ptr<const OpenClass> openClass;  // null after a fault
-  QString path;
+  std::shared_ptr<const OpenClass> openClass;  // null after a fault, or when cancelled
+  QString path;                                // absolute
   ClassFault fault;
+  FileKind kind = FileKind::kUnreadable;  // what the file is or seems to be; not known when cancelled
+  bool cancelled = false;                 // before its end; there is no fault then
 };
 
-// Reads a class file completely. Any thread.
+// Reads a class file completely, unless `watch` tells it to stop. Any thread.
 ReadResult ReadClass(const QString& path);
+ReadResult ReadClass(const QString& path, ReadWatch* watch);
 
 }  // namespace host
 

@@ -13,7 +13,7 @@ struct FaultText {
   QString advice;
 };
 
-// In the current language; the result must have a fault.
+// In the current language; the result must have a fault. Of a download, it tells to open a class first.
 FaultText TextOfFault(const ReadResult& result);
 
 }  // namespace host

@@ -2,12 +2,13 @@
 #ifndef GRADIX_CLASSWATCHER_H
 #define GRADIX_CLASSWATCHER_H
 
-#include <QByteArray>
 #include <QFileSystemWatcher>
 #include <QObject>
 #include <QString>
 #include <QTimer>
 #include <functional>
+
+#include "Host/App/FileStamp.h"
 
 namespace host {
 
@@ -17,14 +18,27 @@ class ClassWatcher : public QObject {
  public:
   enum class Change { kNone, kChanged, kGone };
 
-  // `changed` is called once for each change, when the file has been quiet for a moment.
+  // `changed` is called once for each change, when the file has been quiet for a moment; with kNone when it
+  // is again as it was.
   ClassWatcher(QObject* parent, std::function<void(Change change)> changed);
 
-  // Watches this file, as it is now, and no other.
-  void Watch(const QString& path);
+  // Watches this file, that was read when it was like `read`, and no other. No file when the path is empty.
+  void Watch(const QString& path, const FileStamp& read);
 
-  // Whether the file is still as it was when the watch began; looks at the disk.
-  Change Look() const;
+  // Whether the file is still as it was when it was read; looks at the disk.
+  Change Look();
+
+ private:
+  void AddPaths();
+  void Check();
+
+  std::function<void(Change change)> m_changed;
+  QString m_path;
+  FileStamp m_read;
+  Change m_told = Change::kNone;
+  FileStamp m_toldOf;
+  QFileSystemWatcher m_watcher;
+  QTimer m_moment;
 };
 
 }  // namespace host

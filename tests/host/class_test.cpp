@@ -2,7 +2,6 @@
 #include <QSignalSpy>
 
 #include "Host/ClassView/AssignmentPanel.h"
-#include "Host/ClassView/ClassLoader.h"
 #include "Host/ClassView/ClassTableModel.h"
 #include "Host/ClassView/HistogramWidget.h"
 #include "Host/ClassView/ReadFaultText.h"
@@ -165,30 +164,6 @@ TEST_F(ClassTest, FaultsAreToldInWords) {
   SetCurrentLanguage(HostLanguage::kSpanish);
   EXPECT_TRUE(TextOfFault(malformed).what.contains(QStringLiteral("línea 3")));
   EXPECT_TRUE(TextOfFault(ReadText("")).what.contains(QStringLiteral("dañado")));
-}
-
-TEST_F(ClassTest, LoaderReadsOneFileAtATime) {
-  ClassLoader loader(nullptr);
-  ReadResult result;
-  bool inMainThread = false;
-  ASSERT_TRUE(loader.Load(kSecondary, [&](const ReadResult& read) {
-    result = read;
-    inMainThread = QThread::currentThread() == qApp->thread();
-  }));
-  EXPECT_TRUE(loader.IsLoading());
-  EXPECT_FALSE(loader.Load(kSecondary, [](const ReadResult&) { FAIL(); }));
-  ASSERT_TRUE(QTest::qWaitFor([&loader] { return !loader.IsLoading(); }, 30000));
-  EXPECT_TRUE(inMainThread);
-  ASSERT_NE(result.openClass, nullptr);
-  EXPECT_EQ(result.openClass->record.assignments.size(), 12U);
-}
-
-TEST_F(ClassTest, LoaderMayGoWhileReading) {
-  {
-    ClassLoader loader(nullptr);
-    ASSERT_TRUE(loader.Load(kSecondary, [](const ReadResult&) { FAIL(); }));
-  }
-  QApplication::processEvents();
 }
 
 }  // namespace

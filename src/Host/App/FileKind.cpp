@@ -15,7 +15,7 @@ namespace {
 using std::string_view_literals::operator""sv;
 
 constexpr qint64 kHeadSize = 4096;
-constexpr qint64 kLargestDownload = 16 * 1024 * 1024;
+constexpr qint64 kLargestDownload = qint64{16} * 1024 * 1024;
 
 // Bytes that every file of the kind has at that place.
 struct Signature {

@@ -660,5 +660,33 @@ Open it by hand in a browser, here or on another computer.</source>
             <numerusform>%n resultados de %1 a %2 puntos; la mayoría, %3, de %4 a %5</numerusform>
         </translation>
     </message>
+    <message>
+        <source>It looks like a picture.</source>
+        <translation>Parece una imagen.</translation>
+    </message>
+    <message>
+        <source>It looks like a PDF document.</source>
+        <translation>Parece un documento PDF.</translation>
+    </message>
+    <message>
+        <source>It looks like a document of an office program.</source>
+        <translation>Parece un documento de un programa de oficina.</translation>
+    </message>
+    <message>
+        <source>It looks like a compressed archive. If your class is in it, unpack it first.</source>
+        <translation>Parece un archivo comprimido. Si contiene su clase, descomprímalo antes.</translation>
+    </message>
+    <message>
+        <source>It looks like a web page.</source>
+        <translation>Parece una página web.</translation>
+    </message>
+    <message>
+        <source>It looks like a table (CSV).</source>
+        <translation>Parece una tabla (CSV).</translation>
+    </message>
+    <message>
+        <source>It looks like a gradebook downloaded from a learning system. Open your class first, then this gradebook, to fill in your results.</source>
+        <translation>Parece un libro de calificaciones descargado de una plataforma de aprendizaje. Abra primero su clase y después este libro para rellenarlo con sus resultados.</translation>
+    </message>
 </context>
 </TS>

@@ -19,7 +19,9 @@ CheckWindow::CheckWindow(QWidget* parent, std::shared_ptr<const OpenClass> openC
                          std::function<void(const FindingPlace&)> chosen)
     : QWidget(parent, Qt::Window),
       m_choices(new CheckChoices(this, [this] { Check(); })),
-      m_findings(new FindingsView(this, std::move(chosen))),
+      m_findings(new FindingsView(
+          this,
+          [show = std::move(chosen)](const std::vector<FindingPlace>& places) { show(places.front()); })),
       m_close(new QPushButton(this)) {
   setObjectName(QStringLiteral("checkWindow"));
   setAttribute(Qt::WA_DeleteOnClose);

@@ -1,6 +1,7 @@
 #include "Host/Findings/FindingsModel.h"
 
 #include <QStringList>
+#include <utility>
 
 #include "Host/App/Language.h"
 #include "Host/App/Texts.h"
@@ -11,9 +12,6 @@ namespace host {
 
 namespace {
 
-constexpr int kStudentRole = Qt::UserRole;
-constexpr int kAssignmentRole = Qt::UserRole + 1;
-
 // A title and what follows it: for the eye in lines, for a screen reader in one.
 QStandardItem* _Item(const QString& title, const QStringList& lines = {}) {
   auto* const item = new QStandardItem((QStringList(title) + lines).join(u'\n'));
@@ -23,22 +21,11 @@ QStandardItem* _Item(const QString& title, const QStringList& lines = {}) {
   return item;
 }
 
-void _SetPlace(QStandardItem* item, const FindingPlace& place) {
-  if (place.student != FindingPlace::kNone) {
-    item->setData(QVariant::fromValue(qulonglong{place.student}), kStudentRole);
-  }
-  if (place.assignment != FindingPlace::kNone) {
-    item->setData(QVariant::fromValue(qulonglong{place.assignment}), kAssignmentRole);
-  }
-}
-
 void _AddPlaces(const Finding& finding, const ExportSubject& subject, QStandardItem* item) {
   const auto count = static_cast<qsizetype>(finding.places.size());
   for (const FindingPlace& place : finding.places) {
     if (item->rowCount() == FindingsModel::kMaxPlaces) break;
-    QStandardItem* const row = _Item(LineFromUtf8(DescribePlace(place, subject)));
-    _SetPlace(row, place);
-    item->appendRow(row);
+    item->appendRow(_Item(LineFromUtf8(DescribePlace(place, subject))));
   }
   if (count > FindingsModel::kMaxPlaces) {
     item->appendRow(_Item(Texts::tr("and %1 more").arg(count - FindingsModel::kMaxPlaces)));
@@ -53,14 +40,8 @@ QStandardItem* _FindingItem(const Finding& finding, const ExportSubject& subject
   QStandardItem* const item =
       _Item(QString::fromStdString(DescribeConsequence(finding.consequence, language)), lines);
   item->setIcon(ConsequenceIcon(finding.consequence));
-  if (!finding.places.empty()) _SetPlace(item, finding.places.front());
   _AddPlaces(finding, subject, item);
   return item;
-}
-
-size_t _Position(const QModelIndex& index, int role) {
-  const QVariant position = index.data(role);
-  return position.isValid() ? static_cast<size_t>(position.toULongLong()) : FindingPlace::kNone;
 }
 
 }  // namespace
@@ -69,13 +50,20 @@ TextLanguage FindingLanguage() {
   return CurrentLanguage() == HostLanguage::kSpanish ? TextLanguage::kSpanish : TextLanguage::kEnglish;
 }
 
-void FindingsModel::Show(const Findings& findings, const ExportSubject& subject) {
+void FindingsModel::Show(Findings findings, const ExportSubject& subject) {
   clear();
-  for (const Finding& finding : findings) appendRow(_FindingItem(finding, subject));
+  m_findings = std::move(findings);
+  for (const Finding& finding : m_findings) appendRow(_FindingItem(finding, subject));
 }
 
-FindingPlace FindingsModel::PlaceOf(const QModelIndex& index) {
-  return {.student = _Position(index, kStudentRole), .assignment = _Position(index, kAssignmentRole)};
+std::vector<FindingPlace> FindingsModel::PlacesOf(const QModelIndex& index) const {
+  if (!index.isValid()) return {};
+  const QModelIndex parent = index.parent();
+  const auto row = static_cast<size_t>(index.row());
+  if (!parent.isValid()) return m_findings[row].places;
+  const std::vector<FindingPlace>& places = m_findings[static_cast<size_t>(parent.row())].places;
+  const auto first = places.begin() + index.row();
+  return {first, row < kMaxPlaces ? first + 1 : places.end()};
 }
 
 }  // namespace host

@@ -3,6 +3,7 @@
 #define GRADIX_FINDINGSMODEL_H
 
 #include <QStandardItemModel>
+#include <vector>
 
 #include "Systems/ExportSubject.h"
 #include "Systems/Finding.h"
@@ -20,11 +21,15 @@ class FindingsModel : public QStandardItemModel {
 
   explicit FindingsModel(QObject* parent) : QStandardItemModel(parent) {}
 
-  // In the current language and the order in which they are given. Keeps nothing of the arguments.
-  void Show(const Findings& findings, const ExportSubject& subject);
+  // In the current language and the order in which they are given. Keeps nothing of the subject.
+  void Show(Findings findings, const ExportSubject& subject);
+  const Findings& Shown() const { return m_findings; }
 
-  // What a row is about: of a finding, the first place. Without student and assignment when there is none.
-  static FindingPlace PlaceOf(const QModelIndex& index);
+  // What a row is about: that of a finding, all its places.
+  std::vector<FindingPlace> PlacesOf(const QModelIndex& index) const;
+
+ private:
+  Findings m_findings;
 };
 
 }  // namespace host

@@ -14,7 +14,7 @@
 
 namespace host {
 
-FindingsView::FindingsView(QWidget* parent, std::function<void(const FindingPlace&)> chosen)
+FindingsView::FindingsView(QWidget* parent, Chosen chosen)
     : QWidget(parent),
       m_chosen(std::move(chosen)),
       m_model(this),
@@ -64,32 +64,34 @@ QWidget* FindingsView::MakeNothingPage() {
   return page;
 }
 
-void FindingsView::Show(const Findings& findings, const ExportSubject& subject) {
-  m_model.Show(findings, subject);
-  for (size_t i = 0; i < findings.size(); ++i) {
-    m_tree->setExpanded(m_model.index(static_cast<int>(i), 0), IsTrouble(findings[i].consequence));
+void FindingsView::Show(Findings findings, const ExportSubject& subject) {
+  m_model.Show(std::move(findings), subject);
+  for (size_t i = 0; i < Shown().size(); ++i) {
+    m_tree->setExpanded(m_model.index(static_cast<int>(i), 0), IsTrouble(Shown()[i].consequence));
   }
+  const QString system = QString::fromUtf8(SystemOf(*subject.format).name);
   m_tree->setAccessibleName(Texts::tr("What will happen"));
-  m_nothing->setText(Texts::tr("As far as this class tells, its results will arrive in %1.")
-                         .arg(QString::fromUtf8(SystemOf(*subject.format).name)));
-  m_pages->setCurrentIndex(findings.empty() ? 1 : 0);
-  ShowSummary(findings);
+  m_nothing->setText(Texts::tr("As far as this class tells, its results will arrive in %1.").arg(system));
+  m_pages->setCurrentIndex(Shown().empty() ? 1 : 0);
+  ShowSummary(system);
 }
 
-void FindingsView::ShowSummary(const Findings& findings) {
+void FindingsView::ShowSummary(const QString& system) {
   const auto problems =
-      std::ranges::count_if(findings, [](const Finding& finding) { return IsTrouble(finding.consequence); });
-  const auto notes = static_cast<qsizetype>(findings.size()) - problems;
-  QString text =
-      problems == 0 ? Texts::tr("No problems were found.") : Texts::tr("Problems: %1").arg(problems);
+      std::ranges::count_if(Shown(), [](const Finding& finding) { return IsTrouble(finding.consequence); });
+  const auto notes = static_cast<qsizetype>(Shown().size()) - problems;
+  QString text = problems == 0 ? Texts::tr("No problems were found: ready for %1.").arg(system)
+                               : Texts::tr("Problems: %1").arg(problems);
   if (notes > 0) text += QLatin1String("   ") + Texts::tr("Good to know: %1").arg(notes);
   m_summary->setText(text);
 }
 
 void FindingsView::Choose(const QModelIndex& index) {
-  const FindingPlace place = FindingsModel::PlaceOf(index);
-  const bool isInClass = place.student != FindingPlace::kNone || place.assignment != FindingPlace::kNone;
-  if (isInClass) m_chosen(place);
+  std::vector<FindingPlace> places = m_model.PlacesOf(index);
+  std::erase_if(places, [](const FindingPlace& place) {  // who is not in the class
+    return place.student == FindingPlace::kNone && place.assignment == FindingPlace::kNone;
+  });
+  if (!places.empty()) m_chosen(places);
 }
 
 }  // namespace host

@@ -4,6 +4,7 @@
 
 #include <QWidget>
 #include <functional>
+#include <vector>
 
 #include "Host/Findings/FindingsModel.h"
 
@@ -15,19 +16,23 @@ namespace host {
 
 class FindingsView : public QWidget {
  public:
-  // `chosen` is called with a place of the class when the user clicks on it or presses Return.
-  FindingsView(QWidget* parent, std::function<void(const FindingPlace& place)> chosen);
+  using Chosen = std::function<void(const std::vector<FindingPlace>& places)>;
 
-  // In the current language; after a change of it, to be called again. Keeps nothing of the arguments.
-  void Show(const Findings& findings, const ExportSubject& subject);
+  // `chosen` is called with places of the class when the user clicks on a row or presses Return: with all of
+  // a finding, or with the one of its own row.
+  FindingsView(QWidget* parent, Chosen chosen);
+
+  // In the current language; after a change of it, to be called again. Keeps nothing of the subject.
+  void Show(Findings findings, const ExportSubject& subject);
+  const Findings& Shown() const { return m_model.Shown(); }
 
  private:
   void AddTree();
   QWidget* MakeNothingPage();
-  void ShowSummary(const Findings& findings);
+  void ShowSummary(const QString& system);
   void Choose(const QModelIndex& index);
 
-  std::function<void(const FindingPlace&)> m_chosen;
+  Chosen m_chosen;
   FindingsModel m_model;
   QLabel* m_summary;
   QStackedWidget* m_pages;

@@ -218,10 +218,6 @@ También puede arrastrarlo a esta ventana.</translation>
         <translation>Problemas: %1</translation>
     </message>
     <message>
-        <source>No problems were found.</source>
-        <translation>No se encontraron problemas.</translation>
-    </message>
-    <message>
         <source>Good to know: %1</source>
         <translation>Conviene saber: %1</translation>
     </message>
@@ -687,6 +683,10 @@ Open it by hand in a browser, here or on another computer.</source>
     <message>
         <source>It looks like a gradebook downloaded from a learning system. Open your class first, then this gradebook, to fill in your results.</source>
         <translation>Parece un libro de calificaciones descargado de una plataforma de aprendizaje. Abra primero su clase y después este libro para rellenarlo con sus resultados.</translation>
+    </message>
+    <message>
+        <source>No problems were found: ready for %1.</source>
+        <translation>No se encontraron problemas: lista para %1.</translation>
     </message>
 </context>
 </TS>

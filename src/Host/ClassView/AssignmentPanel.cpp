@@ -90,8 +90,10 @@ void AssignmentPanel::AddScrolling(QWidget* contents) {
   layout->addWidget(m_scrolling);
 }
 
-// It never scrolls to the side.
+// It never scrolls to the side. The usual numbers take the same width.
 void AssignmentPanel::FitWidth() {
+  const int usual = fontMetrics().horizontalAdvance(QStringLiteral("00000.00"));
+  for (const Figure& figure : m_figures) figure.value->setMinimumWidth(usual);
   m_scrolling->setMinimumWidth(m_scrolling->widget()->minimumSizeHint().width() +
                                m_scrolling->verticalScrollBar()->sizeHint().width());
 }
@@ -148,6 +150,7 @@ void AssignmentPanel::ShowFigures(const ScoreStatistics& statistics, int pointsP
                             QLocale().toString(pointsPossible)};
   static_assert(std::size(values) == std::size(kCaptions));
   for (size_t i = 0; i < m_figures.size(); ++i) m_figures[i].value->setText(values[i]);
+  FitWidth();
 }
 
 void AssignmentPanel::changeEvent(QEvent* event) {

@@ -11,11 +11,12 @@ namespace {
 constexpr const char* kRole = "accessibleRole";
 
 QAccessibleInterface* _MakeInterface(const QString& className, QObject* object) {
-  auto* const widget = className == QLatin1String("QWidget") ? qobject_cast<QWidget*>(object) : nullptr;
+  auto* const widget = qobject_cast<QWidget*>(object);
   if (widget == nullptr) return nullptr;
   const QVariant role = widget->property(kRole);
   if (role.isValid()) return new QAccessibleWidget(widget, static_cast<QAccessible::Role>(role.toInt()));
-  return widget->isWindow() ? new QAccessibleWidget(widget, QAccessible::Window) : nullptr;
+  const bool isPlainWindow = className == QLatin1String("QWidget") && widget->isWindow();
+  return isPlainWindow ? new QAccessibleWidget(widget, QAccessible::Window) : nullptr;
 }
 
 }  // namespace

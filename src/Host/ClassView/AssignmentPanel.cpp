@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "Host/App/AccessibleRoles.h"
 #include "Host/App/Numbers.h"
 #include "Host/App/Texts.h"
 #include "Host/ClassView/HistogramWidget.h"
@@ -76,6 +77,7 @@ void AssignmentPanel::AddFigures() {
 
 // The keyboard scrolls, too, where there is something to scroll.
 void AssignmentPanel::AddScrolling(QWidget* contents) {
+  SetAccessibleRole(m_scrolling, QAccessible::Pane);
   m_scrolling->setFrameShape(QFrame::NoFrame);
   m_scrolling->setWidgetResizable(true);
   m_scrolling->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

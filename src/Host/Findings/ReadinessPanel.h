@@ -5,6 +5,7 @@
 #include <QWidget>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "Host/ClassView/ClassReader.h"
@@ -13,12 +14,15 @@
 
 namespace host {
 
+class ExportPicker;
+class FindingsView;
+
 // System, student field and kind of file are chosen in it and remembered: the system, and for each system its
 // field.
 class ReadinessPanel : public QWidget {
  public:
   struct Handlers {
-    std::function<void()> changed;  // another choice, or the class
+    std::function<void()> changed;  // another choice, the class, or the language
     std::function<void(const std::vector<FindingPlace>& places)> placesChosen;  // the user wants to see them
   };
 
@@ -42,7 +46,13 @@ class ReadinessPanel : public QWidget {
   void changeEvent(QEvent* event) override;
 
  private:
-  void Retranslate();
+  void Judge();
+
+  Handlers m_handlers;
+  std::shared_ptr<const OpenClass> m_class;
+  std::optional<ExportSubject> m_subject;  // what is judged, of m_class
+  ExportPicker* m_picker;
+  FindingsView* m_findings;
 };
 
 }  // namespace host

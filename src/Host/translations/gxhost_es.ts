@@ -688,5 +688,17 @@ Open it by hand in a browser, here or on another computer.</source>
         <source>No problems were found: ready for %1.</source>
         <translation>No se encontraron problemas: lista para %1.</translation>
     </message>
+    <message>
+        <source>The same in the field “%1”: %2.</source>
+        <translation>Lo mismo en el campo «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>Nearly the same in the field “%1”, but for capitals, blanks or leading zeros: %2.</source>
+        <translation>Casi lo mismo en el campo «%1», salvo mayúsculas, espacios o ceros iniciales: %2.</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 y %2</translation>
+    </message>
 </context>
 </TS>

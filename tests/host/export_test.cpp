@@ -52,8 +52,24 @@ TEST_F(FilterModuleTest, ListsFormats) {
   EXPECT_EQ(formats[2].index, 2U);
   EXPECT_EQ(formats[2].name, QStringLiteral("Assignment Results for Café 2"));
   EXPECT_EQ(formats[2].extension, QStringLiteral("csv"));
+  EXPECT_EQ(RowOf(formats[2]), nullptr);
   m_fake->failingFormat = 0;
   EXPECT_TRUE(m_filter->Formats().empty());
+}
+
+// By index and name, since a filter of another version may have others.
+TEST(FilterFormats, AreKnownByTheirNames) {
+  const std::unique_ptr<FilterModule> filter = FilterModule::Load(QStringLiteral(FILTER_MODULE), nullptr);
+  ASSERT_NE(filter, nullptr);
+  qputenv("GRADIX_BUNDLE", BUNDLE);
+  std::vector<ExportFormat> formats = filter->Formats();
+  qunsetenv("GRADIX_BUNDLE");
+  ASSERT_EQ(formats.size(), FormatTable().size());
+  for (const FormatRow& row : FormatTable()) EXPECT_EQ(RowOf(formats[row.index]), &row) << row.key;
+  std::swap(formats[6].index, formats[7].index);
+  EXPECT_EQ(RowOf(formats[6]), nullptr);
+  formats[7].index = 99;
+  EXPECT_EQ(RowOf(formats[7]), nullptr);
 }
 
 class ExportRunTest : public HostTest {
@@ -160,6 +176,30 @@ TEST_F(ExportRunTest, WithoutADialogTheRunEnds) {
   ASSERT_EQ(Start(), StartResult::kStarted);
   EXPECT_TRUE(WaitForEnd());
   EXPECT_FALSE(m_run.IsRunning());
+}
+
+TEST_F(ExportRunTest, TellsTheChoices) {
+  const uint32_t chosen[] = {1, 4};
+  m_choice = PathOf("out.csv");
+  for (const bool isOlder : {true, false}) {
+    m_fake->outcome.state = QZFILTER_WRITTEN;
+    m_fake->outcome.userIDField = 3;
+    m_fake->outcome.assignments = 2;
+    if (!isOlder) {
+      m_fake->outcome.chosenAssignments = chosen;
+      m_fake->outcome.students = 30;
+    }
+    m_finished = 0;
+    ASSERT_EQ(Start(), StartResult::kStarted);
+    AskForFile();
+    gDialog->close();
+    ASSERT_TRUE(WaitForEnd());
+    EXPECT_EQ(m_result.assignments, isOlder ? std::vector<size_t>() : (std::vector<size_t>{1, 4}));
+    EXPECT_EQ(m_result.useQuotes, isOlder);
+    EXPECT_EQ(m_result.studentCount, isOlder ? 0U : 30U);
+    EXPECT_EQ(m_result.assignmentCount, 2U);
+    EXPECT_EQ(m_result.userIDField, 3);
+  }
 }
 
 // Whatever is at the path.

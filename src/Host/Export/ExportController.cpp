@@ -2,7 +2,9 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QWidget>
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <utility>
@@ -16,13 +18,35 @@
 
 namespace host {
 
-ExportController::ExportController(QWidget* window, std::function<void(const QString&)> stateChanged)
+namespace {
+
+constexpr int kPaintTime = 50;  // milliseconds
+
+// Whether the class is the one that the filter has read.
+bool _IsSameClass(const OpenClass& openClass, const RunResult& result) {
+  const size_t count = openClass.record.assignments.size();
+  const auto isThere = [count](size_t position) { return position < count; };
+  return openClass.record.students.size() == result.studentCount &&
+         std::ranges::all_of(result.assignments, isThere);
+}
+
+}  // namespace
+
+ExportController::ExportController(QWidget* window, Handlers handlers)
     : QObject(window),
       m_window(window),
-      m_stateChanged(std::move(stateChanged)),
+      m_handlers(std::move(handlers)),
       m_run(
           this, [this](QWidget* dialog) { return ChooseFile(dialog); },
-          [this](const RunResult& result) { RunFinished(result); }) {}
+          [this](const RunResult& result) { RunFinished(result); }) {
+  m_preparing.setSingleShot(true);
+  m_preparing.setInterval(kPaintTime);
+  connect(&m_preparing, &QTimer::timeout, this, &ExportController::Begin);
+}
+
+ExportController::~ExportController() {
+  if (m_preparing.isActive()) EndPreparing();
+}
 
 void ExportController::LoadFilter() {
   const QString path = FilterModule::DefaultPath();
@@ -56,40 +80,51 @@ void ExportController::ShowLoadError(const QString& path, const FilterLoadError&
       Texts::tr("%1\n\nInstall Gradix again, so that both come from the same version.").arg(error.detail));
 }
 
-void ExportController::Export(const ExportFormat& format, const OpenClass& openClass, size_t assignment) {
+void ExportController::Export(const ExportFormat& format, std::shared_ptr<const OpenClass> openClass,
+                              size_t assignment) {
   if (m_filter == nullptr || IsRunning()) return;
-  const qz::AssignmentRecord& row = openClass.record.assignments[assignment];
-  m_exportedClassPath = openClass.path;
-  m_extension = format.extension;
-  m_proposedName = ProposedFileName(LineFromUtf8(openClass.Texts().AssignmentName(assignment)), format.name,
-                                    format.extension);
+  m_format = format;
+  m_class = std::move(openClass);
+  m_assignment = assignment;
+  QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+  m_preparing.start();
+  m_handlers.stateChanged(Texts::tr("Preparing the export…"));
+}
+
+void ExportController::EndPreparing() {
+  m_preparing.stop();
+  QGuiApplication::restoreOverrideCursor();
+}
+
+void ExportController::Begin() {
   ExportRequest request;
-  request.formatIndex = format.index;
-  request.assignmentID = row.id;
-  request.classPath = openClass.path;
+  request.formatIndex = m_format.index;
+  request.assignmentID = m_class->record.assignments[m_assignment].id;
+  request.classPath = m_class->path;
   request.spanish = CurrentLanguage() == HostLanguage::kSpanish;
   const StartResult result = m_run.Start(*m_filter, request, m_window);
+  EndPreparing();
   if (result == StartResult::kStarted) {
-    m_stateChanged(Texts::tr("An export is under way"));
+    m_handlers.stateChanged(Texts::tr("An export is under way"));
   } else {
-    ShowStartError(result, format, openClass.path);
+    m_handlers.stateChanged(Texts::tr("Nothing was exported"));
+    ShowStartError(result);
   }
 }
 
-void ExportController::ShowStartError(StartResult result, const ExportFormat& format,
-                                      const QString& classPath) {
+void ExportController::ShowStartError(StartResult result) {
   switch (result) {
     case StartResult::kBeginFailed:
       ShowMessage(m_window,
                   Texts::tr("The export could not be started: the filter does not know the format “%1”.")
-                      .arg(format.name),
+                      .arg(m_format.name),
                   Texts::tr("Try again. If it fails again, quit Gradix and open the class again."));
       break;
     case StartResult::kFileFailed:
       ShowMessage(
           m_window, Texts::tr("The filter could not read the class file or its own resource file."),
           Texts::tr("Check that “%1” is still there and open it again. If it opens, install Gradix again.")
-              .arg(QFileInfo(classPath).fileName()));
+              .arg(QFileInfo(m_class->path).fileName()));
       break;
     case StartResult::kSessionUnknown:
       ShowMessage(m_window, Texts::tr("The export failed: the filter has lost its session."),
@@ -101,33 +136,49 @@ void ExportController::ShowStartError(StartResult result, const ExportFormat& fo
 }
 
 std::optional<QString> ExportController::ChooseFile(QWidget* dialog) {
-  return ChooseSaveFile(dialog != nullptr ? dialog : m_window, m_proposedName, m_extension,
-                        {m_openClassPath, m_exportedClassPath});
+  const QString name = ProposedFileName(LineFromUtf8(m_class->Texts().AssignmentName(m_assignment)),
+                                        m_format.name, m_format.extension);
+  return ChooseSaveFile(dialog != nullptr ? dialog : m_window, name, m_format.extension,
+                        {m_openClassPath, m_class->path});
 }
 
 void ExportController::RunFinished(const RunResult& result) {
   const QString path = QDir::toNativeSeparators(result.path);
   switch (result.outcome) {
-    case RunOutcome::kCanceled: m_stateChanged(Texts::tr("Nothing was exported")); break;
+    case RunOutcome::kCanceled: m_handlers.stateChanged(Texts::tr("Nothing was exported")); break;
     case RunOutcome::kNotWritten: ShowNotWritten(result); break;
     case RunOutcome::kUnknown:
-      m_stateChanged(Texts::tr("The export has ended"));
+      m_handlers.stateChanged(Texts::tr("The export has ended"));
       ShowMessage(m_window, Texts::tr("The export filter does not tell whether “%1” was written.").arg(path),
                   Texts::tr("It is older than this program. Open the file and check that it is complete "
                             "before you use it."));
       break;
-    case RunOutcome::kWritten: {
-      m_stateChanged(Texts::tr("Exported to %1").arg(path));
-      auto* const window = new ResultWindow(
-          m_window, {result.path, result.replacedCharacters, result.studentsWithoutIdentifier});
-      window->show();
+    case RunOutcome::kWritten:
+      m_handlers.stateChanged(Texts::tr("Exported to %1").arg(path));
+      m_handlers.written(FileOf(result));
       break;
-    }
   }
 }
 
+ExportedFile ExportController::FileOf(const RunResult& result) const {
+  ExportedFile file;
+  file.path = result.path;
+  file.format = RowOf(m_format);
+  file.throughDialog = true;
+  file.useQuotes = result.useQuotes;
+  if (result.userIDField != 0) file.identifier = static_cast<qz::UserIDField>(result.userIDField);
+  file.replacedCharacters = result.replacedCharacters;
+  file.studentsWithoutIdentifier = result.studentsWithoutIdentifier;
+  file.assignmentCount = result.assignmentCount;
+  file.studentCount = result.studentCount;
+  if (!_IsSameClass(*m_class, result)) return file;
+  file.openClass = m_class;
+  file.assignments = result.assignments;
+  return file;
+}
+
 void ExportController::ShowNotWritten(const RunResult& result) {
-  m_stateChanged(Texts::tr("The export failed"));
+  m_handlers.stateChanged(Texts::tr("The export failed"));
   const bool isFull = result.error == ENOSPC || result.error == EDQUOT;
   const QString reason = result.error == 0 ? QString() : QString::fromLocal8Bit(std::strerror(result.error));
   const QString what = result.incomplete ? Texts::tr(
@@ -140,10 +191,20 @@ void ExportController::ShowNotWritten(const RunResult& result) {
                                 : Texts::tr(
                                       "%1\n\nCheck that the folder exists, that you may write to it and that "
                                       "the disk is not full. Then export again, perhaps to another folder.");
-  ShowMessage(m_window, what.arg(QDir::toNativeSeparators(result.path)), advice.arg(reason).trimmed());
+  const bool isOldThere = !result.incomplete && QFileInfo::exists(result.path);
+  const QString old = isOldThere ? Texts::tr("The earlier file of this name is still there, unchanged.") +
+                                       QLatin1String("\n\n")
+                                 : QString();
+  ShowMessage(m_window, what.arg(QDir::toNativeSeparators(result.path)), old + advice.arg(reason).trimmed());
 }
 
 void ExportController::CloseDialog() {
+  if (m_preparing.isActive()) {
+    EndPreparing();
+    // Whoever is told may be in the middle of closing the window.
+    QTimer::singleShot(0, this, [this] { m_handlers.stateChanged(Texts::tr("Nothing was exported")); });
+    return;
+  }
   const QPointer<QWidget> dialog = m_run.Dialog();
   if (dialog == nullptr) return;
   dialog->close();

@@ -127,6 +127,12 @@ RunResult ExportRun::Result() const {
   result.incomplete = told->incomplete != 0;
   result.replacedCharacters = told->replacedCharacters;
   result.studentsWithoutIdentifier = told->studentsWithoutIdentifier;
+  result.assignmentCount = told->assignments;
+  result.userIDField = told->userIDField;
+  if (told->chosenAssignments == nullptr) return result;
+  result.assignments.assign(told->chosenAssignments, told->chosenAssignments + told->assignments);
+  result.useQuotes = told->useQuotes != 0;
+  result.studentCount = told->students;
   return result;
 }
 

@@ -11,6 +11,7 @@
 #include <QWidget>
 #include <functional>
 #include <optional>
+#include <vector>
 
 #include "Host/Export/FilterModule.h"
 
@@ -46,6 +47,13 @@ struct RunResult {
   bool incomplete = false;  // not written, and a part of it stands where the earlier file was
   uint32_t replacedCharacters = 0;
   uint32_t studentsWithoutIdentifier = 0;
+  uint32_t assignmentCount = 0;
+  int32_t userIDField = 0;  // as in QZEXPORTOUTCOME
+
+  // A filter older than these tells none of them.
+  std::vector<size_t> assignments;  // the chosen ones' positions in the class
+  bool useQuotes = true;
+  uint32_t studentCount = 0;
 };
 
 // Main thread only. Must outlive a run's dialog, which asks it for the file.

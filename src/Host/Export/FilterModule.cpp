@@ -41,6 +41,12 @@ bool _Find(void* handle, const char* name, Pointer* pointer, FilterLoadError* er
 
 }  // namespace
 
+// A filter of another version may have another format at the index.
+const FormatRow* RowOf(const ExportFormat& format) {
+  const FormatRow* const row = FindFormat(format.index);
+  return row != nullptr && format.name == QLatin1String(row->name) ? row : nullptr;
+}
+
 QString FilterModule::DefaultPath() {
   QString named = qEnvironmentVariable("GRADIX_FILTER");
   if (!named.isEmpty()) return named;

@@ -8,6 +8,7 @@
 #include <optional>
 #include <vector>
 
+#include "Filters/GX_StdCsv/FormatTable.h"
 #include "gradix/QZFilter.h"
 
 namespace host {
@@ -17,6 +18,9 @@ struct ExportFormat {
   QString name;
   QString extension;  // without a dot
 };
+
+// What this program knows of the format; null when it does not know it.
+const FormatRow* RowOf(const ExportFormat& format);
 
 enum class FilterFault { kNone, kNotFound, kNotLoadable, kMissingSymbol };
 

@@ -1,79 +1,123 @@
 #include "Host/Result/ResultWindow.h"
 
-#include <QDesktopServices>
+#include <QClipboard>
 #include <QDir>
 #include <QEvent>
 #include <QFileInfo>
-#include <QFormLayout>
-#include <QLabel>
-#include <QLocale>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QPointer>
 #include <QPushButton>
-#include <QStringList>
+#include <QScreen>
 #include <QTabWidget>
-#include <QUrl>
 #include <QVBoxLayout>
+#include <optional>
+#include <utility>
 
 #include "Host/App/CloseKeys.h"
+#include "Host/App/DesktopOpener.h"
+#include "Host/App/HelpBook.h"
+#include "Host/App/Messages.h"
 #include "Host/App/Texts.h"
+#include "Host/Findings/FindingsView.h"
 #include "Host/Preview/FilePreview.h"
+#include "Host/Result/ExportFacts.h"
+#include "Host/Result/FileHandle.h"
+#include "Host/Result/ResultPage.h"
+#include "Systems/LearningSystem.h"
 
 namespace host {
 
-ResultWindow::ResultWindow(QWidget* parent, const ExportedFile& file)
+namespace {
+
+FileReading _ReadingOf(const ExportedFile& file, const QByteArray& bytes) {
+  if (file.format == nullptr) return {};
+  return ReadingOf(*file.format, file.dialect, file.delimiter,
+                   {bytes.constData(), static_cast<size_t>(bytes.size())});
+}
+
+bool _OffersCurrent(const ExportedFile& file) {
+  return file.dialect == Dialect::kClassic && file.openClass != nullptr && file.format != nullptr &&
+         FindCurrentFile(*file.format) != nullptr;
+}
+
+int32_t _HelpTopic(const ExportedFile& file) {
+  return file.format != nullptr ? file.format->helpTopic : 0;
+}
+
+}  // namespace
+
+ResultWindow::ResultWindow(QWidget* parent, const ExportedFile& file, ResultHandlers handlers)
     : QWidget(parent, Qt::Window),
       m_file(file),
-      m_size(QFileInfo(file.path).size()),
+      m_handlers(std::move(handlers)),
       m_preview(new FilePreview(this)),
-      m_notes(new QLabel(this)),
-      m_details(new QFormLayout),
-      m_sizeText(new QLabel(this)),
+      m_page(new ResultPage(this, file)),
       m_openFolder(new QPushButton(this)),
+      m_copyPath(new QPushButton(this)),
+      m_saveCurrent(new QPushButton(this)),
+      m_help(new QPushButton(this)),
       m_close(new QPushButton(this)) {
   setObjectName(QStringLiteral("resultWindow"));
   setAttribute(Qt::WA_DeleteOnClose);
+  AddPages();
   auto* const layout = new QVBoxLayout(this);
   layout->addWidget(m_preview, 1);
-  layout->addWidget(m_notes);
-  layout->addLayout(m_details);
-  m_preview->Show(BeginningOf(file.path), {}, m_size);
-  AddDetails(file.path);
-  AddButtons(file.path);
+  AddButtons();
+  OfferHelp(this, [topic = _HelpTopic(file)] { return topic; });
   Retranslate();
-  resize(fontMetrics().height() * 48, fontMetrics().height() * 28);
+  const QSize wanted(fontMetrics().height() * 56, fontMetrics().height() * 34);
+  resize(wanted.boundedTo(screen()->availableSize() * 9 / 10));
 }
 
-void ResultWindow::AddDetails(const QString& path) {
-  auto* const pathText = new QLabel(QDir::toNativeSeparators(path), this);
-  for (QLabel* const value : {pathText, m_sizeText}) {
-    value->setTextFormat(Qt::PlainText);
-    value->setTextInteractionFlags(Qt::TextSelectableByMouse);
+void ResultWindow::AddPages() {
+  QTabWidget* const pages = m_preview->Pages();
+  pages->insertTab(0, m_page, QString());
+  if (m_file.dialect != Dialect::kFilled && SubjectOf(m_file)) {
+    m_findings = new FindingsView(pages, [this](const std::vector<FindingPlace>& places) {
+      if (m_handlers.placesChosen) m_handlers.placesChosen(places);
+    });
+    pages->insertTab(1, m_findings, QString());
   }
-  pathText->setWordWrap(true);
-  m_details->addRow(new QLabel(this), pathText);
-  m_details->addRow(new QLabel(this), m_sizeText);
+  pages->setCurrentIndex(0);
+  const QByteArray bytes = BeginningOf(m_file.path);
+  m_preview->Show(bytes, _ReadingOf(m_file, bytes), QFileInfo(m_file.path).size());
 }
 
-void ResultWindow::AddButtons(const QString& path) {
+void ResultWindow::AddButtons() {
   auto* const row = new QHBoxLayout;
-  row->addWidget(m_openFolder);
+  for (QPushButton* const button : {m_openFolder, m_copyPath, m_saveCurrent}) row->addWidget(button);
   row->addStretch();
-  row->addWidget(m_close);
+  for (QPushButton* const button : {m_help, m_close}) row->addWidget(button);
   static_cast<QVBoxLayout*>(layout())->addLayout(row);
-  connect(m_openFolder, &QPushButton::clicked, this, [folder = QFileInfo(path).absolutePath()] {
-    QDesktopServices::openUrl(QUrl::fromLocalFile(folder));
-  });
+  m_saveCurrent->setVisible(m_handlers.saveCurrent && _OffersCurrent(m_file));
+  connect(m_openFolder, &QPushButton::clicked, this, &ResultWindow::OpenFolder);
+  connect(m_copyPath, &QPushButton::clicked, this, &ResultWindow::CopyPath);
+  connect(m_saveCurrent, &QPushButton::clicked, this, [this] { m_handlers.saveCurrent(m_file); });
+  connect(m_help, &QPushButton::clicked, this, [this] { ShowHelp(this, _HelpTopic(m_file)); });
   connect(m_close, &QPushButton::clicked, this, &QWidget::close);
   CloseByKeys(this);
 }
 
-QString ResultWindow::Notes() const {
-  QStringList notes;
-  if (m_file.replacedCharacters > 0)
-    notes.append(Texts::tr("Characters of the class that became “?” because the file cannot hold them: %1")
-                     .arg(m_file.replacedCharacters));
-  if (m_file.studentsWithoutIdentifier > 0)
-    notes.append(Texts::tr("Students without an identifier: %1").arg(m_file.studentsWithoutIdentifier));
-  return notes.join(u'\n');
+void ResultWindow::OpenFolder() {
+  const QString folder = QFileInfo(m_file.path).absolutePath();
+  OpenOnDesktop(folder, [window = QPointer<QWidget>(this), folder] {
+    if (window == nullptr) return;
+    ShowMessage(window, Texts::tr("The folder could not be opened."), QDir::toNativeSeparators(folder));
+  });
+}
+
+void ResultWindow::CopyPath() {
+  QGuiApplication::clipboard()->setText(QDir::toNativeSeparators(m_file.path));
+  m_page->Handle()->Say(Texts::tr("The path was copied."));
+}
+
+void ResultWindow::ShowFindings() {
+  const std::optional<ExportSubject> subject = SubjectOf(m_file);
+  m_findings->Show(CheckExport(*subject), *subject);
+  QTabWidget* const pages = m_preview->Pages();
+  pages->setTabText(pages->indexOf(m_findings),
+                    Texts::tr("What will &happen (%1)").arg(m_findings->Shown().size()));
 }
 
 void ResultWindow::changeEvent(QEvent* event) {
@@ -83,23 +127,20 @@ void ResultWindow::changeEvent(QEvent* event) {
 
 void ResultWindow::Retranslate() {
   setWindowTitle(Texts::tr("Exported file: %1").arg(QFileInfo(m_file.path).fileName()));
-  setAccessibleName(windowTitle());
-  m_preview->Pages()->setAccessibleName(windowTitle());
-  m_notes->setText(Notes());
-  m_notes->setVisible(!m_notes->text().isEmpty());
-  constexpr const char* kDetails[] = {QT_TRANSLATE_NOOP("Texts", "File:"),
-                                      QT_TRANSLATE_NOOP("Texts", "Size:")};
-  m_sizeText->setText(QLocale().formattedDataSize(m_size));
-  int row = 0;
-  for (const char* const title : kDetails) {
-    auto* const label = static_cast<QLabel*>(m_details->itemAt(row, QFormLayout::LabelRole)->widget());
-    label->setText(Texts::tr(title));
-    m_details->itemAt(row++, QFormLayout::FieldRole)->widget()->setAccessibleName(Texts::tr(title));
-  }
-  m_openFolder->setText(Texts::tr("Open &folder"));
-  m_openFolder->setAccessibleName(Texts::tr("Open &folder").remove(u'&'));
+  QTabWidget* const pages = m_preview->Pages();
+  pages->setTabText(pages->indexOf(m_page), Texts::tr("&Result"));
+  if (m_findings != nullptr) ShowFindings();
+  m_openFolder->setText(Texts::tr("Open &Folder"));
+  m_copyPath->setText(Texts::tr("Copy &Path"));
+  m_saveCurrent->setText(Texts::tr("Save the Current File as &Well…"));
+  const QString system = SystemNameOf(m_file);
+  m_help->setText(system.isEmpty() ? Texts::tr("H&elp") : Texts::tr("H&elp on %1").arg(system));
   m_close->setText(Texts::tr("&Close"));
-  m_close->setAccessibleName(Texts::tr("&Close").remove(u'&'));
+}
+
+void ShowResult(QWidget* parent, const ExportedFile& file, ResultHandlers handlers) {
+  auto* const window = new ResultWindow(parent, file, std::move(handlers));
+  window->show();
 }
 
 }  // namespace host

@@ -1,50 +1,60 @@
-// A window that shows an exported file as a table and as text.
+// A window that tells what was exported and what to do with the file, and shows it.
 #ifndef GRADIX_RESULTWINDOW_H
 #define GRADIX_RESULTWINDOW_H
 
-#include <QString>
 #include <QWidget>
-#include <cstdint>
+#include <functional>
+#include <vector>
 
-class QFormLayout;
-class QLabel;
+#include "Host/Result/ExportedFile.h"
+#include "Systems/Finding.h"
+
 class QPushButton;
 
 namespace host {
 
 class FilePreview;
+class FindingsView;
+class ResultPage;
 
-struct ExportedFile {
-  QString path;
-  uint32_t replacedCharacters = 0;
-  uint32_t studentsWithoutIdentifier = 0;
+struct ResultHandlers {
+  // The user wants to see these places of the class, which is the file's.
+  std::function<void(const std::vector<FindingPlace>& places)> placesChosen;
+  // The user wants the current file as well. Without a handler it is not offered.
+  std::function<void(const ExportedFile& classic)> saveCurrent;
 };
 
 // A window of its own that goes with its parent and destroys itself when it is closed.
 class ResultWindow : public QWidget {
  public:
-  // Reads the file, a very large one in part. Says how many characters and identifiers are missing.
-  ResultWindow(QWidget* parent, const ExportedFile& file);
+  // Reads the file, a very large one in part.
+  ResultWindow(QWidget* parent, const ExportedFile& file, ResultHandlers handlers);
 
  protected:
   void changeEvent(QEvent* event) override;
 
  private:
   void Retranslate();
-  void AddDetails(const QString& path);
-  void AddButtons(const QString& path);
-
-  QString Notes() const;
+  void AddPages();
+  void AddButtons();
+  void ShowFindings();
+  void OpenFolder();
+  void CopyPath();
 
   ExportedFile m_file;
-  qint64 m_size = 0;
+  ResultHandlers m_handlers;
   FilePreview* m_preview;
-  QLabel* m_notes;
-  QFormLayout* m_details;
-  QLabel* m_sizeText;
+  ResultPage* m_page;
+  FindingsView* m_findings = nullptr;  // null where nothing is known
   QPushButton* m_openFolder;
+  QPushButton* m_copyPath;
+  QPushButton* m_saveCurrent;
+  QPushButton* m_help;
   QPushButton* m_close;
 };
+
+// Shows the window of a file that was just written, complete.
+void ShowResult(QWidget* parent, const ExportedFile& file, ResultHandlers handlers);
 
 }  // namespace host
 

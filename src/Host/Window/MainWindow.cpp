@@ -23,6 +23,7 @@
 #include "Host/ClassView/AssignmentPanel.h"
 #include "Host/ClassView/ReadFaultText.h"
 #include "Host/Findings/CheckWindow.h"
+#include "Host/Result/ResultWindow.h"
 
 namespace host {
 
@@ -42,7 +43,8 @@ QString _DroppedFile(const QMimeData* data) {
 MainWindow::MainWindow()
     : m_model(this),
       m_loader(this),
-      m_export(this, [this](const QString& status) { ExportStateChanged(status); }),
+      m_export(this, {[this](const QString& status) { ExportStateChanged(status); },
+                      [this](const ExportedFile& file) { ShowResult(this, file, {}); }}),
       m_actions(this, {[this] { AskForClassFile(); }, [this](const QString& path) { OpenRecentFile(path); },
                        [this] { close(); }, [this] { ShowAbout(); },
                        [this](HostLanguage language) { SetLanguage(language); },
@@ -211,7 +213,7 @@ void MainWindow::ShowCheck() {
 
 void MainWindow::ExportAs(const ExportFormat& format) {
   if (m_class == nullptr || m_panel->Selected() < 0) return;
-  m_export.Export(format, *m_class, static_cast<size_t>(m_panel->Selected()));
+  m_export.Export(format, m_class, static_cast<size_t>(m_panel->Selected()));
 }
 
 void MainWindow::ExportStateChanged(const QString& status) {

@@ -480,28 +480,8 @@ Compruebe que la carpeta exista, que tenga permiso de escritura y que el disco n
         <translation>Texto</translation>
     </message>
     <message>
-        <source>File:</source>
-        <translation>Archivo:</translation>
-    </message>
-    <message>
-        <source>Size:</source>
-        <translation>Tamaño:</translation>
-    </message>
-    <message>
         <source>The file is too large to be shown here completely; this is its beginning.</source>
         <translation>El archivo es demasiado grande para mostrarse completo; este es su comienzo.</translation>
-    </message>
-    <message>
-        <source>Characters of the class that became “?” because the file cannot hold them: %1</source>
-        <translation>Caracteres de la clase que se convirtieron en «?» porque el archivo no los admite: %1</translation>
-    </message>
-    <message>
-        <source>Students without an identifier: %1</source>
-        <translation>Estudiantes sin identificador: %1</translation>
-    </message>
-    <message>
-        <source>Open &amp;folder</source>
-        <translation>Abrir &amp;carpeta</translation>
     </message>
     <message>
         <source>&amp;Close</source>
@@ -699,6 +679,338 @@ Open it by hand in a browser, here or on another computer.</source>
     <message>
         <source>%1 and %2</source>
         <translation>%1 y %2</translation>
+    </message>
+    <message>
+        <source>Preparing the export…</source>
+        <translation>Preparando la exportación…</translation>
+    </message>
+    <message>
+        <source>The earlier file of this name is still there, unchanged.</source>
+        <translation>El archivo anterior de este nombre sigue ahí, sin cambios.</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 y %2 más</translation>
+    </message>
+    <message>
+        <source>%1, current file</source>
+        <translation>%1, archivo actual</translation>
+    </message>
+    <message>
+        <source>%1, its own gradebook with your results filled in</source>
+        <translation>%1, su propio libro de calificaciones con los resultados de usted</translation>
+    </message>
+    <message>
+        <source>%1, classic file</source>
+        <translation>%1, archivo clásico</translation>
+    </message>
+    <message>
+        <source>For:</source>
+        <translation>Para:</translation>
+    </message>
+    <message>
+        <source>Download:</source>
+        <translation>Descarga:</translation>
+    </message>
+    <message>
+        <source>Cells filled:</source>
+        <translation>Celdas completadas:</translation>
+    </message>
+    <message>
+        <source>Assignments:</source>
+        <translation>Tareas:</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>Student field:</source>
+        <translation>Campo del estudiante:</translation>
+    </message>
+    <message>
+        <source>Without an identifier:</source>
+        <translation>Sin identificador:</translation>
+    </message>
+    <message>
+        <source>%1 (left out)</source>
+        <translation>%1 (omitidos)</translation>
+    </message>
+    <message>
+        <source>Without any result:</source>
+        <translation>Sin ningún resultado:</translation>
+    </message>
+    <message>
+        <source>Replaced characters:</source>
+        <translation>Caracteres reemplazados:</translation>
+    </message>
+    <message>
+        <source>%1 of the class became “?”, because the file cannot hold them</source>
+        <translation>%1 de la clase se convirtieron en «?», porque el archivo no puede contenerlos</translation>
+    </message>
+    <message>
+        <source>Separator:</source>
+        <translation>Separador:</translation>
+    </message>
+    <message>
+        <source>semicolon</source>
+        <translation>punto y coma</translation>
+    </message>
+    <message>
+        <source>Quotation marks:</source>
+        <translation>Comillas:</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>ninguna</translation>
+    </message>
+    <message>
+        <source>Detailed results</source>
+        <translation>Resultados detallados</translation>
+    </message>
+    <message>
+        <source>Drag the file from here into the browser or into a folder.</source>
+        <translation>Arrastre el archivo desde aquí al navegador o a una carpeta.</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1.</translation>
+    </message>
+    <message>
+        <source>The file was saved</source>
+        <translation>El archivo se guardó</translation>
+    </message>
+    <message>
+        <source>How to read it</source>
+        <translation>Cómo leerlo</translation>
+    </message>
+    <message>
+        <source>What to click in %1</source>
+        <translation>Dónde hacer clic en %1</translation>
+    </message>
+    <message>
+        <source>The folder could not be opened.</source>
+        <translation>No se pudo abrir la carpeta.</translation>
+    </message>
+    <message>
+        <source>The path was copied.</source>
+        <translation>La ruta se copió.</translation>
+    </message>
+    <message>
+        <source>What will &amp;happen (%1)</source>
+        <translation>Qué &amp;ocurrirá (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Result</source>
+        <translation>&amp;Resultado</translation>
+    </message>
+    <message>
+        <source>Open &amp;Folder</source>
+        <translation>Abrir car&amp;peta</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Path</source>
+        <translation>Copiar r&amp;uta</translation>
+    </message>
+    <message>
+        <source>Save the Current File as &amp;Well…</source>
+        <translation>&amp;Guardar también el archivo actual…</translation>
+    </message>
+    <message>
+        <source>H&amp;elp</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <source>H&amp;elp on %1</source>
+        <translation>A&amp;yuda sobre %1</translation>
+    </message>
+    <message>
+        <source>In Canvas, open the course and “Grades”.</source>
+        <translation>En Canvas, abra el curso y «Calificaciones» (Grades).</translation>
+    </message>
+    <message>
+        <source>Choose “Import” and then this file.</source>
+        <translation>Elija «Importar» (Import) y luego este archivo.</translation>
+    </message>
+    <message>
+        <source>If you chose new columns, Canvas asks about each of them.</source>
+        <translation>Si eligió columnas nuevas, Canvas pregunta por cada una.</translation>
+    </message>
+    <message>
+        <source>Compare the old and the new scores, then save the changes.</source>
+        <translation>Compare las puntuaciones antiguas con las nuevas y guarde los cambios.</translation>
+    </message>
+    <message>
+        <source>Canvas asks about each title that it does not know: choose an assignment of the course, or make a new one with the points shown.</source>
+        <translation>Canvas pregunta por cada título que no conoce: elija una tarea del curso o cree una nueva con los puntos indicados.</translation>
+    </message>
+    <message>
+        <source>In Moodle, open the course and “Grades”.</source>
+        <translation>En Moodle, abra el curso y «Calificaciones» (Grades).</translation>
+    </message>
+    <message>
+        <source>Choose “Import”, then “CSV file”.</source>
+        <translation>Elija «Importar» (Import) y luego «Archivo CSV» (CSV file).</translation>
+    </message>
+    <message>
+        <source>Choose this file, with the separator that the download has, and upload it.</source>
+        <translation>Elija este archivo, con el separador que tiene la descarga, y súbalo.</translation>
+    </message>
+    <message>
+        <source>Under the identification of users, map the column that identifies the students, such as “Email address”, to the same field of Moodle.</source>
+        <translation>En la identificación de usuarios, asigne la columna que identifica a los estudiantes, como «Dirección de correo» (Email address), al mismo campo de Moodle.</translation>
+    </message>
+    <message>
+        <source>Map each other column to the grade item of the same name, and import.</source>
+        <translation>Asigne cada una de las demás columnas al elemento de calificación del mismo nombre, e importe.</translation>
+    </message>
+    <message>
+        <source>Choose this file, with a {separator} as the separator, and upload it.</source>
+        <translation>Elija este archivo, con {separator} como separador, y súbalo.</translation>
+    </message>
+    <message>
+        <source>Under the identification of users, map “User ID” of the file to what the field holds: e-mail address, user name or ID number.</source>
+        <translation>En la identificación de usuarios, asigne «User ID» del archivo a lo que contiene el campo: la dirección de correo, el nombre de usuario o el número de ID.</translation>
+    </message>
+    <message>
+        <source>Map each assignment to a grade item of the course or to a new one, and import.</source>
+        <translation>Asigne cada tarea a un elemento de calificación del curso o a uno nuevo, e importe.</translation>
+    </message>
+    <message>
+        <source>In Sakai, open the site and its “Gradebook”.</source>
+        <translation>En Sakai, abra el sitio y su «Libro de calificaciones» (Gradebook).</translation>
+    </message>
+    <message>
+        <source>Choose the assignments to import.</source>
+        <translation>Elija las tareas que desea importar.</translation>
+    </message>
+    <message>
+        <source>Read the preview and finish the import.</source>
+        <translation>Lea la vista previa y termine la importación.</translation>
+    </message>
+    <message>
+        <source>Choose the assignments to import. Those that Sakai does not know are made new, with the points in brackets.</source>
+        <translation>Elija las tareas que desea importar. Las que Sakai no conoce se crean nuevas, con los puntos entre corchetes.</translation>
+    </message>
+    <message>
+        <source>In Blackboard, open the course and turn editing on.</source>
+        <translation>En Blackboard, abra el curso y active el modo de edición.</translation>
+    </message>
+    <message>
+        <source>Open “Full Grade Center” in the control panel.</source>
+        <translation>Abra el «Centro de calificaciones completo» (Full Grade Center) en el panel de control.</translation>
+    </message>
+    <message>
+        <source>Choose “Work Offline”, then “Upload”.</source>
+        <translation>Elija «Trabajar sin conexión» (Work Offline) y luego «Cargar» (Upload).</translation>
+    </message>
+    <message>
+        <source>Choose this file, with the delimiter that the download has, and submit it.</source>
+        <translation>Elija este archivo, con el delimitador que tiene la descarga, y envíelo.</translation>
+    </message>
+    <message>
+        <source>Blackboard lists the columns that it would change. Look through them, and submit.</source>
+        <translation>Blackboard muestra las columnas que cambiaría. Revíselas y envíe de nuevo.</translation>
+    </message>
+    <message>
+        <source>Open the “Gradebook” and its upload page.</source>
+        <translation>Abra el «Libro de calificaciones» (Gradebook) y su página de carga.</translation>
+    </message>
+    <message>
+        <source>Choose this file, with a comma as the delimiter, and submit it.</source>
+        <translation>Elija este archivo, con la coma como delimitador, y envíelo.</translation>
+    </message>
+    <message>
+        <source>Blackboard lists the columns that it would change. Clear the marks of the totals, such as “Running Total”, and submit.</source>
+        <translation>Blackboard muestra las columnas que cambiaría. Quite la marca de los totales, como «Running Total», y envíe de nuevo.</translation>
+    </message>
+    <message>
+        <source>In Brightspace, open the course and “Grades”.</source>
+        <translation>En Brightspace, abra el curso y «Calificaciones» (Grades).</translation>
+    </message>
+    <message>
+        <source>Open “Enter Grades” and choose “Import”.</source>
+        <translation>Abra «Introducir calificaciones» (Enter Grades) y elija «Importar» (Import).</translation>
+    </message>
+    <message>
+        <source>Choose this file.</source>
+        <translation>Elija este archivo.</translation>
+    </message>
+    <message>
+        <source>Read the preview, with its list of errors, and finish the import.</source>
+        <translation>Lea la vista previa, con su lista de errores, y termine la importación.</translation>
+    </message>
+    <message>
+        <source>Choose this file. Allow new grade items if the assignments do not exist in Brightspace yet.</source>
+        <translation>Elija este archivo. Permita crear elementos de calificación nuevos si las tareas aún no existen en Brightspace.</translation>
+    </message>
+    <message>
+        <source>In Schoology, open the course and its “Gradebook”.</source>
+        <translation>En Schoology, abra el curso y su «Libro de calificaciones» (Gradebook).</translation>
+    </message>
+    <message>
+        <source>Open the menu of the gradebook and choose “Import”.</source>
+        <translation>Abra el menú del libro de calificaciones y elija «Importar» (Import).</translation>
+    </message>
+    <message>
+        <source>Choose this file. Take “User Unique ID” as the identifier.</source>
+        <translation>Elija este archivo. Tome «User Unique ID» como identificador.</translation>
+    </message>
+    <message>
+        <source>Assign each column to a grade item of the course, and import.</source>
+        <translation>Asigne cada columna a un elemento de calificación del curso e importe.</translation>
+    </message>
+    <message>
+        <source>In WebCT Vista, open the course and its “Teach” tab.</source>
+        <translation>En WebCT Vista, abra el curso y su pestaña «Enseñar» (Teach).</translation>
+    </message>
+    <message>
+        <source>Open “Grade Book”.</source>
+        <translation>Abra el «Libro de calificaciones» (Grade Book).</translation>
+    </message>
+    <message>
+        <source>Choose “Import from spreadsheet” and then this file, with a comma as the separator.</source>
+        <translation>Elija «Importar desde hoja de cálculo» (Import from spreadsheet) y luego este archivo, con la coma como separador.</translation>
+    </message>
+    <message>
+        <source>Check which column of the file goes to which column of the grade book, and import.</source>
+        <translation>Compruebe qué columna del archivo corresponde a qué columna del libro de calificaciones, e importe.</translation>
+    </message>
+    <message>
+        <source>In ANGEL, open the course and its “Manage” tab.</source>
+        <translation>En ANGEL, abra el curso y su pestaña «Administrar» (Manage).</translation>
+    </message>
+    <message>
+        <source>Open “Gradebook” and choose “Import”.</source>
+        <translation>Abra el «Libro de calificaciones» (Gradebook) y elija «Importar» (Import).</translation>
+    </message>
+    <message>
+        <source>Choose this file, comma-separated, with the titles in the first line.</source>
+        <translation>Elija este archivo, separado por comas y con los títulos en la primera línea.</translation>
+    </message>
+    <message>
+        <source>Match the columns: “User ID” identifies the student; each remaining column goes to an assignment, as a percentage.</source>
+        <translation>Asigne las columnas: «User ID» identifica al estudiante; cada una de las demás corresponde a una tarea, como porcentaje.</translation>
+    </message>
+    <message>
+        <source>Open the file in a spreadsheet program, or import it as comma-separated text if the program asks.</source>
+        <translation>Abra el archivo en un programa de hojas de cálculo, o impórtelo como texto separado por comas si el programa pregunta.</translation>
+    </message>
+    <message>
+        <source>Read student IDs and dates as text, so that leading zeros stay.</source>
+        <translation>Lea los ID de estudiante y las fechas como texto, para que se conserven los ceros iniciales.</translation>
+    </message>
+    <message>
+        <source>Choose Mac OS Roman (“Macintosh”) as the encoding, so that accents are right.</source>
+        <translation>Elija Mac OS Roman («Macintosh») como codificación, para que los acentos se vean bien.</translation>
+    </message>
+    <message>
+        <source>Upload the file as it is: a spreadsheet program that saves it may change it.</source>
+        <translation>Suba el archivo tal como está: un programa de hojas de cálculo que lo guarde puede cambiarlo.</translation>
+    </message>
+    <message>
+        <source>comma</source>
+        <translation>coma</translation>
     </message>
 </context>
 </TS>

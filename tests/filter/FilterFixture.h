@@ -34,6 +34,7 @@ enum OptionsItem : int {
   kStandardFile = 18,
   kWithQuotes = 19,
   kWithoutQuotes = 20,
+  kFieldLine = 21,
 };
 
 // Items of the detailed report's options.

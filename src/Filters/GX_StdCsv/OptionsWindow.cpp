@@ -7,6 +7,7 @@
 #include "Export/IdentifierCheck.h"
 #include "Filters/GX_StdCsv/DialogMessages.h"
 #include "Filters/GX_StdCsv/DialogSession.h"
+#include "Filters/GX_StdCsv/FieldLine.h"
 #include "Filters/GX_StdCsv/FormatTable.h"
 #include "Filters/GX_StdCsv/QZLoadString.h"
 #include "Toolkit/Alert.h"
@@ -37,6 +38,7 @@ enum Item : int32_t {
   kStandardFile = 18,
   kWithQuotes = 19,
   kWithoutQuotes = 20,
+  kFieldLine = 21,
 };
 
 constexpr int32_t kDateTab = 200;
@@ -122,13 +124,35 @@ void _FillAssignments(DLGRecord* dialog) {
   LBSelectItem(dialog, kAssignments, 0, true);
 }
 
+qz::UserIDField _ChosenField(DLGRecord* dialog) {
+  const int32_t row = CBGetSelect(dialog, kFieldPopup);
+  constexpr int32_t kLastRow = qz::kUserIDCustom3 - 1;
+  return row >= 0 && row <= kLastRow ? static_cast<qz::UserIDField>(row + 1) : s_nUserIDField;
+}
+
+bool _IsChosen(DLGRecord* dialog, size_t assignment) {
+  return LBGetCheck(dialog, kAssignments, static_cast<int32_t>(assignment)) == 1;
+}
+
+FieldLineChoices _Choices(DLGRecord* dialog) {
+  FieldLineChoices choices{.field = _ChosenField(dialog), .assignments = {}, .useQuotes = true};
+  if (const Session* const session = SessionOfDialog(dialog)) choices.useQuotes = session->m_bUseQuotes;
+  const auto count = static_cast<size_t>(LBGetCount(dialog, kAssignments));
+  for (size_t i = 0; i < count; ++i) {
+    if (_IsChosen(dialog, i)) choices.assignments.push_back(i);
+  }
+  return choices;
+}
+
 void _FillMainOptions(DLGRecord* dialog) {
+  StartFieldLine(dialog, kFieldLine, _Choices);  // in the language of the dialog's resources
   if (IsSpanish()) SetText(dialog, kAssignmentsLabel, QZLoadString(kAssignmentsLabelID).c_str(), true);
   SetExportTitle(dialog, *m_ptSession);  // from here on the language is English
   _SetFormatTexts(dialog, _Format());
   _SetUpBlackboardItems(dialog, _Format());
   _FillFieldPopup(dialog);
   _FillAssignments(dialog);
+  ShowFieldLine(dialog, kFieldLine);
 }
 
 bool _IsAnyChecked(DLGRecord* dialog) {
@@ -136,12 +160,6 @@ bool _IsAnyChecked(DLGRecord* dialog) {
     if (LBGetCheck(dialog, kAssignments, row) != 0) return true;
   }
   return false;
-}
-
-qz::UserIDField _ChosenField(DLGRecord* dialog) {
-  const int32_t row = CBGetSelect(dialog, kFieldPopup);
-  constexpr int32_t kLastRow = qz::kUserIDCustom3 - 1;
-  return row >= 0 && row <= kLastRow ? static_cast<qz::UserIDField>(row + 1) : s_nUserIDField;
 }
 
 // Warns of students without an identifier. False when the export cannot go on; the dialog may be gone.
@@ -159,9 +177,8 @@ bool _CheckIdentifiers(DLGRecord* dialog, qz::UserIDField field) {
 
 void _StoreChoices(DLGRecord* dialog, qz::UserIDField field, const std::string& path) {
   m_ptClass->exportPath = path;
-  SelectAssignments(m_ptClass, [dialog](size_t i, const qz::AssignmentRecord&) {
-    return LBGetCheck(dialog, kAssignments, static_cast<int32_t>(i)) == 1;
-  });
+  SelectAssignments(m_ptClass,
+                    [dialog](size_t i, const qz::AssignmentRecord&) { return _IsChosen(dialog, i); });
   s_nUserIDField = field;
   m_ptClass->userIDField = field;
 }
@@ -199,6 +216,19 @@ void _ChooseFileKind(DLGRecord* dialog, int32_t chosen) {
   }
 }
 
+bool _ChangesFile(int32_t item) {
+  switch (item) {
+    case kFieldPopup:
+    case kAssignments:
+    case kSelectAll:
+    case kClearAll:
+    case kStandardFile:
+    case kWithQuotes:
+    case kWithoutQuotes: return true;
+    default: return false;
+  }
+}
+
 intptr_t _DoOptions(DLGRecord* dialog, int32_t item) {
   if (!_UseSession(dialog) && item != kCancel) return 0;
   switch (item) {
@@ -216,6 +246,7 @@ intptr_t _DoOptions(DLGRecord* dialog, int32_t item) {
     case kWithoutQuotes: _ChooseFileKind(dialog, item); break;
     default: break;
   }
+  if (_ChangesFile(item)) ShowFieldLineSoon(dialog, kFieldLine);
   return 0;
 }
 

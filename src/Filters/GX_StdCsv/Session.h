@@ -6,6 +6,8 @@
 #include <cstdio>
 
 #include "Common/AtomicFile.h"
+#include "Common/QZData/ClassTexts.h"
+#include "Common/QZData/OriginalTexts.h"
 #include "Common/QZData/QZClass.h"
 #include "gradix/QZFilter.h"
 
@@ -34,6 +36,10 @@ class Session {
   qz::ClassRecord* GetClass() { return &m_class; }
   const qz::ClassRecord& Class() const { return m_class; }
 
+  // The class's texts that its records could not hold. Whoever reads the class keeps them here.
+  qz::OriginalTexts* GetOriginals() { return &m_originals; }
+  qz::ClassTexts Texts() const { return {m_class, m_originals}; }
+
   // Whether texts stand in quotes. Read by the formats that have an unquoted variant.
   bool m_bUseQuotes = true;
 
@@ -47,6 +53,7 @@ class Session {
 
   QZEXPORTBEGIN m_begin;
   qz::ClassRecord m_class;
+  qz::OriginalTexts m_originals;
   FileOutcome m_outcome;
 };
 

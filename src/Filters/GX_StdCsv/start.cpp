@@ -40,12 +40,13 @@ std::string _FormatName(const FormatRow& format) {
 }
 
 // Reads the class file into the session under way. False when it cannot be opened or is malformed.
-bool _ReadClassFile(const FSRef* file, qz::ClassRecord* record) {
+bool _ReadClassFile(const FSRef* file, Session* session) {
   char path[kMaxPath] = "";
   FSRefMakePath(file, path, sizeof path);
   std::ifstream stream(path, std::ios::binary);
   QZClassParseReport report;
-  const bool parsed = QZClassParse(record, stream, &report);
+  report.originals = session->GetOriginals();
+  const bool parsed = QZClassParse(session->GetClass(), stream, &report);
   constexpr uint64_t kMost = std::numeric_limits<uint32_t>::max();
   g_sessionMgr.FindOutcome(ncontextID)->told.replacedCharacters =
       static_cast<uint32_t>(std::min(report.replacedCharacters, kMost));
@@ -63,7 +64,7 @@ uint32_t _ExportFile(void* hostWindow, const QZEXPORTFILE* file) {
   if (session == nullptr || HasOptionsDialog(ncontextID)) return QZFILTER_FAILED;
   qz::ClassRecord* record = session->GetClass();
   *record = {};
-  if (file == nullptr || !_ReadClassFile(&file->classFile, record)) return 0;
+  if (file == nullptr || !_ReadClassFile(&file->classFile, session)) return 0;
   _SelectAssignment(record, file->assignmentID);
   if (session->GetExportInfo().formatIndex == kDetailedResultsFormat) {
     DisplayEnhOptionsDialog(hostWindow, session, record);

@@ -10,6 +10,7 @@
 #include <limits>
 
 #include "Platform/Qt/QtHelpTags.h"
+#include "Platform/Qt/QtLabel.h"
 #include "Platform/Qt/QtRegistry.h"
 #include "Platform/Qt/QtText.h"
 
@@ -58,6 +59,7 @@ QString _CutText(QWidget* control, QPoint position) {
   if (const auto* const view = qobject_cast<const QAbstractItemView*>(control)) {
     return view->indexAt(view->viewport()->mapFromGlobal(position)).data(Qt::ToolTipRole).toString();
   }
+  if (const auto* const label = dynamic_cast<const QtLabel*>(control)) return label->CutText();
   const auto* const combo = qobject_cast<const QComboBox*>(control);
   return combo != nullptr && _IsCut(*combo) ? combo->currentText() : QString();
 }
@@ -70,7 +72,11 @@ void HelpTags::Show() {
   QString text = _CutText(control->widget, m_position);
   if (text.isEmpty()) text = control->widget->toolTip();
   if (text.isEmpty()) return;
-  if (Qt::mightBeRichText(text)) text = QStringLiteral("<p>") + text.toHtmlEscaped();  // shown literally
+  // Shown literally all the same. Only rich text is broken into lines.
+  constexpr qsizetype kLong = 100;
+  if (text.size() > kLong || Qt::mightBeRichText(text)) {
+    text = QStringLiteral("<p>") + text.toHtmlEscaped();
+  }
   QToolTip::showText(m_position, text, m_widget);
 }
 

@@ -14,6 +14,7 @@
 #include <memory>
 
 #include "Platform/Qt/EventQueue.h"
+#include "Platform/Qt/QtLabel.h"
 #include "Platform/Qt/QtListView.h"
 #include "Platform/Qt/QtText.h"
 
@@ -47,14 +48,6 @@ class RadioButton : public QRadioButton {
   QButtonGroup m_group;
 };
 
-QWidget* _MakeLabel(QWidget* parent) {
-  auto* const label = new QLabel(parent);
-  label->setWordWrap(true);
-  label->setTextFormat(Qt::PlainText);
-  label->setTextInteractionFlags(Qt::NoTextInteraction);
-  return label;
-}
-
 QWidget* _MakeEdit(QWidget* parent) {
   auto* const edit = new QLineEdit(parent);
   edit->setDragEnabled(false);
@@ -84,7 +77,7 @@ QWidget* _MakeWidget(ControlKind kind, QWidget* parent) {
     case kControlKindPushButton: return _MakePushButton(parent);
     case kControlKindCheckBox: return new CheckBox(parent);
     case kControlKindRadioButton: return new RadioButton(parent);
-    case kControlKindStaticText: return _MakeLabel(parent);
+    case kControlKindStaticText: return new QtLabel(parent);
     case kControlKindEditText: return _MakeEdit(parent);
     case kControlKindPopupButton: return new QComboBox(parent);
     case kControlKindListBox: return new QtListView(parent);

@@ -60,10 +60,9 @@ TEST_F(FieldLineTest, TellsWhyOKWillStop) {
        "La clase no tiene estudiantes, así que Aceptar no sigue.",
        true},
       {{"学"},
-       "1 of 1 student has a Student ID. In one Blackboard Learn 9.1 Username the file has “?” for a letter.",
+       "1 of 1 student has a Student ID. In one Blackboard Learn 9.1 Username the file has “?” for a letter",
        "1 de 1 estudiante tiene «Id. de estudiante». En un Blackboard Learn 9.1 Username el archivo tiene "
-       "«?» en "
-       "lugar de una letra.",
+       "«?»",
        false},
       {{"学", "文"},  // equal to the filter, which knows neither
        "2 of 2 students have a Student ID; Björn Okafor and Ann Müller share ?. OK stops while two are "

@@ -91,7 +91,7 @@ void StartFieldLine(DLGRecord* dialog, int32_t item, FieldLineSource choices) {
   Session* const session = SessionOfDialog(dialog);
   if (session == nullptr || DLGFindItem(dialog, item) == nullptr) return;
   const TextLanguage language = IsSpanish() ? TextLanguage::kSpanish : TextLanguage::kEnglish;
-  auto line = std::make_unique<FieldLine>(dialog, item, choices, language);
+  std::unique_ptr<FieldLine> line(new FieldLine{dialog, item, choices, language, {}});
   for (const qz::AssignmentRecord& assignment : session->Class().assignments) {
     line->titles.push_back(assignment.name);
   }

@@ -88,7 +88,7 @@ void _ShowNow(void* data) {
 }  // namespace
 
 void StartFieldLine(DLGRecord* dialog, int32_t item, FieldLineSource choices) {
-  Session* const session = SessionOfDialog(dialog);
+  const Session* const session = SessionOfDialog(dialog);
   if (session == nullptr || DLGFindItem(dialog, item) == nullptr) return;
   const TextLanguage language = IsSpanish() ? TextLanguage::kSpanish : TextLanguage::kEnglish;
   std::unique_ptr<FieldLine> line(new FieldLine{dialog, item, choices, language, {}});

@@ -22,9 +22,7 @@
 #include "Host/Findings/FieldsPanel.h"
 #include "Host/Findings/ReadinessPanel.h"
 #include "Host/Preview/ExportWindow.h"
-#define ExportedFile OldExportedFile
 #include "Host/Window/MainWindow.h"
-#undef ExportedFile
 #include "Systems/LearningSystem.h"
 #include "bench/ClassGenerator.h"
 
@@ -116,7 +114,7 @@ class Tour {
   // Does it in the event loop, and waits until `isDone`, which may be null, and a little longer.
   void Step(const std::string& name, const std::function<void()>& action,
             const std::function<bool()>& isDone = nullptr) {
-    constexpr int kRest = 200;         // milliseconds
+    constexpr int kRest = 120;         // milliseconds
     constexpr int kPatience = 60'000;  // milliseconds
     GapMeter meter;
     QTimer::singleShot(0, qApp, action);

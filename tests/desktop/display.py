@@ -40,7 +40,7 @@ class X11:
             self.environment = dict(
                 os.environ, DISPLAY=":" + pipe.readline().strip(), HOME=self.folder.name, LC_ALL="C.UTF-8",
                 XDG_CONFIG_HOME=self.folder.name, XDG_RUNTIME_DIR=self.folder.name, QT_ACCESSIBILITY="0",
-                QT_SCALE_FACTOR="1", QT_FONT_DPI="96")
+                QT_SCALE_FACTOR="1", QT_FONT_DPI="96", GXHOST_QT_DIALOGS="1")
         self.programs = []
 
     def start(self, *command):

@@ -58,6 +58,7 @@ class HostTest : public testing::Test {
   explicit HostTest(const char* module = FILTERS "/fake_filter.so")
       : m_filter(host::FilterModule::Load(QString::fromUtf8(module), nullptr)) {
     QSettings().clear();
+    qputenv("GXHOST_QT_DIALOGS", "1");
     qputenv("PATH", QFile::encodeName(m_folder.path()));  // without the desktop's opener
     host::SetCurrentLanguage(host::HostLanguage::kEnglish);
     void* const handle = ::dlopen(module, RTLD_NOW | RTLD_NOLOAD);
@@ -95,11 +96,14 @@ class HostTest : public testing::Test {
     });
   }
 
-  // The same for a path that is refused, with a message that has that part; then gives up.
+  // The same for a path that is refused, with a message that has that part; the chooser stays. Then gives up.
   static void SaveAsRefused(const QString& path, const char* part) {
     SaveAs(path);
     WhenVisible("message", [part](QWidget* message) {
-      EXPECT_TRUE(static_cast<QMessageBox*>(message)->text().contains(QLatin1String(part)));
+      EXPECT_TRUE(static_cast<QMessageBox*>(message)->text().contains(QString::fromUtf8(part)))
+          << static_cast<QMessageBox*>(message)->text().toStdString();
+      QWidget* const chooser = FindWindow("saveChooser");
+      EXPECT_NE(chooser, nullptr);
       WhenVisible("saveChooser", [](QWidget* window) { ClickButton(window, "Cancel"); });
       ClickButton(message, "OK");
     });

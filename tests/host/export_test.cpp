@@ -1,9 +1,12 @@
+#include <unistd.h>
+
+#include <QDir>
 #include <QFileDialog>
 #include <cstring>
 #include <filesystem>
+#include <vector>
 
 #include "Host/Export/ExportRun.h"
-#include "Host/Export/FileNames.h"
 #include "Host/Export/SaveChooser.h"
 #include "tests/host/HostFixture.h"
 
@@ -263,21 +266,26 @@ TEST_F(ExportRunTest, ChoosesNothing) {
 
 class SaveChooserTest : public HostTest {
  protected:
-  static std::optional<QString> Choose(const QStringList& classPaths = {}) {
-    return ChooseSaveFile(nullptr, QStringLiteral("Quiz 1 - Canvas.csv"), QStringLiteral("csv"), classPaths);
-  }
+  std::optional<QString> Choose() { return ChooseSaveFile(nullptr, m_request); }
+
+  SaveRequest m_request{QStringLiteral("Quiz 1 – Canvas.csv"), QStringLiteral("csv")};
 };
 
-TEST_F(SaveChooserTest, ProposesNameAndLastFolder) {
-  SaveAs(PathOf("results"));
-  EXPECT_EQ(Choose(), PathOf("results.csv"));
-  WhenVisible("saveChooser", [this](QWidget* window) {
-    EXPECT_EQ(window->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text(),
-              QStringLiteral("Quiz 1 - Canvas.csv"));
-    EXPECT_EQ(static_cast<QFileDialog*>(window)->directory().absolutePath(), m_folder.path());
-    ClickButton(window, "Cancel");
-  });
-  EXPECT_EQ(Choose(), std::nullopt);
+// In the class's folder, then in the one that was chosen last.
+TEST_F(SaveChooserTest, ProposesNameAndFolder) {
+  ASSERT_TRUE(QDir(m_folder.path()).mkdir(QStringLiteral("other")));
+  m_request.classPaths = {QString(), PathOf("class.xml")};
+  for (const QString& folder : {m_folder.path(), PathOf("other")}) {
+    WhenVisible("saveChooser", [this, folder](QWidget* window) {
+      EXPECT_EQ(window->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text(),
+                m_request.proposedName);
+      EXPECT_EQ(static_cast<QFileDialog*>(window)->directory().absolutePath(), folder);
+      ClickButton(window, "Cancel");
+    });
+    EXPECT_EQ(Choose(), std::nullopt);
+    SaveAs(PathOf("other/results"));
+    EXPECT_EQ(Choose(), PathOf("other/results.csv"));
+  }
 }
 
 TEST_F(SaveChooserTest, AsksBeforeReplacing) {
@@ -294,22 +302,41 @@ TEST_F(SaveChooserTest, AsksBeforeReplacing) {
   EXPECT_EQ(ReadFile(PathOf("old.csv")), "old");
 }
 
-TEST_F(SaveChooserTest, RefusesALongPath) {
-  const QString folder = PathOf("f") + QString(200, u'o');
-  ASSERT_TRUE(QDir().mkpath(folder));
-  SaveAsRefused(folder + u'/' + QString(60, u'x'), "");
-  EXPECT_EQ(Choose(), std::nullopt);
-}
-
-TEST_F(SaveChooserTest, RefusesTheClassUnderEveryName) {
+// While the chooser is open. The class and the download under every name.
+TEST_F(SaveChooserTest, RefusesWhatCannotBeWritten) {
   WriteFile(PathOf("class.xml"), "<class/>");
+  WriteFile(PathOf("download.csv"), "Student,ID");
+  WriteFile(PathOf("protected.csv"), "old");
   ASSERT_TRUE(QFile::link(PathOf("class.xml"), PathOf("symbolic.csv")));
   std::filesystem::create_hard_link(PathOf("class.xml").toStdString(), PathOf("hard.csv").toStdString());
-  for (const char* name : {"class.xml", "symbolic.csv", "hard.csv"}) {
-    SCOPED_TRACE(name);
-    SaveAsRefused(PathOf(name), name);
-    EXPECT_EQ(Choose({PathOf("gone.xml"), PathOf("class.xml")}), std::nullopt);
+  m_request.classPaths = {PathOf("gone.xml"), PathOf("class.xml")};
+  m_request.downloadPath = PathOf("download.csv");
+  struct Row {
+    QString path;
+    const char* part;
+  };
+  std::vector<Row> rows = {
+      {PathOf("class.xml"), "“class.xml” is the open class."},
+      {PathOf("symbolic.csv"), "“symbolic.csv” is the open class."},
+      {PathOf("hard.csv"), "“hard.csv” is the open class."},
+      {PathOf("download.csv"), "“download.csv” is the gradebook that you downloaded."},
+      {PathOf("gone/out.csv"), "/gone” is not there."},
+      {PathOf("class.xml/out.csv"), "/class.xml” is a file, not a folder."},
+      {PathOf("f") + QString(240, u'x'), "The name of the file with all its folders is too long."},
+  };
+  if (::geteuid() != 0) {
+    ASSERT_TRUE(QFile::setPermissions(PathOf("protected.csv"), QFile::ReadOwner));
+    rows.push_back({PathOf("protected.csv"), "You may not change the file “protected.csv”"});
+    rows.push_back({QStringLiteral("/out.csv"), "You may not save in the folder “/”."});
   }
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.path.toStdString());
+    SaveAsRefused(row.path, row.part);
+    EXPECT_EQ(Choose(), std::nullopt);
+  }
+  m_request.maxPathBytes = 4095;
+  SaveAs(PathOf("f") + QString(240, u'x'));
+  EXPECT_EQ(Choose(), PathOf("f") + QString(240, u'x') + QStringLiteral(".csv"));
 }
 
 }  // namespace

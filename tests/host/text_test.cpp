@@ -17,29 +17,23 @@ TEST(RomanText, DecodesEveryCode) {
 
 TEST(FileNames, Proposal) {
   struct Case {
-    QString assignment, format, name;
+    QString what, format, name;
   };
   const Case cases[] = {
-      {"Quiz 1", "Assignment Results for Canvas", "Quiz 1 - Canvas.csv"},
-      {"Quiz 1: Cells", "Detailed Results as Text", "Quiz 1_ Cells - Detailed Results as Text.csv"},
-      {"a/b\\c:d*e?f\"g<h>i|j\tk", "Assignment Results for X/Y", "a_b_c_d_e_f_g_h_i_j_k - X_Y.csv"},
-      {"..", "Assignment Results for Sakai", "_. - Sakai.csv"},
-      {"  ", "Assignment Results for Sakai", "Sakai.csv"},
-      {"Prueba ñ", "Assignment Results for Blackboard 6.0 - 7.0", "Prueba ñ - Blackboard 6.0 - 7.0.csv"},
-      {QString(200, u'x'), "Assignment Results for Canvas", QString(120, u'x') + " - Canvas.csv"},
-      {QString(100, u'é'), "Assignment Results for Canvas", QString(60, u'é') + " - Canvas.csv"},
+      {"Biology 9", "Assignment Results for Canvas", "Biology 9 – Canvas"},
+      {"Quiz 1: Cells", "Detailed Results as Text", "Quiz 1 Cells – Detailed Results as Text"},
+      {"a/b\\c:d*e?f\"g<h>i|j\tk", "Assignment Results for X/Y", "a-b-c d e f g h i-j k – X-Y"},
+      {". .hidden_ ", "Assignment Results for Sakai", "hidden_ – Sakai"},
+      {" .. ", "Assignment Results for Sakai", "Sakai"},
+      {"Prueba ñ", "Assignment Results for Blackboard 6.0 - 7.0", "Prueba ñ – Blackboard 6.0 - 7.0"},
+      {QString(200, u'x'), "Assignment Results for Canvas", QString(120, u'x') + " – Canvas"},
+      {QString(100, u'é'), "Assignment Results for Canvas", QString(60, u'é') + " – Canvas"},
   };
   for (const Case& test : cases) {
-    EXPECT_EQ(ProposedFileName(test.assignment, test.format, QStringLiteral("csv")), test.name)
-        << test.assignment.toStdString();
+    EXPECT_EQ(ProposedFileName(test.what, test.format, QStringLiteral("csv"), QDate(2026, 11, 21)),
+              test.name + QStringLiteral(" – 2026-11-21.csv"))
+        << test.what.toStdString();
   }
-}
-
-TEST(FileNames, PathLimitCountsBytes) {
-  EXPECT_TRUE(FitsIntoPath(u'/' + QString(254, u'a')));
-  EXPECT_FALSE(FitsIntoPath(u'/' + QString(255, u'a')));
-  EXPECT_TRUE(FitsIntoPath(u'/' + QString(127, u'é')));
-  EXPECT_FALSE(FitsIntoPath(u'/' + QString(128, u'é')));
 }
 
 TEST_F(HostTest, RecentFilesKeepTheLastEight) {

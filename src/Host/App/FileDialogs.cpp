@@ -1,5 +1,7 @@
 #include "Host/App/FileDialogs.h"
 
+#include <QLineEdit>
+
 #include "Host/App/Texts.h"
 
 namespace host {
@@ -8,7 +10,7 @@ void SetUpFileDialog(QFileDialog* dialog, const QString& objectName, QFileDialog
   const bool saves = mode == QFileDialog::AcceptSave;
   dialog->setObjectName(objectName);
   dialog->setAccessibleName(dialog->windowTitle());
-  dialog->setOption(QFileDialog::DontUseNativeDialog, !qEnvironmentVariableIsSet("GXHOST_NATIVE_DIALOGS"));
+  dialog->setOption(QFileDialog::DontUseNativeDialog, qEnvironmentVariableIsSet("GXHOST_QT_DIALOGS"));
   dialog->setAcceptMode(mode);
   dialog->setFileMode(saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
   // After the modes, which make new buttons.
@@ -17,6 +19,11 @@ void SetUpFileDialog(QFileDialog* dialog, const QString& objectName, QFileDialog
   dialog->setLabelText(QFileDialog::FileName, Texts::tr("File &name:"));
   dialog->setLabelText(QFileDialog::FileType, Texts::tr("Files of type:"));
   dialog->setLabelText(QFileDialog::LookIn, Texts::tr("Look in:"));
+}
+
+// Only Qt's has widgets.
+bool IsDesktopDialog(const QFileDialog& dialog) {
+  return dialog.findChild<QLineEdit*>() == nullptr;
 }
 
 }  // namespace host

@@ -138,8 +138,8 @@ void ExportController::ShowStartError(StartResult result) {
 std::optional<QString> ExportController::ChooseFile(QWidget* dialog) {
   const QString name = ProposedFileName(LineFromUtf8(m_class->Texts().AssignmentName(m_assignment)),
                                         m_format.name, m_format.extension);
-  return ChooseSaveFile(dialog != nullptr ? dialog : m_window, name, m_format.extension,
-                        {m_openClassPath, m_class->path});
+  return ChooseSaveFile(dialog != nullptr ? dialog : m_window,
+                        {name, m_format.extension, {m_class->path, m_openClassPath}});
 }
 
 void ExportController::RunFinished(const RunResult& result) {

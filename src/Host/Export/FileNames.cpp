@@ -1,22 +1,27 @@
 #include "Host/Export/FileNames.h"
 
-#include <QFile>
+#include <QStringList>
+#include <algorithm>
 
 namespace host {
 
 namespace {
 
-constexpr qsizetype kMaxNameBytes = 120;  // of an assignment's name; leaves room for folders
+constexpr qsizetype kMaxNameBytes = 120;  // of a class's or an assignment's name; leaves room for folders
 
-bool _IsAllowed(QChar character) {
-  static const QString refused = QStringLiteral("/\\:*?\"<>|");
-  return character.category() != QChar::Other_Control && !refused.contains(character);
+QChar _Cleaned(QChar character) {
+  static const QString joining = QStringLiteral("/\\|");
+  static const QString refused = QStringLiteral(":*?\"<>");
+  if (joining.contains(character)) return u'-';
+  const bool isRefused = character.category() == QChar::Other_Control || refused.contains(character);
+  return isRefused ? QChar(u' ') : character;
 }
 
-QString _Cleaned(const QString& text) {
-  QString cleaned;
-  for (const QChar character : text) cleaned.append(_IsAllowed(character) ? character : QChar(u'_'));
-  return cleaned.trimmed();
+// On one line; a name that begins with a point would be hidden.
+QString _Cleaned(QString text) {
+  std::transform(text.begin(), text.end(), text.begin(), [](QChar each) { return _Cleaned(each); });
+  while (text.startsWith(u'.') || text.startsWith(u' ')) text.remove(0, 1);
+  return text.simplified();
 }
 
 QString _Cut(QString name) {
@@ -34,15 +39,12 @@ QString ShortFormatName(const QString& formatName) {
   return formatName.startsWith(prefix) ? formatName.mid(prefix.size()) : formatName;
 }
 
-QString ProposedFileName(const QString& assignmentName, const QString& formatName, const QString& extension) {
-  QString name = _Cut(_Cleaned(assignmentName));
-  if (name.startsWith(u'.')) name.replace(0, 1, u'_');  // would be hidden
-  if (!name.isEmpty()) name += QLatin1String(" - ");
-  return name + _Cleaned(ShortFormatName(formatName)) + u'.' + extension;
-}
-
-bool FitsIntoPath(const QString& path) {
-  return QFile::encodeName(path).size() <= kMaxPathBytes;
+QString ProposedFileName(const QString& name, const QString& formatName, const QString& extension,
+                         QDate date) {
+  QStringList parts = {_Cut(_Cleaned(name)), _Cleaned(ShortFormatName(formatName)),
+                       date.toString(Qt::ISODate)};
+  parts.removeAll(QString());
+  return parts.join(QStringLiteral(" – ")) + u'.' + extension;
 }
 
 }  // namespace host

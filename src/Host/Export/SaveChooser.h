@@ -6,16 +6,25 @@
 #include <QStringList>
 #include <optional>
 
+#include "Host/Export/FileNames.h"
+
 class QWidget;
 
 namespace host {
 
-// Asks for a file, at first with the proposed name in the folder used last, and before replacing one; refuses
-// the class files, under whatever name. Gives a path that an export can take, or nothing when the user
-// cancels. The desktop's own dialog is shown only where the environment variable GXHOST_NATIVE_DIALOGS is
-// set.
-std::optional<QString> ChooseSaveFile(QWidget* parent, const QString& proposedName, const QString& extension,
-                                      const QStringList& classPaths);
+struct SaveRequest {
+  QString proposedName;
+  QString extension;  // added to a name without one
+  // These must not be replaced, under whatever name.
+  QStringList classPaths = {};  // the first that is not empty is the class that is exported
+  QString downloadPath = {};    // of the gradebook that is filled in
+  qsizetype maxPathBytes = kMaxPathBytes;
+};
+
+// Asks for a file, and before replacing one: at first in the class's folder, from then on in the one that was
+// chosen last. A file that cannot be written is refused while the dialog is open. Returns when a path is
+// chosen, or nothing when the user cancels.
+std::optional<QString> ChooseSaveFile(QWidget* parent, const SaveRequest& request);
 
 }  // namespace host
 

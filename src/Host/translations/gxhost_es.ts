@@ -1012,5 +1012,45 @@ Open it by hand in a browser, here or on another computer.</source>
         <source>comma</source>
         <translation>coma</translation>
     </message>
+    <message>
+        <source>The name of the file is too long.</source>
+        <translation>El nombre del archivo es demasiado largo.</translation>
+    </message>
+    <message>
+        <source>Choose a shorter name.</source>
+        <translation>Elija un nombre más corto.</translation>
+    </message>
+    <message>
+        <source>“%1” is the gradebook that you downloaded. It has to stay as it is.</source>
+        <translation>«%1» es el libro de calificaciones que usted descargó. Debe quedar como está.</translation>
+    </message>
+    <message>
+        <source>Choose another folder.</source>
+        <translation>Elija otra carpeta.</translation>
+    </message>
+    <message>
+        <source>The folder “%1” is not there.</source>
+        <translation>La carpeta «%1» no existe.</translation>
+    </message>
+    <message>
+        <source>“%1” is a file, not a folder.</source>
+        <translation>«%1» es un archivo, no una carpeta.</translation>
+    </message>
+    <message>
+        <source>“%1” is a folder.</source>
+        <translation>«%1» es una carpeta.</translation>
+    </message>
+    <message>
+        <source>Choose another name.</source>
+        <translation>Elija otro nombre.</translation>
+    </message>
+    <message>
+        <source>You may not change the file “%1”: it is protected.</source>
+        <translation>No puede cambiar el archivo «%1»: está protegido.</translation>
+    </message>
+    <message>
+        <source>You may not save in the folder “%1”.</source>
+        <translation>No puede guardar en la carpeta «%1».</translation>
+    </message>
 </context>
 </TS>

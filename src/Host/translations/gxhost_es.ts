@@ -733,10 +733,6 @@ Open it by hand in a browser, here or on another computer.</source>
         <translation>Sin identificador:</translation>
     </message>
     <message>
-        <source>%1 (left out)</source>
-        <translation>%1 (omitidos)</translation>
-    </message>
-    <message>
         <source>Without any result:</source>
         <translation>Sin ningún resultado:</translation>
     </message>
@@ -1005,10 +1001,6 @@ Open it by hand in a browser, here or on another computer.</source>
         <translation>Elija Mac OS Roman («Macintosh») como codificación, para que los acentos se vean bien.</translation>
     </message>
     <message>
-        <source>Upload the file as it is: a spreadsheet program that saves it may change it.</source>
-        <translation>Suba el archivo tal como está: un programa de hojas de cálculo que lo guarde puede cambiarlo.</translation>
-    </message>
-    <message>
         <source>comma</source>
         <translation>coma</translation>
     </message>
@@ -1051,6 +1043,18 @@ Open it by hand in a browser, here or on another computer.</source>
     <message>
         <source>You may not save in the folder “%1”.</source>
         <translation>No puede guardar en la carpeta «%1».</translation>
+    </message>
+    <message>
+        <source>Problems:</source>
+        <translation>Problemas:</translation>
+    </message>
+    <message>
+        <source>%1, left out</source>
+        <translation>%1, omitidos</translation>
+    </message>
+    <message>
+        <source>Take the file as it is: a spreadsheet program that saves it may change it.</source>
+        <translation>Tome el archivo tal como está: un programa de hojas de cálculo que lo guarde puede cambiarlo.</translation>
     </message>
 </context>
 </TS>

@@ -61,7 +61,7 @@ TableFault _ForeignTable(const DelimitedTable& table, const LearningSystem* chos
   reason += "; expected the headings of " + expected + "; found " + _ShownHeadings(table);
   const LearningSystem* const other = chosen != nullptr ? _Recognize(table) : nullptr;
   if (other != nullptr) reason.append(", as in a gradebook of ").append(other->name);
-  return {.line = table.LineOf(0), .reason = reason};
+  return {.foreign = true, .line = table.LineOf(0), .reason = reason};
 }
 
 DownloadColumn _Describe(std::string_view heading, const DownloadLayout& layout) {

@@ -55,6 +55,7 @@ struct TableFault {
   bool IsFault() const { return !reason.empty(); }
 
   bool unreadable = false;  // the system did not give the file
+  bool foreign = false;     // it is a table, but not one of those that were looked for
   uint64_t line = 0;        // 1-based; 0: no place
   uint64_t column = 0;      // 1-based, in characters; 0: no more than the line is known
   std::string reason;       // English

@@ -19,7 +19,16 @@ FaultText _DamagedText(const ClassFault& fault, const QString& name, const QStri
 }
 
 // What a file seems to be that is no class, and what to do then; nothing where it is not certain.
-QString _SeemingText(FileKind kind) {
+QString _NoClassAdvice(FileKind kind) {
+  const QString seeming = SeemingText(kind);
+  const QString advice =
+      Texts::tr("Choose a file that the class manager saved. Its name usually ends in .xml.");
+  return seeming.isEmpty() ? advice : seeming + QStringLiteral("\n\n") + advice;
+}
+
+}  // namespace
+
+QString SeemingText(FileKind kind) {
   switch (kind) {
     case FileKind::kPicture: return Texts::tr("It looks like a picture.");
     case FileKind::kPdf: return Texts::tr("It looks like a PDF document.");
@@ -39,15 +48,6 @@ QString _SeemingText(FileKind kind) {
   }
   return {};
 }
-
-QString _NoClassAdvice(FileKind kind) {
-  const QString seeming = _SeemingText(kind);
-  const QString advice =
-      Texts::tr("Choose a file that the class manager saved. Its name usually ends in .xml.");
-  return seeming.isEmpty() ? advice : seeming + QStringLiteral("\n\n") + advice;
-}
-
-}  // namespace
 
 FaultText TextOfFault(const ReadResult& result) {
   const QString name = QFileInfo(result.path).fileName();

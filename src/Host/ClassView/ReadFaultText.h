@@ -16,6 +16,9 @@ struct FaultText {
 // In the current language; the result must have a fault. Of a download, it tells to open a class first.
 FaultText TextOfFault(const ReadResult& result);
 
+// What a file that was meant to be another seems to be, in a sentence; empty where nothing is known.
+QString SeemingText(FileKind kind);
+
 }  // namespace host
 
 #endif  // GRADIX_READFAULTTEXT_H

@@ -10,11 +10,18 @@
 #include <vector>
 
 #include "Host/ClassView/ClassReader.h"
+#include "Host/Fill/GradebookLoader.h"
 #include "Host/Result/ExportedFile.h"
 #include "Systems/Finding.h"
 #include "Systems/LearningSystem.h"
 
+class QPushButton;
+class QStackedWidget;
+
 namespace host {
+
+class FillStartPage;
+class FillWorkPage;
 
 // A window of its own that goes with its parent and destroys itself when it is closed.
 class FillWindow : public QWidget {
@@ -36,9 +43,29 @@ class FillWindow : public QWidget {
 
  protected:
   void changeEvent(QEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
 
  private:
   void Retranslate();
+  void ChooseGradebook();
+  void ReadEnded(const GradebookRead& read);
+  void ShowPage(QWidget* page);
+  void UpdateSave();
+  void Save();
+  ExportedFile SavedFile(const QString& path) const;
+  int32_t HelpTopic() const;
+
+  Handlers m_handlers;
+  const LearningSystem* m_system;  // of which downloads are taken; null: any
+  qz::UserIDField m_identifier;
+  QString m_name;  // the class's
+  GradebookLoader m_loader;
+  QStackedWidget* m_pages;
+  FillStartPage* m_start;
+  FillWorkPage* m_work;
+  QPushButton* m_save;
+  QPushButton* m_close;
 };
 
 }  // namespace host

@@ -24,5 +24,12 @@
             <numerusform>%n results from %1 to %2 points; most, %3, from %4 to %5</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n note(s)</source>
+        <translation>
+            <numerusform>%n note</numerusform>
+            <numerusform>%n notes</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -733,6 +733,10 @@ Open it by hand in a browser, here or on another computer.</source>
         <translation>Sin identificador:</translation>
     </message>
     <message>
+        <source>%1 (left out)</source>
+        <translation>%1 (omitidos)</translation>
+    </message>
+    <message>
         <source>Without any result:</source>
         <translation>Sin ningún resultado:</translation>
     </message>
@@ -1001,6 +1005,10 @@ Open it by hand in a browser, here or on another computer.</source>
         <translation>Elija Mac OS Roman («Macintosh») como codificación, para que los acentos se vean bien.</translation>
     </message>
     <message>
+        <source>Upload the file as it is: a spreadsheet program that saves it may change it.</source>
+        <translation>Suba el archivo tal como está: un programa de hojas de cálculo que lo guarde puede cambiarlo.</translation>
+    </message>
+    <message>
         <source>comma</source>
         <translation>coma</translation>
     </message>
@@ -1045,16 +1053,431 @@ Open it by hand in a browser, here or on another computer.</source>
         <translation>No puede guardar en la carpeta «%1».</translation>
     </message>
     <message>
-        <source>Problems:</source>
-        <translation>Problemas:</translation>
+        <source>A&amp;ll (%1)</source>
+        <translation>&amp;Todos (%1)</translation>
     </message>
     <message>
-        <source>%1, left out</source>
-        <translation>%1, omitidos</translation>
+        <source>C&amp;hanges only (%1)</source>
+        <translation>Solo &amp;cambios (%1)</translation>
     </message>
     <message>
-        <source>Take the file as it is: a spreadsheet program that saves it may change it.</source>
-        <translation>Tome el archivo tal como está: un programa de hojas de cálculo que lo guarde puede cambiarlo.</translation>
+        <source>&amp;Problems only (%1)</source>
+        <translation>Solo &amp;problemas (%1)</translation>
+    </message>
+    <message>
+        <source>Loo&amp;k for:</source>
+        <translation>Busc&amp;ar:</translation>
+    </message>
+    <message>
+        <source>Student or assignment</source>
+        <translation>Estudiante o tarea</translation>
+    </message>
+    <message>
+        <source>%1: %2 found</source>
+        <translation>%1: %2 encontrados</translation>
+    </message>
+    <message>
+        <source>In this field nobody has an identifier that stands in the gradebook.</source>
+        <translation>En este campo nadie tiene un identificador que figure en el libro de calificaciones.</translation>
+    </message>
+    <message>
+        <source>%1 finds nobody in this gradebook, %2 finds the most.</source>
+        <translation>%1 no encuentra a nadie en este libro de calificaciones; %2 encuentra a más estudiantes.</translation>
+    </message>
+    <message>
+        <source>Student &amp;field:</source>
+        <translation>&amp;Campo del estudiante:</translation>
+    </message>
+    <message>
+        <source>Only fill &amp;empty cells</source>
+        <translation>Rellenar solo celdas &amp;vacías</translation>
+    </message>
+    <message>
+        <source>Add columns for assignments
+that have n&amp;one</source>
+        <translation>Añadir columnas para las tareas
+&amp;que no tienen ninguna</translation>
+    </message>
+    <message>
+        <source>Match by &amp;name where
+the identifier fails</source>
+        <translation>Buscar por &amp;nombre cuando
+falla el identificador</translation>
+    </message>
+    <message>
+        <source>Gradebooks downloaded from %1 cannot be filled in.</source>
+        <translation>Los libros de calificaciones descargados de %1 no se pueden rellenar.</translation>
+    </message>
+    <message>
+        <source>You can also drop the file on this window.</source>
+        <translation>También puede arrastrar el archivo a esta ventana.</translation>
+    </message>
+    <message>
+        <source>C&amp;hoose a Download…</source>
+        <translation>&amp;Elegir una descarga…</translation>
+    </message>
+    <message>
+        <source>&amp;Back to the Earlier Download</source>
+        <translation>&amp;Volver a la descarga anterior</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>vacío</translation>
+    </message>
+    <message>
+        <source>%1, with a problem</source>
+        <translation>%1, con un problema</translation>
+    </message>
+    <message>
+        <source>a new column</source>
+        <translation>una columna nueva</translation>
+    </message>
+    <message>
+        <source>column “%1”</source>
+        <translation>columna «%1»</translation>
+    </message>
+    <message>
+        <source>Student</source>
+        <translation>Estudiante</translation>
+    </message>
+    <message>
+        <source>Assignment</source>
+        <translation>Tarea</translation>
+    </message>
+    <message>
+        <source>In the gradebook</source>
+        <translation>En el libro</translation>
+    </message>
+    <message>
+        <source>Afterwards</source>
+        <translation>Después</translation>
+    </message>
+    <message>
+        <source>What happens</source>
+        <translation>Qué ocurre</translation>
+    </message>
+    <message>
+        <source>a quote begins here and does not end</source>
+        <translation>aquí empieza una comilla que no termina</translation>
+    </message>
+    <message>
+        <source>a quote (&quot;) stands where none may stand</source>
+        <translation>hay una comilla (&quot;) donde no puede haberla</translation>
+    </message>
+    <message>
+        <source>a zero byte stands in the text</source>
+        <translation>hay un byte cero en el texto</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>el archivo está vacío</translation>
+    </message>
+    <message>
+        <source>the file is larger than 256 MB</source>
+        <translation>el archivo ocupa más de 256 MB</translation>
+    </message>
+    <message>
+        <source>the gradebook has headings, but no students</source>
+        <translation>el libro de calificaciones tiene encabezados, pero no estudiantes</translation>
+    </message>
+    <message>
+        <source>no column has points; download the gradebook with grades of the type &quot;Real&quot;</source>
+        <translation>ninguna columna tiene puntos; descargue el libro de calificaciones con calificaciones de tipo «Real»</translation>
+    </message>
+    <message>
+        <source>out of memory</source>
+        <translation>no hay memoria suficiente</translation>
+    </message>
+    <message>
+        <source>“%1” is a gradebook of no system that Gradix knows.</source>
+        <translation>«%1» no es un libro de calificaciones de ninguna plataforma que Gradix conozca.</translation>
+    </message>
+    <message>
+        <source>Choose the file that you downloaded from %1, just as it was downloaded.</source>
+        <translation>Elija el archivo que descargó de %1, tal como se descargó.</translation>
+    </message>
+    <message>
+        <source>“%1” is no gradebook of %2.</source>
+        <translation>«%1» no es un libro de calificaciones de %2.</translation>
+    </message>
+    <message>
+        <source>“%1” is no gradebook of %2, but one of %3.</source>
+        <translation>«%1» no es un libro de calificaciones de %2, sino de %3.</translation>
+    </message>
+    <message>
+        <source>The gradebook “%1” cannot be used.</source>
+        <translation>El libro de calificaciones «%1» no se puede usar.</translation>
+    </message>
+    <message>
+        <source>The gradebook “%1” is damaged: line %2.</source>
+        <translation>El libro de calificaciones «%1» está dañado: línea %2.</translation>
+    </message>
+    <message>
+        <source>The gradebook “%1” is damaged: line %2, column %3.</source>
+        <translation>El libro de calificaciones «%1» está dañado: línea %2, columna %3.</translation>
+    </message>
+    <message>
+        <source>new</source>
+        <translation>nuevo</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>cambiado</translation>
+    </message>
+    <message>
+        <source>same</source>
+        <translation>igual</translation>
+    </message>
+    <message>
+        <source>kept</source>
+        <translation>conservado</translation>
+    </message>
+    <message>
+        <source>left out (no number)</source>
+        <translation>omitido (no es un número)</translation>
+    </message>
+    <message>
+        <source>The gradebook has no result there yet.</source>
+        <translation>El libro de calificaciones aún no tiene ningún resultado ahí.</translation>
+    </message>
+    <message>
+        <source>The gradebook has another result there, which is replaced.</source>
+        <translation>El libro de calificaciones tiene ahí otro resultado, que se sustituye.</translation>
+    </message>
+    <message>
+        <source>The gradebook has this result already.</source>
+        <translation>El libro de calificaciones ya tiene este resultado.</translation>
+    </message>
+    <message>
+        <source>The gradebook has another result there, and only empty cells are filled.</source>
+        <translation>El libro de calificaciones tiene ahí otro resultado, y solo se rellenan celdas vacías.</translation>
+    </message>
+    <message>
+        <source>The class has no result there, so the gradebook keeps its own.</source>
+        <translation>La clase no tiene ahí ningún resultado, así que el libro de calificaciones conserva el suyo.</translation>
+    </message>
+    <message>
+        <source>The result of the class is no number that can be written; the gradebook keeps its own.</source>
+        <translation>El resultado de la clase no es un número que se pueda escribir; el libro de calificaciones conserva el suyo.</translation>
+    </message>
+    <message>
+        <source>has no identifier in the class</source>
+        <translation>no tiene identificador en la clase</translation>
+    </message>
+    <message>
+        <source>the identifier differs in upper and lower case</source>
+        <translation>el identificador se distingue en mayúsculas y minúsculas</translation>
+    </message>
+    <message>
+        <source>another student of the class has the same identifier</source>
+        <translation>otro estudiante de la clase tiene el mismo identificador</translation>
+    </message>
+    <message>
+        <source>several students in the gradebook have the identifier</source>
+        <translation>varios estudiantes del libro de calificaciones tienen el identificador</translation>
+    </message>
+    <message>
+        <source>another student was joined with the one who has the identifier</source>
+        <translation>quien tiene el identificador se unió con otro estudiante</translation>
+    </message>
+    <message>
+        <source>the identifier is not in the gradebook</source>
+        <translation>el identificador no está en el libro de calificaciones</translation>
+    </message>
+    <message>
+        <source>the column with this title cannot be filled</source>
+        <translation>la columna con este título no se puede rellenar</translation>
+    </message>
+    <message>
+        <source>another assignment of the class has this title</source>
+        <translation>otra tarea de la clase tiene este título</translation>
+    </message>
+    <message>
+        <source>several columns have this title</source>
+        <translation>varias columnas tienen este título</translation>
+    </message>
+    <message>
+        <source>no column has this title</source>
+        <translation>ninguna columna tiene este título</translation>
+    </message>
+    <message>
+        <source>Two assignments of the class have the same number, so it is not clear which one is meant.</source>
+        <translation>Dos tareas de la clase tienen el mismo número, así que no está claro a cuál se refiere.</translation>
+    </message>
+    <message>
+        <source>Several columns of the gradebook have this heading, so it is not clear which one is meant.</source>
+        <translation>Varias columnas del libro de calificaciones tienen este encabezado, así que no está claro a cuál se refiere.</translation>
+    </message>
+    <message>
+        <source>This column of the gradebook cannot be filled.</source>
+        <translation>Esta columna del libro de calificaciones no se puede rellenar.</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>línea %1</translation>
+    </message>
+    <message>
+        <source>In Canvas, open the course’s grades and choose Export, then the entire gradebook. Canvas gives you a CSV file.</source>
+        <translation>En Canvas, abra las calificaciones del curso y elija exportar el libro de calificaciones completo. Canvas le da un archivo CSV.</translation>
+    </message>
+    <message>
+        <source>In Moodle, open the course’s grades and choose Export, then the plain text file with grades of the type Real.</source>
+        <translation>En Moodle, abra las calificaciones del curso y elija exportar un archivo de texto plano con calificaciones de tipo Real.</translation>
+    </message>
+    <message>
+        <source>In Sakai, open the site’s gradebook, choose Import / Export and export it as a CSV file with the students’ ids.</source>
+        <translation>En Sakai, abra el libro de calificaciones del sitio, elija importar y exportar, y expórtelo como archivo CSV con los identificadores de los estudiantes.</translation>
+    </message>
+    <message>
+        <source>In Blackboard, open the course’s grades and choose Work Offline, then Download. Tab-delimited and CSV files are both right.</source>
+        <translation>En Blackboard, abra las calificaciones del curso y elija trabajar sin conexión y descargar. Sirven tanto los archivos separados por tabulaciones como los CSV.</translation>
+    </message>
+    <message>
+        <source>In Brightspace, open the course’s grades and choose Export, with the points grades, the user names and the end-of-line column as CSV.</source>
+        <translation>En Brightspace, abra las calificaciones del curso y elija exportar, como CSV, con las calificaciones en puntos, los nombres de usuario y la columna de fin de línea.</translation>
+    </message>
+    <message>
+        <source>Download the gradebook from your course, as a file for spreadsheets. It can come from %1.</source>
+        <translation>Descargue el libro de calificaciones de su curso, como archivo para hojas de cálculo. Puede venir de %1.</translation>
+    </message>
+    <message>
+        <source>The file “%1” could not be opened.</source>
+        <translation>No se pudo abrir el archivo «%1».</translation>
+    </message>
+    <message>
+        <source>“%1” is a class file, no gradebook.</source>
+        <translation>«%1» es un archivo de clase, no un libro de calificaciones.</translation>
+    </message>
+    <message>
+        <source>Choose the gradebook that you downloaded from your course.</source>
+        <translation>Elija el libro de calificaciones que descargó de su curso.</translation>
+    </message>
+    <message>
+        <source>“%1” is no gradebook.</source>
+        <translation>«%1» no es un libro de calificaciones.</translation>
+    </message>
+    <message>
+        <source>The reader says: %1.
+
+Download the gradebook once more, and do not save it from a spreadsheet in between.</source>
+        <translation>El lector indica: %1.
+
+Descargue otra vez el libro de calificaciones y no lo guarde antes con una hoja de cálculo.</translation>
+    </message>
+    <message>
+        <source>Choose a Download</source>
+        <translation>Elegir una descarga</translation>
+    </message>
+    <message>
+        <source>Gradebooks (*.csv *.xls *.txt *.tsv)</source>
+        <translation>Libros de calificaciones (*.csv *.xls *.txt *.tsv)</translation>
+    </message>
+    <message>
+        <source>%1 filled</source>
+        <translation>%1 con resultados</translation>
+    </message>
+    <message>
+        <source>Fill In a Gradebook – %1</source>
+        <translation>Rellenar un libro de calificaciones – %1</translation>
+    </message>
+    <message>
+        <source>&amp;Save for Upload…</source>
+        <translation>&amp;Guardar para subir…</translation>
+    </message>
+    <message>
+        <source>%1 refused</source>
+        <translation>%1 de rechazo</translation>
+    </message>
+    <message>
+        <source>%1 wrong</source>
+        <translation>%1 de error</translation>
+    </message>
+    <message>
+        <source>%1 lost</source>
+        <translation>%1 de pérdida</translation>
+    </message>
+    <message>
+        <source>%1 altered</source>
+        <translation>%1 de cambio</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n note(s)</source>
+        <translation>
+            <numerusform>%n aviso</numerusform>
+            <numerusform>%n avisos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1” cannot be joined with this column.</source>
+        <translation>«%1» no se puede unir con esta columna.</translation>
+    </message>
+    <message>
+        <source>Choose Another &amp;Download…</source>
+        <translation>Elegir otra &amp;descarga…</translation>
+    </message>
+    <message>
+        <source>%1 gradebook “%2”. Students: %3, columns to fill: %4.</source>
+        <translation>Libro de calificaciones de %1 «%2». Estudiantes: %3, columnas que se pueden rellenar: %4.</translation>
+    </message>
+    <message>
+        <source>Found of the class: %1 of %2 students, %3 of %4 assignments.</source>
+        <translation>De la clase se encontraron %1 de %2 estudiantes y %3 de %4 tareas.</translation>
+    </message>
+    <message>
+        <source>The identifier is in the column “%1”.</source>
+        <translation>El identificador está en la columna «%1».</translation>
+    </message>
+    <message>
+        <source>&amp;Results (%1)</source>
+        <translation>&amp;Resultados (%1)</translation>
+    </message>
+    <message>
+        <source>Not &amp;matched (%1)</source>
+        <translation>Sin parej&amp;a (%1)</translation>
+    </message>
+    <message>
+        <source>F&amp;indings</source>
+        <translation>&amp;Hallazgos</translation>
+    </message>
+    <message>
+        <source>F&amp;indings (%1)</source>
+        <translation>&amp;Hallazgos (%1)</translation>
+    </message>
+    <message>
+        <source>%1 ↔ %2, joined by hand</source>
+        <translation>%1 ↔ %2, unidos a mano</translation>
+    </message>
+    <message>
+        <source>S&amp;tudents with results, not found in the gradebook:</source>
+        <translation>&amp;Estudiantes con resultados que no están en el libro:</translation>
+    </message>
+    <message>
+        <source>Students of the &amp;gradebook, not in the class:</source>
+        <translation>Estudiantes del &amp;libro que no están en la clase:</translation>
+    </message>
+    <message>
+        <source>&amp;Join</source>
+        <translation>&amp;Unir</translation>
+    </message>
+    <message>
+        <source>&amp;Undo the Join</source>
+        <translation>&amp;Deshacer la unión</translation>
+    </message>
+    <message>
+        <source>Assignments without a co&amp;lumn:</source>
+        <translation>Tareas sin c&amp;olumna:</translation>
+    </message>
+    <message>
+        <source>Columns that get not&amp;hing:</source>
+        <translation>Columnas que no reciben &amp;nada:</translation>
+    </message>
+    <message>
+        <source>J&amp;oin</source>
+        <translation>Un&amp;ir</translation>
+    </message>
+    <message>
+        <source>Undo the Join</source>
+        <translation>Deshacer la unión</translation>
     </message>
 </context>
 </TS>

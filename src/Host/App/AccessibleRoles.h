@@ -12,8 +12,8 @@ namespace host {
 // the first window is shown.
 void InstallAccessibleRoles();
 
-// The role of a widget that draws itself, to be set before it is shown. Only for widgets without a standard
-// one.
+// The role of a widget that draws itself, or that Qt tells as nothing in particular; to be set before it is
+// shown.
 void SetAccessibleRole(QWidget* widget, QAccessible::Role role);
 
 }  // namespace host

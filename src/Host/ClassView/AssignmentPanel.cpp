@@ -165,7 +165,7 @@ void AssignmentPanel::Retranslate() {
   m_label->setText(Texts::tr("&Assignment:"));
   m_nothing->setText(Texts::tr("This class has no assignments yet."));
   m_group->setTitle(Texts::tr("Statistics"));
-  m_scrolling->setAccessibleName(Texts::tr("Statistics"));
+  m_scrolling->setAccessibleName(Texts::tr("Assignment"));
   for (const Figure& figure : m_figures) figure.label->setText(Texts::tr(figure.caption));
   FitWidth();
 }

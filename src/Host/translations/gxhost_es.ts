@@ -1479,5 +1479,9 @@ Descargue otra vez el libro de calificaciones y no lo guarde antes con una hoja 
         <source>Undo the Join</source>
         <translation>Deshacer la unión</translation>
     </message>
+    <message>
+        <source>Assignment</source>
+        <translation>Tarea</translation>
+    </message>
 </context>
 </TS>

@@ -3,7 +3,8 @@ import os
 import unittest
 from pathlib import Path
 
-from display import SpokenX11, wait_for
+from display import wait_for
+from screen_reader import ScreenReader, elements, labels, related, role_of, states
 
 GXHOST = os.environ["GXHOST"]
 SAMPLE = Path(os.environ["SAMPLES"]) / "secondary-school.xml"
@@ -26,33 +27,6 @@ WINDOWS = [
 ]
 
 
-def elements(parent):
-    """All that is shown in it; of tables and lists not what they hold."""
-    for element in parent:
-        if element and "showing" in states(element):
-            yield element
-            if role_of(element) not in ("table", "tree", "list"):
-                yield from elements(element)
-
-
-def role_of(element):
-    return element.getRoleName().removeprefix("push ")  # the push button's name has changed
-
-
-def states(element):
-    return {pyatspi.stateToString(state) for state in element.getState().getStates()}
-
-
-def related(element, relation):
-    return [found.getTarget(i) for found in element.getRelationSet() if found.getRelationType() == relation
-            for i in range(found.getNTargets())]
-
-
-def labels(element):
-    return [label.name.removesuffix(":") for label in related(element, pyatspi.RELATION_LABELLED_BY)
-            if role_of(label) == "label"]
-
-
 def faults(window):
     """What keeps a window from being told."""
     found = [] if role_of(window) in ("alert", "dialog", "frame") else [f"the window is a {role_of(window)}"]
@@ -66,7 +40,7 @@ def faults(window):
         if role == "label":
             found += [f"the value of {name!r} is hidden by its name"] * (name.removesuffix(":") in label)
             found += [f"{name!r} is joined to nothing"] * (
-                name.endswith(":") and not related(element, pyatspi.RELATION_LABEL_FOR))
+                name.endswith(":") and not related(element, "LABEL_FOR"))
     return found
 
 
@@ -84,39 +58,9 @@ class AccessibilityTest(unittest.TestCase):
 
     @classmethod
     def setUpClass(cls):
-        cls.desktop = SpokenX11()
-        cls.addClassCleanup(cls.desktop.close)
-        cls.desktop.start(GXHOST, str(SAMPLE))
-        global pyatspi  # looks for the bus when it is imported
-        import pyatspi
-        desktop = pyatspi.Registry.getDesktop(0)
-        desktop.set_cache_mask(0)
-        cls.program = wait_for(lambda: next((program for program in desktop if program), None), "a program on the bus")
-        cls.main = cls.window(MAIN_WINDOW)
-
-    @classmethod
-    def window(cls, title):
-        def find():
-            return next((window for window in cls.program if window and window.name == title), None)
-        return wait_for(find, f"the window {title}")
-
-    def find(self, role, name, parent=None):
-        for element in elements(parent or self.main):
-            if role_of(element) == role and name in [element.name, *labels(element)]:
-                return element
-        raise AssertionError(f"no {role} {name!r}")
-
-    def choose(self, *names):
-        """A menu item, by its own action."""
-        def item():
-            found = next(element for element in self.main if role_of(element) == "menu bar")
-            for name in names:
-                items = [child for menu in (found, *found) for child in menu]
-                found = next((child for child in items if child.name == name), None)
-                if not found:
-                    return None
-            return found if "enabled" in states(found) else None
-        wait_for(item, f"the menu item {names}").queryAction().doAction(0)
+        cls.reader = ScreenReader(GXHOST, str(SAMPLE))
+        cls.addClassCleanup(cls.reader.desktop.close)
+        cls.main = cls.reader.window(MAIN_WINDOW)
 
     def test_main_window(self):
         self.assertEqual(faults(self.main), [])
@@ -127,11 +71,11 @@ class AccessibilityTest(unittest.TestCase):
         self.assertEqual(values, STATISTICS)
 
     def test_histogram(self):
-        self.assertRegex(self.find("chart", "Score distribution").description,
+        self.assertRegex(self.reader.find("chart", "Score distribution", self.main).description,
                          "^29 results from 1.5 to 6 points; most, 7, from 5.4 to 6")
 
     def test_table(self):
-        table = self.find("table", "Students and their points").queryTable()
+        table = self.reader.find("table", "Students and their points", self.main).queryTable()
         self.assertEqual((table.nRows, table.nColumns), (30, 14))
         self.assertEqual([table.getColumnDescription(column) for column in range(3)],
                          ["Name", "Student ID", "Quiz 1: Cells"])
@@ -141,16 +85,16 @@ class AccessibilityTest(unittest.TestCase):
     def test_windows(self):
         for names, title, controls in WINDOWS:
             with self.subTest(title):
-                self.choose(*names)
-                window = self.window(title)
-                self.desktop.wait_for_window(title)
+                self.reader.choose(self.main, *names)
+                window = self.reader.window(title)
+                self.reader.desktop.wait_for_window(title)
                 try:
                     self.assertEqual(faults(window), [])
-                    self.assertEqual({key: says(self.find(*key, window)) for key in controls}, controls)
+                    self.assertEqual({key: says(self.reader.find(*key, window)) for key in controls}, controls)
                     self.assertTrue(any("focused" in states(element) for element in elements(window)))
                 finally:
-                    self.desktop.key("Escape")
-                    wait_for(lambda: window not in list(self.program), f"the end of {title}")
+                    self.reader.desktop.key("Escape")
+                    wait_for(lambda: window not in list(self.reader.program), f"the end of {title}")
 
 
 if __name__ == "__main__":

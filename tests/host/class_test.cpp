@@ -54,10 +54,10 @@ TEST_F(ClassTest, TableOfTheSampleClass) {
   EXPECT_EQ(zero.data().toString(), QStringLiteral("0"));
   EXPECT_FALSE(zero.data(Qt::ToolTipRole).isValid());
   EXPECT_FALSE(zero.data(Qt::ForegroundRole).isValid());
-  EXPECT_EQ(missing.data().toString(), QStringLiteral("—"));
+  EXPECT_EQ(missing.data().toString(), QStringLiteral("–"));
   EXPECT_EQ(missing.data(Qt::ToolTipRole).toString(), QStringLiteral("No result"));
   EXPECT_EQ(missing.data(Qt::ForegroundRole).value<QBrush>(),
-            QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text));
+            QGuiApplication::palette().brush(QPalette::PlaceholderText));
 
   const QSignalSpy headers(&model, &QAbstractItemModel::headerDataChanged);
   SetCurrentLanguage(HostLanguage::kSpanish);

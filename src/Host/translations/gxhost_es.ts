@@ -130,10 +130,6 @@ También puede arrastrarlo a esta ventana.</translation>
         <translation>Nombre</translation>
     </message>
     <message>
-        <source>Student ID</source>
-        <translation>ID de estudiante</translation>
-    </message>
-    <message>
         <source>No result</source>
         <translation>Sin resultado</translation>
     </message>
@@ -1482,6 +1478,54 @@ Descargue otra vez el libro de calificaciones y no lo guarde antes con una hoja 
     <message>
         <source>Assignment</source>
         <translation>Tarea</translation>
+    </message>
+    <message>
+        <source>%1, sorted ascending</source>
+        <translation>%1, orden ascendente</translation>
+    </message>
+    <message>
+        <source>%1, sorted descending</source>
+        <translation>%1, orden descendente</translation>
+    </message>
+    <message>
+        <source>This class has no students yet.</source>
+        <translation>Esta clase aún no tiene estudiantes.</translation>
+    </message>
+    <message>
+        <source>Sort &amp;Ascending</source>
+        <translation>Orden &amp;ascendente</translation>
+    </message>
+    <message>
+        <source>Sort &amp;Descending</source>
+        <translation>Orden &amp;descendente</translation>
+    </message>
+    <message>
+        <source>&amp;Class’s Own Order</source>
+        <translation>Orden de la &amp;clase</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>No se encontró</translation>
+    </message>
+    <message>
+        <source>F&amp;ind:</source>
+        <translation>&amp;Buscar:</translation>
+    </message>
+    <message>
+        <source>Name, identifier or title</source>
+        <translation>Nombre, identificador o título</translation>
+    </message>
+    <message>
+        <source>&amp;Previous</source>
+        <translation>&amp;Anterior</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Siguiente</translation>
+    </message>
+    <message>
+        <source>Close the search</source>
+        <translation>Cerrar la búsqueda</translation>
     </message>
 </context>
 </TS>

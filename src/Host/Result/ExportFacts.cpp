@@ -28,7 +28,7 @@ QString _List(const std::vector<size_t>& positions, const std::function<std::str
   const size_t shown = positions.size() <= kMaxNames + 1 ? positions.size() : kMaxNames;
   QStringList names;
   for (size_t i = 0; i < shown; ++i) names.append(LineFromUtf8(name(positions[i])));
-  const QString list = names.join(QLatin1String(", "));
+  QString list = names.join(QLatin1String(", "));
   if (shown == positions.size()) return list;
   return Texts::tr("%1 and %2 more").arg(list, _Number(positions.size() - shown));
 }

@@ -1,7 +1,5 @@
 #include "Host/Window/MainWindow.h"
 
-#include <sys/resource.h>
-
 #include <QDir>
 #include <QLabel>
 #include <QMenu>
@@ -15,13 +13,13 @@
 #include <QTreeView>
 #include <QXmlStreamReader>
 #include <cerrno>
-#include <csignal>
 #include <cstring>
 #include <optional>
 #include <utility>
 #include <vector>
 
 #include "Host/App/RecentFiles.h"
+#include "tests/host/FullDisk.h"
 #include "tests/host/HostFixture.h"
 
 namespace host {
@@ -275,27 +273,6 @@ TEST_F(MainWindowTest, TakesADroppedFile) {
   EXPECT_TRUE(QTest::qWaitFor([this] { return m_window.windowTitle() == QStringLiteral("Class 2 – Gradix"); },
                               30000));
 }
-
-// No file grows beyond a few bytes while the object lives: a disk that is full.
-class FullDisk {
- public:
-  FullDisk() : m_handler(std::signal(SIGXFSZ, SIG_IGN)) {
-    getrlimit(RLIMIT_FSIZE, &m_limit);
-    rlimit full = m_limit;
-    full.rlim_cur = 100;
-    setrlimit(RLIMIT_FSIZE, &full);
-  }
-  ~FullDisk() {
-    setrlimit(RLIMIT_FSIZE, &m_limit);
-    std::signal(SIGXFSZ, m_handler);
-  }
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-
- private:
-  void (*m_handler)(int);
-  rlimit m_limit{};
-};
 
 class RealFilterTest : public MainWindowTest {
  protected:

@@ -129,7 +129,7 @@ void FillChoicesPanel::changeEvent(QEvent* event) {
 void FillChoicesPanel::Retranslate() {
   m_fieldLabel->setText(Texts::tr("Student &field:"));
   m_onlyEmpty->setText(Texts::tr("Only fill &empty cells"));
-  m_newColumns->setText(Texts::tr("Add columns for assignments\nthat have n&one"));
+  m_newColumns->setText(Texts::tr("Add columns for assignments\n&without one"));
   m_matchNames->setText(Texts::tr("Match by &name where\nthe identifier fails"));
   ShowFields();
   ShowHint();

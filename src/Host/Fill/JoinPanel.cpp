@@ -81,6 +81,10 @@ JoinPanel::JoinPanel(QWidget* parent, const QString& name, Handlers handlers)
   setTabOrder(m_theirs, m_join);
   setTabOrder(m_join, m_undo);
   for (QListWidget* list : {m_ours, m_theirs}) {
+    // Whoever comes by the keyboard has the first one chosen at once.
+    connect(list, &QListWidget::currentItemChanged, list, [](QListWidgetItem* item) {
+      if (item != nullptr) item->setSelected(true);
+    });
     connect(list, &QListWidget::itemSelectionChanged, this, &JoinPanel::UpdateButtons);
     connect(list, &QListWidget::itemActivated, this, &JoinPanel::Join);
   }

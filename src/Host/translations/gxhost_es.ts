@@ -1089,12 +1089,6 @@ Open it by hand in a browser, here or on another computer.</source>
         <translation>Rellenar solo celdas &amp;vacías</translation>
     </message>
     <message>
-        <source>Add columns for assignments
-that have n&amp;one</source>
-        <translation>Añadir columnas para las tareas
-&amp;que no tienen ninguna</translation>
-    </message>
-    <message>
         <source>Match by &amp;name where
 the identifier fails</source>
         <translation>Buscar por &amp;nombre cuando
@@ -1476,10 +1470,6 @@ Descargue otra vez el libro de calificaciones y no lo guarde antes con una hoja 
         <translation>Deshacer la unión</translation>
     </message>
     <message>
-        <source>Assignment</source>
-        <translation>Tarea</translation>
-    </message>
-    <message>
         <source>%1, sorted ascending</source>
         <translation>%1, orden ascendente</translation>
     </message>
@@ -1526,6 +1516,12 @@ Descargue otra vez el libro de calificaciones y no lo guarde antes con una hoja 
     <message>
         <source>Close the search</source>
         <translation>Cerrar la búsqueda</translation>
+    </message>
+    <message>
+        <source>Add columns for assignments
+&amp;without one</source>
+        <translation>Añadir columnas para las tareas
+&amp;que no tienen</translation>
     </message>
 </context>
 </TS>

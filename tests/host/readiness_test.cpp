@@ -1,10 +1,14 @@
 #include <QComboBox>
 #include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QTreeView>
 #include <numeric>
 
 #include "Host/App/Choices.h"
+#include "Host/Findings/BeforeDialog.h"
 #include "Host/Findings/ExportPicker.h"
+#include "Host/Findings/FieldsPanel.h"
 #include "Host/Findings/FindingMarks.h"
 #include "Host/Findings/NameList.h"
 #include "Host/Findings/ReadinessPanel.h"
@@ -153,7 +157,11 @@ std::string _MarksOf(const OpenClass& openClass, const char* format, qz::UserIDF
   return _Lines(MarksOf(CheckExport(subject), subject));
 }
 
-TEST(FindingMarks, StandWhereTheProblemIs) {
+class FindingMarksTest : public HostTest {};
+class NameListTest : public HostTest {};
+class FieldAdviceTest : public HostTest {};
+
+TEST_F(FindingMarksTest, StandWhereTheProblemIs) {
   const struct {
     const char *name, *format;
     std::vector<Pupil> pupils;
@@ -210,7 +218,7 @@ TEST(FindingMarks, StandWhereTheProblemIs) {
             "points 0 1 note: One result is above the points possible.\n");
 }
 
-TEST(NameList, NamesAHandful) {
+TEST_F(NameListTest, NamesAHandful) {
   const auto openClass = _Class(std::vector<Pupil>(8, {"Mia", "Roth", ""}), {});
   openClass->record.students[1].firstName = openClass->record.students[1].lastName = "";
   const struct {
@@ -229,7 +237,7 @@ TEST(NameList, NamesAHandful) {
 }
 
 // As trouble, every finding about students and assignments is seen in the table, once.
-TEST(FindingMarks, NoTroubleIsWithoutAMark) {
+TEST_F(FindingMarksTest, NoTroubleIsWithoutAMark) {
   const std::vector<std::string> wholeFile = {
       "no-assignments", "no-students",        "formula",         "id-as-user-number",
       "id-capitals",    "id-digits",          "answer-replaced", "answer-quote",
@@ -315,6 +323,234 @@ TEST_F(ReadinessTest, FollowsClassChoicesAndLanguage) {
   EXPECT_TRUE(m_panel.Marks().begin()->second.text.startsWith(QStringLiteral("Un estudiante no tiene")));
   m_panel.SetClass(_Class({}, {}));
   EXPECT_TRUE(Row(0).data().toString().startsWith(QStringLiteral("Conviene saber")));
+}
+
+TEST_F(FieldAdviceTest, SaysWhetherTheProposedFieldIsRight) {
+  const char* const proposal = "The export window for Canvas will propose “Student ID”. ";
+  const struct {
+    const char* name;
+    std::vector<Pupil> pupils;
+    const char* rest;
+  } rows[] = {
+      {"right",
+       {{"A", "A", "1", "x"}, {"A", "A", "2", "x"}},
+       "It tells everybody apart. It is right if Canvas knows these identifiers."},
+      {"one shared, alias better",
+       {{"A", "A", "12", "x"}, {"B", "A", "12", "y"}, {"C", "A", "", "z"}},
+       "It is filled in for 2 of 3 students, and 2 share “12”. “Student alias” tells everybody apart."},
+      {"several shared, alias a little better",
+       {{"A", "A", "1", "x"}, {"B", "A", "1", "y"}, {"C", "A", "2", "z"}, {"D", "A", "2"}},
+       "It is filled in for 4 of 4 students, and 4 share theirs with another one. “Student alias” is better. "
+       "It is "
+       "filled in for 3 of 4 students, all different."},
+      {"names are no identifiers",
+       {{"A", "C", "1"}, {"B", "D", ""}},
+       "It is filled in for 1 of 2 students, all different. No other field is better."},
+      {"empty", {{"A", "A", ""}, {"B", "A", ""}}, "Nobody has one. No other field is better."},
+  };
+  for (const auto& row : rows) {
+    const auto openClass = _Class(row.pupils, {});
+    EXPECT_EQ(DescribeProposal(JudgeFields(openClass->Texts()), *FindFormat("canvas")).toStdString(),
+              std::string(proposal) + row.rest)
+        << row.name;
+  }
+}
+
+class FieldsPanelTest : public HostTest {
+ protected:
+  FieldsPanelTest()
+      : m_panel(nullptr, {[this](qz::UserIDField field) { m_taken = field; },
+                          [this](const std::vector<FindingPlace>& places) { m_places = places; }}) {
+    m_panel.resize(300, 600);
+    m_panel.show();
+  }
+
+  // The field's rows, those of its problems behind a blank.
+  std::string RowsOf(int field) {
+    const QModelIndex index = m_tree->model()->index(field, 0);
+    std::string rows = index.data().toString().toStdString();
+    for (int i = 0; i < m_tree->model()->rowCount(index); ++i) {
+      rows += "\n " + m_tree->model()->index(i, 0, index).data().toString().toStdString();
+    }
+    return rows;
+  }
+  QPoint At(int field, int problem) {
+    const QModelIndex index = m_tree->model()->index(field, 0);
+    return m_tree->visualRect(problem < 0 ? index : m_tree->model()->index(problem, 0, index)).center();
+  }
+  std::vector<size_t> Students() {
+    std::vector<size_t> students;
+    for (const FindingPlace& place : m_places) students.push_back(place.student);
+    return students;
+  }
+
+  qz::UserIDField m_taken{};
+  std::vector<FindingPlace> m_places;
+  FieldsPanel m_panel;
+  QTreeView* m_tree = m_panel.findChild<QTreeView*>(QStringLiteral("fields"));
+  QPushButton* m_take = m_panel.findChild<QPushButton*>(QStringLiteral("takeField"));
+};
+
+TEST_F(FieldsPanelTest, ShowsEveryFieldAndWhatIsWrongWithIt) {
+  const auto openClass = _Class({{"Mia", "Becker", "12", "mia"},
+                                 {"Noah", "Carter", "12", "noah"},
+                                 {"Lena", "Roth", "012", "lena"},
+                                 {"Tom", "Hill", "", "tom"}},
+                                {});
+  openClass->record.customLabels[0] = "E-mail";
+  m_panel.Show(openClass, *FindFormat("canvas"), qz::kUserIDAlias);
+  EXPECT_EQ(m_tree->model()->rowCount(), 7);
+  EXPECT_EQ(RowsOf(2),
+            "Student ID (proposed)\n3 of 4 filled in, 1 shared value, 1 nearly the same\nExample: 12\n"
+            " Without: Tom Hill\n “12”: Mia Becker and Noah Carter\n Nearly the same: “12” and “012”");
+  EXPECT_EQ(RowsOf(3), "Student alias (chosen)\n4 of 4 filled in, all different\nExample: mia");
+  EXPECT_EQ(RowsOf(4), "E-mail\nNobody has one");
+  EXPECT_FALSE(m_take->isEnabled());  // the current field is the chosen one
+
+  QTest::mouseClick(m_tree->viewport(), Qt::LeftButton, {}, At(2, 1));
+  EXPECT_EQ(Students(), (std::vector<size_t>{0, 1}));
+  QTest::mouseClick(m_tree->viewport(), Qt::LeftButton, {}, At(0, -1));
+  QTest::mouseDClick(m_tree->viewport(), Qt::LeftButton, {}, At(0, -1));
+  EXPECT_EQ(m_taken, qz::kUserIDFirstName);
+  m_taken = {};
+  QTest::mouseClick(m_take, Qt::LeftButton);
+  EXPECT_EQ(m_taken, qz::kUserIDFirstName);
+
+  m_tree->setFocus();
+  QTest::keyClick(m_tree, Qt::Key_Down);
+  QTest::keyClick(m_tree, Qt::Key_Return);
+  EXPECT_EQ(m_taken, qz::kUserIDLastName);
+  for (int i = 0; i < 2; ++i) QTest::keyClick(m_tree, Qt::Key_Down);
+  QTest::keyClick(m_tree, Qt::Key_Return);
+  EXPECT_EQ(Students(), std::vector<size_t>{3});
+  EXPECT_EQ(m_taken, qz::kUserIDLastName);
+  QTest::keyClick(m_take, Qt::Key_Space);  // of the field above the problem
+  EXPECT_EQ(m_taken, qz::kUserIDStudentID);
+
+  m_panel.Show(openClass, *FindFormat("moodle"), qz::kUserIDStudentID);
+  SetCurrentLanguage(HostLanguage::kSpanish);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(RowsOf(2).substr(0, 62), "Id. de estudiante (elegido)\n3 de 4 rellenos, 1 valor compartid");
+  EXPECT_EQ(RowsOf(4), "E-mail (propuesto)\nNadie tiene uno");
+  EXPECT_EQ(m_tree->currentIndex().row(), 2);
+}
+
+TEST_F(FieldsPanelTest, GathersManyGroupsInOneRow) {
+  std::vector<Pupil> pupils;
+  for (const char* id : {"a", "b", "c", "d", "e", "f", "g"}) pupils.insert(pupils.end(), 2, {"", "", id});
+  m_panel.Show(_Class(pupils, {}), *FindFormat("canvas"), qz::kUserIDStudentID);
+  ASSERT_EQ(m_tree->model()->rowCount(m_tree->model()->index(2, 0)), 6);
+  QTest::mouseClick(m_tree->viewport(), Qt::LeftButton, {}, At(2, 5));  // "and 2 more"
+  EXPECT_EQ(Students(), (std::vector<size_t>{10, 11, 12, 13}));
+}
+
+enum class Answer { kNone, kOpen, kHere };
+
+class BeforeDialogTest : public HostTest {
+ protected:
+  void Tell(const OpenClass& openClass, const char* format = "canvas") {
+    m_answer = Answer::kNone;
+    TellBeforeDialog(&m_parent, openClass, *FindFormat(format),
+                     {[this] { m_answer = Answer::kOpen; }, [this] { m_answer = Answer::kHere; }});
+  }
+
+  QWidget m_parent;
+  Answer m_answer{};
+};
+
+TEST_F(BeforeDialogTest, SaysWhatTheDialogWillNotSay) {
+  const Pupil mia{"Mia", "Becker", "12", "mia"};
+  const std::vector<Pupil> two = {mia, {"Noah", "Carter", "7", "noah"}};
+  const char* const exactly30 = "Essay on the French Revolution";
+  const char* const equal1 = "Oral presentation on the causes 1";
+  const char* const equal2 = "Oral presentation on the causes 2";
+  const struct {
+    const char* name;
+    std::vector<Pupil> pupils;
+    std::vector<const char*> titles;
+    const char* heading;  // null: silence
+    std::vector<const char*> parts;
+  } rows[] = {
+      {"healthy", two, {"Quiz 1", "Quiz 2"}, nullptr, {}},
+      {"one without", {mia, {"Tom", "Hill", ""}}, {"Quiz"}, nullptr, {}},  // of whom the dialog tells
+      {"cut, but different", two, {equal1}, nullptr, {}},
+      {"shared and two without",
+       {mia, {"Noah", "Carter", "12", "noah"}, {"Lena", "Roth", "", "lena"}, {"Tom", "Hill", "", "tom"}},
+       {equal1, equal2},
+       "OK in the export window will do nothing.",
+       {"It will propose “Student ID”, which does not tell everybody apart.\n“12”: Mia Becker and Noah "
+        "Carter\nWithout: Lena Roth and Tom Hill\n“Student alias” tells everybody apart. Choose it there.",
+        "2 titles become equal by that.\n“Oral presentation on the causes 1” and “Oral presentation on the "
+        "causes "
+        "2”\n"}},
+      {"equal in the records only",
+       {{"Mia", "Becker", "a?"}, {"Noah", "Carter", "a?"}},
+       {},
+       "OK in the export window will do nothing.",
+       {"“a?”: Mia Becker and Noah Carter"}},
+      {"nobody has one",
+       {{"Mia", "Becker", "", "mia"}},
+       {"Quiz"},
+       "The export window will not export anything.",
+       {"It will propose “Student ID”, which nobody has.\n“Student alias” tells"}},
+      {"nobody there", {}, {"Quiz"}, "The export window will not export anything.", {"no students"}},
+      {"exactly 30",
+       {mia, mia},
+       {"Quiz", exactly30},
+       "The export window cannot open.",
+       {"“Essay on the French Revolution”", "An export from here takes titles of any length."}},
+      {"equal",
+       two,
+       {equal1, "Quiz", equal2},
+       "The export window will cut titles so that they become equal.",
+       {"“Oral presentation on the causes 1” and “Oral"}},
+  };
+  for (const auto& row : rows) {
+    const auto openClass = _Class(row.pupils, row.titles);
+    if (row.name == std::string("equal in the records only")) {
+      openClass->originals.KeepStudent(0, qz::FindStudentField(qz::kUserIDStudentID), "aж");
+    }
+    Tell(*openClass);
+    QMessageBox* const box = gestures::MessageBox();
+    ASSERT_EQ(box != nullptr, row.heading != nullptr) << row.name;
+    EXPECT_EQ(m_answer, box == nullptr ? Answer::kOpen : Answer::kNone) << row.name;
+    if (box == nullptr) continue;
+    EXPECT_EQ(box->text().toStdString(), row.heading) << row.name;
+    for (const char* part : row.parts) {
+      EXPECT_TRUE(box->informativeText().contains(QString::fromUtf8(part)))
+          << row.name << ": " << box->informativeText().toStdString();
+    }
+    EXPECT_EQ(box->buttons().size(), row.name == std::string("exactly 30") ? 2 : 3) << row.name;
+    QTest::keyClick(box, Qt::Key_Escape);
+    EXPECT_EQ(m_answer, Answer::kNone) << row.name;
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+
+  Tell(*_Class({mia, mia}, {"Quiz"}), "detailed");  // whose dialog has no identifiers
+  EXPECT_EQ(m_answer, Answer::kOpen);
+}
+
+TEST_F(BeforeDialogTest, DoesWhatIsChosen) {
+  const auto openClass = _Class({{"Mia", "Becker", ""}, {"Tom", "Hill", ""}}, {"Quiz"});
+  const struct {
+    Input input;
+    const char* button;
+    Answer answer;
+  } rows[] = {{Input::mouse, "&Open Anyway", Answer::kOpen},
+              {Input::mouse, "Export from &Here…", Answer::kHere},
+              {Input::mouse, "Cancel", Answer::kNone},
+              {Input::keys, nullptr, Answer::kHere}};
+  for (const auto& row : rows) {
+    Tell(*openClass);
+    QMessageBox* const box = gestures::MessageBox();
+    if (row.input == Input::mouse) {
+      ClickButton(box, row.button);
+    } else {
+      gestures::Type(box, Qt::Key_Return);
+    }
+    EXPECT_EQ(m_answer, row.answer) << (row.button != nullptr ? row.button : "Return");
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
 }
 
 }  // namespace

@@ -8,8 +8,13 @@
 #include <vector>
 
 #include "Host/ClassView/ClassReader.h"
+#include "Host/Findings/FieldsModel.h"
 #include "Systems/ExportSubject.h"
 #include "Systems/Finding.h"
+
+class QLabel;
+class QPushButton;
+class QTreeView;
 
 namespace host {
 
@@ -30,7 +35,22 @@ class FieldsPanel : public QWidget {
   void changeEvent(QEvent* event) override;
 
  private:
+  void AddTree();
   void Retranslate();
+  void ShowFields();
+  void ShowStudents(const QModelIndex& index);  // of a problem's row
+  void Activate(const QModelIndex& index);
+  void Take(const QModelIndex& index);
+  void ShowWhetherTaken();
+
+  Handlers m_handlers;
+  std::shared_ptr<const OpenClass> m_class;
+  const FormatRow* m_format = nullptr;
+  qz::UserIDField m_chosen = qz::kUserIDAlias;
+  FieldsModel m_model;
+  QLabel* m_proposal;
+  QTreeView* m_tree;
+  QPushButton* m_take;
 };
 
 }  // namespace host

@@ -7,28 +7,20 @@
 #include "Host/App/Texts.h"
 #include "Host/ClassView/RomanText.h"
 #include "Host/Findings/ConsequenceIcon.h"
+#include "Host/Findings/RowItem.h"
 
 namespace host {
 
 namespace {
 
-// A title and what follows it: for the eye in lines, for a screen reader in one.
-QStandardItem* _Item(const QString& title, const QStringList& lines = {}) {
-  auto* const item = new QStandardItem((QStringList(title) + lines).join(u'\n'));
-  const QString spoken = lines.isEmpty() ? title : title + QLatin1String(": ") + lines.join(u' ');
-  item->setData(spoken, Qt::AccessibleTextRole);
-  item->setEditable(false);
-  return item;
-}
-
 void _AddPlaces(const Finding& finding, const ExportSubject& subject, QStandardItem* item) {
   const auto count = static_cast<qsizetype>(finding.places.size());
   for (const FindingPlace& place : finding.places) {
     if (item->rowCount() == FindingsModel::kMaxPlaces) break;
-    item->appendRow(_Item(LineFromUtf8(DescribePlace(place, subject))));
+    item->appendRow(MakeRowItem(LineFromUtf8(DescribePlace(place, subject))));
   }
   if (count > FindingsModel::kMaxPlaces) {
-    item->appendRow(_Item(Texts::tr("and %1 more").arg(count - FindingsModel::kMaxPlaces)));
+    item->appendRow(MakeRowItem(Texts::tr("and %L1 more").arg(count - FindingsModel::kMaxPlaces)));
   }
 }
 
@@ -38,7 +30,7 @@ QStandardItem* _FindingItem(const Finding& finding, const ExportSubject& subject
   QStringList lines(LineFromUtf8(text.what));
   if (!text.advice.empty()) lines.append(Texts::tr("What to do: %1").arg(LineFromUtf8(text.advice)));
   QStandardItem* const item =
-      _Item(QString::fromStdString(DescribeConsequence(finding.consequence, language)), lines);
+      MakeRowItem(QString::fromStdString(DescribeConsequence(finding.consequence, language)), lines);
   item->setIcon(ConsequenceIcon(finding.consequence));
   _AddPlaces(finding, subject, item);
   return item;

@@ -27,7 +27,7 @@ QString _List(size_t count, NameOf nameOf) {
   QStringList names;
   for (size_t i = 0; i < named; ++i) names.append(nameOf(i));
   if (named == count) return _Joined(names);
-  return names.join(QLatin1String(", ")) + u' ' + Texts::tr("and %1 more").arg(count - named);
+  return names.join(QLatin1String(", ")) + u' ' + Texts::tr("and %L1 more").arg(count - named);
 }
 
 }  // namespace

@@ -31,5 +31,19 @@
             <numerusform>%n notes</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln shared value(s)</source>
+        <translation>
+            <numerusform>%Ln shared value</numerusform>
+            <numerusform>%Ln shared values</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln nearly the same</source>
+        <translation>
+            <numerusform>%Ln nearly the same</numerusform>
+            <numerusform>%Ln nearly the same</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -39,8 +39,8 @@ constexpr const char* kMapFilledUsers =
     QT_TRANSLATE_NOOP("Texts",
                       "Under the identification of users, map the column that identifies the students, such "
                       "as “Email address”, to the same field of Moodle.");
-constexpr const char* kMapFilledColumns =
-    QT_TRANSLATE_NOOP("Texts", "Map each other column to the grade item of the same name, and import.");
+constexpr const char* kMapFilledColumns = QT_TRANSLATE_NOOP(
+    "Texts", "Map each column with results to the grade item of the same name, and import.");
 constexpr const char* kUploadSeparated =
     QT_TRANSLATE_NOOP("Texts", "Choose this file, with a {separator} as the separator, and upload it.");
 constexpr const char* kMapUsers =

@@ -857,10 +857,6 @@ Open it by hand in a browser, here or on another computer.</source>
         <translation>En la identificación de usuarios, asigne la columna que identifica a los estudiantes, como «Dirección de correo» (Email address), al mismo campo de Moodle.</translation>
     </message>
     <message>
-        <source>Map each other column to the grade item of the same name, and import.</source>
-        <translation>Asigne cada una de las demás columnas al elemento de calificación del mismo nombre, e importe.</translation>
-    </message>
-    <message>
         <source>Choose this file, with a {separator} as the separator, and upload it.</source>
         <translation>Elija este archivo, con {separator} como separador, y súbalo.</translation>
     </message>
@@ -1522,6 +1518,10 @@ Descargue otra vez el libro de calificaciones y no lo guarde antes con una hoja 
 &amp;without one</source>
         <translation>Añadir columnas para las tareas
 &amp;que no tienen</translation>
+    </message>
+    <message>
+        <source>Map each column with results to the grade item of the same name, and import.</source>
+        <translation>Asigne cada columna con resultados al elemento de calificación del mismo nombre, e importe.</translation>
     </message>
 </context>
 </TS>

@@ -131,7 +131,7 @@ class Tour {
     window.show();
     const QString title = window.windowTitle();
     Step(
-        "main window: open the class", [&] { window.OpenClassFile(m_path); },
+        "main window: open the class", [&] { window.OpenFile(m_path); },
         [&] { return window.windowTitle() != title; });
     Step("main window: make it large", [&window] { window.resize(1800, 1000); });
   }

@@ -55,7 +55,7 @@ int main(int argc, char** argv) {
   const auto start = [&window, &parser] {
     window.LoadFilter();
     const QString file = parser.positionalArguments().value(0);
-    if (!file.isEmpty()) window.OpenClassFile(file);
+    if (!file.isEmpty()) window.OpenFile(file);
   };
   QMetaObject::invokeMethod(&window, start, Qt::QueuedConnection);
   return QApplication::exec();

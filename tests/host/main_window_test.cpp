@@ -9,7 +9,6 @@
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTableView>
-#include <QToolButton>
 #include <QTreeView>
 #include <QXmlStreamReader>
 #include <cerrno>
@@ -41,14 +40,19 @@ class MainWindowTest : public HostTest {
   void TearDown() override { qunsetenv("GRADIX_FILTER"); }
 
   bool Open(const QString& path) {
-    m_window.OpenClassFile(path);
+    m_window.OpenFile(path);
     const auto* const open = m_window.findChild<QAction*>(QStringLiteral("open"));
     EXPECT_FALSE(open->isEnabled());
     return QTest::qWaitFor([open] { return open->isEnabled(); }, 30000);
   }
   bool OpenSample() { return Open(QStringLiteral(SAMPLES "/village-school.xml")); }
 
-  QAction* Format(int index) { return m_menu->actions().at(index + 1); }  // after what an empty list says
+  // A way of the export menu, of a system by its key or the name of the filter's format.
+  QAction* Way(const char* system, const char* way) {
+    const auto* const menu = m_menu->findChild<QMenu*>(QString::fromUtf8(system));
+    return menu != nullptr ? menu->findChild<QAction*>(QLatin1String(way)) : nullptr;
+  }
+  QAction* Format(int index) { return Way(index == 0 ? "Café 0" : "Café 1", "throughDialog"); }
 
   // Chooses the format, and waits for the filter to be asked.
   void Export(int index) {
@@ -88,7 +92,6 @@ TEST_F(MainWindowTest, OpensAClass) {
   EXPECT_FALSE(Format(0)->isEnabled());
   ASSERT_TRUE(OpenSample());
   EXPECT_EQ(m_window.windowTitle(), QStringLiteral("Class 2 – Gradix"));
-  EXPECT_EQ(Format(1)->text(), QStringLiteral("Assignment Results for Café 1"));
   EXPECT_TRUE(Format(1)->isEnabled());
   EXPECT_EQ(RecentFiles(), QStringList(QStringLiteral(SAMPLES "/village-school.xml")));
 
@@ -110,7 +113,7 @@ TEST_F(MainWindowTest, ExportsTheSelectedAssignmentOnceAtATime) {
   const ReadResult read = ReadClass(QStringLiteral(SAMPLES "/village-school.xml"));
   EXPECT_EQ(m_fake->file.assignmentID, read.openClass->record.assignments[2].id);
   EXPECT_FALSE(Format(0)->isEnabled());
-  EXPECT_FALSE(m_window.findChild<QToolButton*>(QStringLiteral("exportButton"))->isEnabled());
+  EXPECT_TRUE(Way("canvas", "ownExport")->isEnabled());  // needs no filter
 
   SaveAs(PathOf("out.csv"));
   WhenVisible("saveChooser", [](QWidget* window) { EXPECT_EQ(window->parentWidget(), gDialog); });
@@ -127,28 +130,71 @@ TEST_F(MainWindowTest, ExportsTheSelectedAssignmentOnceAtATime) {
   EXPECT_TRUE(Format(0)->isEnabled());
 }
 
-TEST_F(MainWindowTest, ChecksTheOpenClass) {
-  auto* const check = m_window.findChild<QAction*>(QStringLiteral("check"));
-  EXPECT_FALSE(check->isEnabled());
-  ASSERT_TRUE(OpenSample());
-  EXPECT_TRUE(check->isEnabled());
-  check->trigger();
-  QWidget* const window = FindWindow("checkWindow");
-  ASSERT_NE(window, nullptr);
-  check->trigger();
-  EXPECT_EQ(m_window.findChildren<QWidget*>(QStringLiteral("checkWindow")).size(), 1);
-
+// What the readiness panel finds leads into the table, and its choices follow the class and the menu.
+TEST_F(MainWindowTest, SaysHowReadyTheClassIs) {
+  const auto* const reload = m_window.findChild<QAction*>(QStringLiteral("reload"));
+  EXPECT_FALSE(reload->isEnabled());
   ASSERT_TRUE(Open(QStringLiteral(SAMPLES "/secondary-school.xml")));
-  EXPECT_EQ(window->windowTitle(), QStringLiteral("Check – Biology 9"));
-  auto* const findings = window->findChild<QTreeView*>(QStringLiteral("findings"));
-  EXPECT_EQ(findings->model()->index(0, 0, findings->model()->index(0, 0)).data().toString().left(12),
-            QStringLiteral("Inés Álvarez"));
+  EXPECT_TRUE(reload->isEnabled());
+  m_window.findChild<QAction*>(QStringLiteral("readiness"))->trigger();
+  auto* const findings = m_window.findChild<QTreeView*>(QStringLiteral("findings"));
+  ASSERT_TRUE(QTest::qWaitFor([findings] { return findings->model()->rowCount() > 0; }));
   auto* const table = m_window.findChild<QTableView*>(QStringLiteral("classTable"));
   table->setCurrentIndex(table->model()->index(9, 3));
   gestures::ClickRow(findings, 0);
-  EXPECT_EQ(table->currentIndex(), table->model()->index(0, 0));
-  QTest::keyClick(window, Qt::Key_Escape);
-  EXPECT_TRUE(QTest::qWaitFor([] { return FindWindow("checkWindow") == nullptr; }));
+  EXPECT_EQ(table->currentIndex().row(), 0);  // Inés Álvarez
+
+  ASSERT_NE(Way("moodle", "ownExport"), nullptr);
+  EXPECT_EQ(Way("moodle", "throughDialog"), nullptr);  // this filter does not know it
+  EXPECT_EQ(Way("schoology", "fill"), nullptr);        // nobody knows its downloads
+  Way("moodle", "ownExport")->trigger();
+  EXPECT_TRUE(QTest::qWaitFor([] { return FindWindow("exportWindow") != nullptr; }));
+  EXPECT_TRUE(QTest::qWaitFor([this] { return m_menu->actions().front()->text().contains("oodle"); }));
+  EXPECT_EQ(Way("moodle", "ownExport")->shortcut(), QKeySequence(QStringLiteral("Ctrl+Shift+E")));
+  EXPECT_TRUE(Way("canvas", "ownExport")->shortcut().isEmpty());
+}
+
+// Nothing is exported of a class that is not the one on the disk.
+TEST_F(MainWindowTest, NoticesThatTheClassHasChanged) {
+  ASSERT_TRUE(QFile::copy(QStringLiteral(SAMPLES "/village-school.xml"), PathOf("class.xml")));
+  ASSERT_TRUE(Open(PathOf("class.xml")));
+  const QByteArray text = ReadFile(PathOf("class.xml"));
+  QFile::remove(PathOf("class.xml"));
+  WriteFile(PathOf("class.xml"), QByteArray(text).replace("Class 2", "Class 3"));
+  Format(0)->trigger();
+  QWidget* const question = FindWindow("changedQuestion");
+  ASSERT_NE(question, nullptr);
+  EXPECT_EQ(m_fake->begins, 0);
+  ClickButton(question, "&Reload and Go On");
+  EXPECT_TRUE(QTest::qWaitFor([this] { return m_fake->begins == 1; }));
+  EXPECT_EQ(m_window.windowTitle(), QStringLiteral("Class 3 – Gradix"));
+  delete gDialog;
+
+  QFile::remove(PathOf("class.xml"));
+  const auto* const notice = m_window.findChild<QWidget*>(QStringLiteral("notice"));
+  EXPECT_TRUE(QTest::qWaitFor([notice] { return notice->isVisible(); }));
+  EXPECT_FALSE(notice->findChild<QWidget*>(QStringLiteral("noticeButton"))->isVisible());
+  WriteFile(PathOf("class.xml"), text);
+  auto* const button = notice->findChild<QPushButton*>(QStringLiteral("noticeButton"));
+  ASSERT_TRUE(QTest::qWaitFor([button] { return button->isVisible(); }));
+  gestures::Click(button);
+  EXPECT_TRUE(
+      QTest::qWaitFor([this] { return m_window.windowTitle() == QStringLiteral("Class 2 – Gradix"); }));
+  EXPECT_FALSE(notice->isVisible());
+}
+
+TEST_F(MainWindowTest, OffersToFillADroppedDownload) {
+  ASSERT_TRUE(OpenSample());
+  ASSERT_TRUE(Open(QStringLiteral(SAMPLES "/village-school-canvas.csv")));
+  EXPECT_TRUE(QTest::qWaitFor([] { return FindWindow("fillWindow") != nullptr; }));
+  EXPECT_EQ(m_window.windowTitle(), QStringLiteral("Class 2 – Gradix"));
+}
+
+TEST_F(MainWindowTest, RemembersItsSize) {
+  m_window.resize(700, 500);
+  m_window.close();
+  MainWindow again;
+  EXPECT_EQ(again.size(), QSize(700, 500));
 }
 
 TEST_F(MainWindowTest, SaysWhatBecameOfAnExport) {
@@ -245,7 +291,7 @@ TEST_F(MainWindowTest, PreparesAnExportAndCanQuitMeanwhile) {
 TEST_F(MainWindowTest, SpeaksSpanish) {
   ASSERT_TRUE(OpenSample());
   for (QAction* action : m_window.findChildren<QAction*>()) {
-    if (action->text() == QStringLiteral("Español")) action->trigger();
+    if (action->text() == QStringLiteral("E&spañol")) action->trigger();
   }
   QCoreApplication::processEvents();
   EXPECT_EQ(m_menu->title(), QStringLiteral("&Exportar"));
@@ -284,7 +330,7 @@ TEST_F(RealFilterTest, AFullDiskLeavesTheOldFile) {
   ASSERT_TRUE(OpenSample());
   WriteFile(PathOf("out.csv"), "old");
   QWidget* dialog = nullptr;
-  Format(6)->trigger();
+  Way("canvas", "throughDialog")->trigger();
   ASSERT_TRUE(QTest::qWaitFor([&dialog] {
     dialog = gestures::WindowTitled("Export Assignment Results for Canvas");
     return dialog != nullptr;

@@ -42,9 +42,6 @@ ExportController::ExportController(QWidget* window, Handlers handlers)
   m_preparing.setSingleShot(true);
   m_preparing.setInterval(kPaintTime);
   connect(&m_preparing, &QTimer::timeout, this, &ExportController::Begin);
-  m_calledOff.setSingleShot(true);
-  connect(&m_calledOff, &QTimer::timeout, this,
-          [this] { m_handlers.stateChanged(Texts::tr("Nothing was exported")); });
 }
 
 ExportController::~ExportController() {
@@ -204,7 +201,8 @@ void ExportController::ShowNotWritten(const RunResult& result) {
 void ExportController::CloseDialog() {
   if (m_preparing.isActive()) {
     EndPreparing();
-    m_calledOff.start();
+    // Whoever is told may be in the middle of closing the window.
+    QTimer::singleShot(0, this, [this] { m_handlers.stateChanged(Texts::tr("Nothing was exported")); });
     return;
   }
   const QPointer<QWidget> dialog = m_run.Dialog();

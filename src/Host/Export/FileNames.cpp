@@ -3,6 +3,8 @@
 #include <QStringList>
 #include <algorithm>
 
+#include "Host/App/Texts.h"
+
 namespace host {
 
 namespace {
@@ -37,6 +39,11 @@ QString _Cut(QString name) {
 QString ShortFormatName(const QString& formatName) {
   static const QString prefix = QStringLiteral("Assignment Results for ");
   return formatName.startsWith(prefix) ? formatName.mid(prefix.size()) : formatName;
+}
+
+QString FormatTitle(const FormatRow& format) {
+  return format.IsReport() ? Texts::tr("Detailed Results as Text")
+                           : ShortFormatName(QString::fromUtf8(format.name));
 }
 
 QString ProposedFileName(const QString& name, const QString& formatName, const QString& extension,

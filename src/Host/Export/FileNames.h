@@ -5,6 +5,7 @@
 #include <QDate>
 #include <QString>
 
+#include "Filters/GX_StdCsv/FormatTable.h"
 #include "gradix/QZFilter.h"
 
 namespace host {
@@ -14,6 +15,9 @@ inline constexpr qsizetype kMaxPathBytes = QZFILTER_PATH_SIZE - 1;
 
 // The format's name without what all gradebook formats begin with: "Canvas".
 QString ShortFormatName(const QString& formatName);
+
+// The same of a format that the program knows, in the current language.
+QString FormatTitle(const FormatRow& format);
 
 // What an export of the class, or of its one assignment, in the format is proposed to be called:
 // "Biology 9 – Canvas – 2026-11-21.csv". Characters that some file system refuses become blanks or "-"; long

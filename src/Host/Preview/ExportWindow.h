@@ -19,8 +19,8 @@ namespace host {
 struct ExportStart {
   const FormatRow* format = nullptr;
   qz::UserIDField identifier = qz::kUserIDAlias;
-  Dialect dialect = Dialect::kCurrent;  // classic where the format has no current file
-  std::vector<size_t> assignments;      // positions; empty: all
+  Dialect dialect = Dialect::kCurrent;   // classic where the format has no current file
+  std::vector<size_t> assignments = {};  // positions; empty: all
 };
 
 // A window of its own that goes with its parent and destroys itself when it is closed.

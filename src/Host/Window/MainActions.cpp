@@ -27,6 +27,7 @@ QString _Escaped(QString text) {
 MainActions::MainActions(QMainWindow* window, ActionHandlers handlers)
     : m_window(window), m_handlers(std::move(handlers)) {
   AddFileMenu();
+  AddViewMenu();
   AddExportMenu();
   AddLanguageMenu();
   AddHelpMenu();
@@ -34,18 +35,34 @@ MainActions::MainActions(QMainWindow* window, ActionHandlers handlers)
   Retranslate();
 }
 
+QAction* MainActions::Add(QMenu* menu, const char* text, const char* name, const std::function<void()>* act) {
+  QAction* const action = menu->addAction(QString(), m_window, [act] { (*act)(); });
+  action->setObjectName(QLatin1String(name));
+  m_titled.push_back({action, text});
+  return action;
+}
+
 void MainActions::AddFileMenu() {
-  m_fileMenu = m_window->menuBar()->addMenu(QString());
-  m_open = m_fileMenu->addAction(QString(), m_window, [this] { m_handlers.open(); });
-  m_open->setObjectName(QStringLiteral("open"));
+  QMenu* const menu = m_window->menuBar()->addMenu(QString());
+  m_titled.push_back({menu->menuAction(), QT_TRANSLATE_NOOP("Texts", "&File")});
+  m_open = Add(menu, QT_TRANSLATE_NOOP("Texts", "&Open Class…"), "open", &m_handlers.open);
   m_open->setShortcut(QKeySequence::Open);
   m_open->setIcon(m_window->style()->standardIcon(QStyle::SP_DialogOpenButton));
-  m_recentMenu = m_fileMenu->addMenu(QString());
+  m_recentMenu = menu->addMenu(QString());
+  m_titled.push_back({m_recentMenu->menuAction(), QT_TRANSLATE_NOOP("Texts", "Open &Recent")});
   QObject::connect(m_recentMenu, &QMenu::aboutToShow, m_window, [this] { FillRecentMenu(); });
-  m_fileMenu->addSeparator();
-  m_quit = m_fileMenu->addAction(QString(), m_window, [this] { m_handlers.quit(); });
-  m_quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
-  m_quit->setMenuRole(QAction::QuitRole);
+  QAction* const reload = Add(menu, QT_TRANSLATE_NOOP("Texts", "Re&load"), "reload", &m_handlers.reload);
+  reload->setShortcut(Qt::Key_F5);
+  reload->setIcon(m_window->style()->standardIcon(QStyle::SP_BrowserReload));
+  menu->addSeparator();
+  QAction* const properties =
+      Add(menu, QT_TRANSLATE_NOOP("Texts", "&Properties…"), "properties", &m_handlers.showProperties);
+  properties->setShortcut(Qt::ALT | Qt::Key_Return);
+  m_ofClass.insert(m_ofClass.end(), {reload, properties});
+  menu->addSeparator();
+  QAction* const quit = Add(menu, QT_TRANSLATE_NOOP("Texts", "&Quit"), "quit", &m_handlers.quit);
+  quit->setShortcut(Qt::CTRL | Qt::Key_Q);
+  quit->setMenuRole(QAction::QuitRole);
 }
 
 void MainActions::FillRecentMenu() {
@@ -62,47 +79,65 @@ void MainActions::FillRecentMenu() {
   if (number == 0) m_recentMenu->addAction(Texts::tr("No recent classes"))->setEnabled(false);
 }
 
+void MainActions::AddViewMenu() {
+  QMenu* const menu = m_window->menuBar()->addMenu(QString());
+  m_titled.push_back({menu->menuAction(), QT_TRANSLATE_NOOP("Texts", "&View")});
+  m_find = Add(menu, QT_TRANSLATE_NOOP("Texts", "&Find…"), "find", &m_handlers.find);
+  m_find->setShortcut(QKeySequence::Find);
+  m_find->setIcon(m_window->style()->standardIcon(QStyle::SP_FileDialogContentsView));
+  QAction* const sort =
+      Add(menu, QT_TRANSLATE_NOOP("Texts", "&Sort by This Column"), "sort", &m_handlers.sort);
+  sort->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_S);
+  m_ofClass.insert(m_ofClass.end(), {m_find, sort});
+  menu->addSeparator();
+  constexpr const char* kTexts[kPanes] = {QT_TRANSLATE_NOOP("Texts", "&Readiness"),
+                                          QT_TRANSLATE_NOOP("Texts", "&Id Fields"),
+                                          QT_TRANSLATE_NOOP("Texts", "Assi&gnment")};
+  constexpr const char* kNames[kPanes] = {"readiness", "fields", "assignment"};
+  for (int pane = 0; pane < kPanes; ++pane) {
+    QAction* const action = menu->addAction(QString(), m_window, [this, pane] { m_handlers.showPane(pane); });
+    action->setObjectName(QLatin1String(kNames[pane]));
+    action->setShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + pane)));
+    m_titled.push_back({action, kTexts[pane]});
+    m_ofClass.push_back(action);
+  }
+}
+
 void MainActions::AddExportMenu() {
   m_exportMenu = m_window->menuBar()->addMenu(QString());
   m_exportMenu->setObjectName(QStringLiteral("exportMenu"));
-  m_noFormats = m_exportMenu->addAction(QString());
-  m_noFormats->setEnabled(false);
-  m_formatsEnd = m_exportMenu->addSeparator();
-  m_check = m_exportMenu->addAction(QString(), m_window, [this] { m_handlers.check(); });
-  m_check->setObjectName(QStringLiteral("check"));
-  m_check->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_K));
-  m_check->setIcon(m_window->style()->standardIcon(QStyle::SP_DialogApplyButton));
-}
-
-void MainActions::SetFormats(const std::vector<ExportFormat>& formats) {
-  m_noFormats->setVisible(formats.empty());
-  for (const ExportFormat& format : formats) {
-    auto* const action = new QAction(_Escaped(format.name), m_window);
-    QObject::connect(action, &QAction::triggered, m_window, [this, format] { m_handlers.exportAs(format); });
-    m_exportMenu->insertAction(m_formatsEnd, action);
-    m_exports.append(action);
-  }
-  SetExportEnabled(false);
+  m_titled.push_back({m_exportMenu->menuAction(), QT_TRANSLATE_NOOP("Texts", "&Export")});
+  m_exports = std::make_unique<ExportMenu>(m_exportMenu, m_handlers.exports);
 }
 
 void MainActions::AddLanguageMenu() {
-  m_languageMenu = m_window->menuBar()->addMenu(QString());
+  QMenu* const menu = m_window->menuBar()->addMenu(QString());
+  m_titled.push_back({menu->menuAction(), QT_TRANSLATE_NOOP("Texts", "&Language")});
   auto* const group = new QActionGroup(m_window);
-  const auto add = [this, group](HostLanguage language) {
-    QAction* const action = m_languageMenu->addAction(QString(), m_window,
-                                                      [this, language] { m_handlers.setLanguage(language); });
+  // Each in its own language, whichever is the current one.
+  const auto add = [this, group, menu](HostLanguage language, const char* text) {
+    QAction* const action = menu->addAction(QString::fromUtf8(text), m_window,
+                                            [this, language] { m_handlers.setLanguage(language); });
     action->setCheckable(true);
     group->addAction(action);
     return action;
   };
-  m_english = add(HostLanguage::kEnglish);
-  m_spanish = add(HostLanguage::kSpanish);
+  m_english = add(HostLanguage::kEnglish, "&English");
+  m_spanish = add(HostLanguage::kSpanish, "E&spañol");
 }
 
 void MainActions::AddHelpMenu() {
-  m_helpMenu = m_window->menuBar()->addMenu(QString());
-  m_about = m_helpMenu->addAction(QString(), m_window, [this] { m_handlers.about(); });
-  m_about->setMenuRole(QAction::AboutRole);
+  QMenu* const menu = m_window->menuBar()->addMenu(QString());
+  m_titled.push_back({menu->menuAction(), QT_TRANSLATE_NOOP("Texts", "&Help")});
+  QAction* const contents =
+      Add(menu, QT_TRANSLATE_NOOP("Texts", "&Contents"), "helpContents", &m_handlers.helpContents);
+  contents->setIcon(m_window->style()->standardIcon(QStyle::SP_DialogHelpButton));
+  m_helpOnSystem = menu->addAction(QString(), m_window, [this] { m_handlers.helpOnSystem(); });
+  m_helpOnSystem->setObjectName(QStringLiteral("helpOnSystem"));
+  m_helpOnSystem->setShortcut(QKeySequence::HelpContents);
+  menu->addSeparator();
+  QAction* const about = Add(menu, QT_TRANSLATE_NOOP("Texts", "&About Gradix"), "about", &m_handlers.about);
+  about->setMenuRole(QAction::AboutRole);
 }
 
 void MainActions::AddToolBar() {
@@ -118,10 +153,10 @@ void MainActions::AddToolBar() {
   m_exportButton->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   m_exportButton->setIcon(m_window->style()->standardIcon(QStyle::SP_DialogSaveButton));
   m_toolBar->addWidget(m_exportButton);
-  m_toolBar->addAction(m_check);
+  m_toolBar->addAction(m_find);
   // Reachable by keyboard, as the menus are.
   m_exportButton->setFocusPolicy(Qt::TabFocus);
-  for (QAction* const action : {m_open, m_check}) {
+  for (QAction* const action : {m_open, m_find}) {
     m_toolBar->widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
   }
 }
@@ -130,39 +165,27 @@ void MainActions::SetOpenEnabled(bool enabled) {
   m_open->setEnabled(enabled);
 }
 
-void MainActions::SetExportEnabled(bool enabled) {
-  for (QAction* const action : m_exports) action->setEnabled(enabled);
-  m_exportButton->setEnabled(enabled);
+void MainActions::SetClassEnabled(bool enabled) {
+  for (QAction* const action : m_ofClass) action->setEnabled(enabled);
 }
 
-void MainActions::SetCheckEnabled(bool enabled) {
-  m_check->setEnabled(enabled);
+void MainActions::SetExportEnabled(bool throughDialog, bool fromHere) {
+  m_exports->SetEnabled(throughDialog, fromHere);
+  m_exportButton->setEnabled(throughDialog || fromHere);
+}
+
+void MainActions::SetSystem(const QString& name) {
+  m_systemName = name;
+  m_helpOnSystem->setText(name.isEmpty() ? Texts::tr("&Help on This Window")
+                                         : Texts::tr("&Help on %1").arg(_Escaped(name)));
 }
 
 void MainActions::Retranslate() {
-  const auto title = [](QMenu* menu, const char* id) {
-    menu->setTitle(Texts::tr(id));
-    menu->setAccessibleName(Texts::tr(id).remove(u'&'));
-  };
-  title(m_fileMenu, QT_TRANSLATE_NOOP("Texts", "&File"));
-  title(m_recentMenu, QT_TRANSLATE_NOOP("Texts", "Open &Recent"));
-  title(m_exportMenu, QT_TRANSLATE_NOOP("Texts", "&Export"));
-  title(m_languageMenu, QT_TRANSLATE_NOOP("Texts", "&Language"));
-  title(m_helpMenu, QT_TRANSLATE_NOOP("Texts", "&Help"));
-  m_open->setText(Texts::tr("&Open Class…"));
-  m_quit->setText(Texts::tr("&Quit"));
-  m_about->setText(Texts::tr("&About Gradix"));
-  m_english->setText(Texts::tr("English"));
-  m_spanish->setText(Texts::tr("Español"));
-  m_noFormats->setText(Texts::tr("No formats available"));
-  m_check->setText(Texts::tr("&Check…"));
+  for (const Titled& titled : m_titled) titled.action->setText(Texts::tr(titled.text));
+  SetSystem(m_systemName);
+  m_exports->Retranslate();
   m_exportButton->setText(Texts::tr("Export"));
-  m_exportButton->setAccessibleName(Texts::tr("Export"));
   m_toolBar->setWindowTitle(Texts::tr("Tools"));
-  m_toolBar->setAccessibleName(Texts::tr("Tools"));
-  for (QAction* const action : {m_open, m_check}) {
-    m_toolBar->widgetForAction(action)->setAccessibleName(action->text().remove(u'&'));
-  }
   (CurrentLanguage() == HostLanguage::kSpanish ? m_spanish : m_english)->setChecked(true);
 }
 

@@ -2,35 +2,37 @@
 
 #include <QCloseEvent>
 #include <QFileInfo>
-#include <QHeaderView>
 #include <QLabel>
 #include <QMessageBox>
 #include <QMimeData>
-#include <QProgressBar>
 #include <QPushButton>
-#include <QSplitter>
+#include <QScreen>
+#include <QSettings>
 #include <QStackedWidget>
 #include <QStatusBar>
-#include <QTableView>
 #include <QVBoxLayout>
-#include <algorithm>
 #include <utility>
 
 #include "Host/App/FileDialogs.h"
+#include "Host/App/HelpBook.h"
 #include "Host/App/Messages.h"
 #include "Host/App/RecentFiles.h"
 #include "Host/App/Texts.h"
-#include "Host/ClassView/AssignmentPanel.h"
+#include "Host/ClassView/ClassTable.h"
 #include "Host/ClassView/ReadFaultText.h"
-#include "Host/Findings/CheckWindow.h"
-#include "Host/Result/ResultWindow.h"
+#include "Host/Export/FileNames.h"
+#include "Host/Window/ClassPage.h"
+#include "Host/Window/ClassProperties.h"
+#include "Host/Window/NoticeBar.h"
+#include "Host/Window/ReadingProgress.h"
 
 namespace host {
 
 namespace {
 
-constexpr int kProgressDelay = 300;  // milliseconds
 constexpr int kQuitPatience = 2000;  // milliseconds
+constexpr const char* kGeometryKey = "window/geometry";
+constexpr const char* kSplitterKey = "window/splitter";
 
 // The one local file of a drop; empty for anything else.
 QString _DroppedFile(const QMimeData* data) {
@@ -41,35 +43,67 @@ QString _DroppedFile(const QMimeData* data) {
 }  // namespace
 
 MainWindow::MainWindow()
-    : m_model(this),
-      m_loader(this),
-      m_export(this, {[this](const QString& status) { ExportStateChanged(status); },
-                      [this](const ExportedFile& file) { ShowResult(this, file, {}); }}),
-      m_actions(this, {[this] { AskForClassFile(); }, [this](const QString& path) { OpenRecentFile(path); },
-                       [this] { close(); }, [this] { ShowAbout(); },
-                       [this](HostLanguage language) { SetLanguage(language); },
-                       [this](const ExportFormat& format) { ExportAs(format); }, [this] { ShowCheck(); }}),
+    : m_loader(this),
+      m_watcher(this, [this](ClassWatcher::Change change) { ClassChangedOnDisk(change); }),
+      m_exports(this,
+                {.stateChanged = [this](const QString& status) { ExportStateChanged(status); },
+                 .formatUsed = [this](const FormatRow& format) { m_classPage->ChooseFormat(format); },
+                 .placesChosen =
+                     [this](const std::vector<FindingPlace>& places) { m_classPage->SelectPlaces(places); }}),
+      m_actions(this, MakeHandlers()),
       m_pages(new QStackedWidget(this)),
-      m_summary(new QLabel(this)),
-      m_progress(new QProgressBar(this)) {
+      m_notice(new NoticeBar(this, [this] { Reload({}); })),
+      m_classPage(new ClassPage(m_pages, [this] { ChoicesChanged(); })),
+      m_reading(new ReadingProgress(this, [this] { m_loader.Cancel(); })) {
   setObjectName(QStringLiteral("mainWindow"));
   setAcceptDrops(true);
   m_pages->addWidget(MakeEmptyPage());
-  m_pages->addWidget(MakeClassPage());
-  setCentralWidget(m_pages);
-  AddProgress();
-  statusBar()->addPermanentWidget(m_summary);
+  m_pages->addWidget(m_classPage);
+  auto* const central = new QWidget(this);
+  auto* const layout = new QVBoxLayout(central);
+  layout->setContentsMargins({});
+  layout->setSpacing(0);
+  layout->addWidget(m_notice);
+  layout->addWidget(m_pages, 1);
+  setCentralWidget(central);
+  statusBar()->addPermanentWidget(m_reading);
   m_quitPatience.setSingleShot(true);
   m_quitPatience.setInterval(kQuitPatience);
-  resize(fontMetrics().height() * 64, fontMetrics().height() * 38);
+  SetFirstSize();
   Retranslate();
   UpdateActions();
+}
+
+ActionHandlers MainWindow::MakeHandlers() {
+  return {
+      .open = [this] { AskForClassFile(); },
+      .openRecent = [this](const QString& path) { OpenRecentFile(path); },
+      .reload = [this] { Reload({}); },
+      .showProperties = [this] { ShowClassProperties(this, *m_class); },
+      .quit = [this] { close(); },
+      .find = [this] { m_classPage->Table()->Find(); },
+      .sort = [this] { m_classPage->Table()->SortByCurrentColumn(); },
+      .showPane = [this](int pane) { m_classPage->ShowPane(static_cast<ClassPage::Pane>(pane)); },
+      .exports = {.throughDialog = [this](const ExportFormat& format) { ThroughDialog(format); },
+                  .ownExport =
+                      [this](const FormatRow& format) {
+                        WithPresentClass([this, &format] {
+                          m_classPage->ChooseFormat(format);
+                          m_exports.FromHere(format, m_classPage->Identifier());
+                        });
+                      },
+                  .fill = [this](const FormatRow& format) { FillIn(&format, {}); }},
+      .setLanguage = [this](HostLanguage language) { SetLanguage(language); },
+      .helpContents = [this] { ShowHelp(this, 0); },
+      .helpOnSystem = [this] { ShowHelp(this, m_class != nullptr ? m_classPage->Format().helpTopic : 0); },
+      .about = [this] { ShowAbout(); }};
 }
 
 QWidget* MainWindow::MakeEmptyPage() {
   auto* const page = new QWidget(this);
   m_emptyHint = new QLabel(page);
   m_emptyHint->setAlignment(Qt::AlignCenter);
+  m_emptyHint->setWordWrap(true);
   m_emptyButton = new QPushButton(page);
   m_emptyButton->setObjectName(QStringLiteral("openButton"));
   connect(m_emptyButton, &QPushButton::clicked, this, [this] { AskForClassFile(); });
@@ -82,41 +116,18 @@ QWidget* MainWindow::MakeEmptyPage() {
   return page;
 }
 
-QWidget* MainWindow::MakeClassPage() {
-  m_splitter = new QSplitter(this);
-  m_table = new QTableView(m_splitter);
-  m_table->setObjectName(QStringLiteral("classTable"));
-  m_table->setModel(&m_model);
-  m_table->setAlternatingRowColors(true);
-  m_table->setTabKeyNavigation(false);
-  m_table->setWordWrap(false);
-  connect(m_table->selectionModel(), &QItemSelectionModel::currentColumnChanged, this,
-          [this](const QModelIndex& current) { SelectColumn(current.column()); });
-  connect(m_table->horizontalHeader(), &QHeaderView::sectionClicked, this, &MainWindow::SelectColumn);
-  m_panel = new AssignmentPanel(m_splitter, [this](int /*assignment*/) { UpdateActions(); });
-  m_splitter->setStretchFactor(0, 1);
-  m_splitter->setStretchFactor(1, 0);
-  m_splitter->setChildrenCollapsible(false);
-  return m_splitter;
-}
-
-void MainWindow::AddProgress() {
-  m_progress->setRange(0, 0);
-  m_progress->setTextVisible(false);
-  m_progress->setMaximumWidth(fontMetrics().height() * 10);
-  m_progress->hide();
-  statusBar()->addPermanentWidget(m_progress);
-  m_progressDelay.setSingleShot(true);
-  m_progressDelay.setInterval(kProgressDelay);
-  connect(&m_progressDelay, &QTimer::timeout, this, [this] {
-    m_progress->show();
-    statusBar()->showMessage(Texts::tr("Reading “%1”…").arg(m_readingName));
-  });
+// As it was left; at first as large as is pleasant, and never larger than the screen.
+void MainWindow::SetFirstSize() {
+  const QSettings settings;
+  const QSize wanted(fontMetrics().height() * 64, fontMetrics().height() * 38);
+  resize(wanted.boundedTo(screen()->availableSize() * 95 / 100));
+  restoreGeometry(settings.value(QLatin1String(kGeometryKey)).toByteArray());
+  m_classPage->RestoreSplitter(settings.value(QLatin1String(kSplitterKey)).toByteArray());
 }
 
 void MainWindow::LoadFilter() {
-  m_export.LoadFilter();
-  m_actions.SetFormats(m_export.Formats());
+  m_exports.LoadFilter();
+  m_actions.Exports()->SetFormats(m_exports.Formats());
   UpdateActions();
 }
 
@@ -125,14 +136,15 @@ void MainWindow::AskForClassFile() {
   SetUpFileDialog(dialog, QStringLiteral("openChooser"), QFileDialog::AcceptOpen);
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   dialog->setNameFilters({Texts::tr("Class files (*.xml)"), Texts::tr("All files (*)")});
-  if (m_class != nullptr) dialog->setDirectory(QFileInfo(m_class->path).absolutePath());
-  connect(dialog, &QFileDialog::fileSelected, this, &MainWindow::OpenClassFile);
+  const QString latest = m_class != nullptr ? m_class->path : RecentFiles().value(0);
+  if (!latest.isEmpty()) dialog->setDirectory(QFileInfo(latest).absolutePath());
+  connect(dialog, &QFileDialog::fileSelected, this, &MainWindow::OpenFile);
   dialog->open();
 }
 
 void MainWindow::OpenRecentFile(const QString& path) {
   if (QFileInfo::exists(path)) {
-    OpenClassFile(path);
+    OpenFile(path);
     return;
   }
   RemoveRecentFile(path);
@@ -141,90 +153,117 @@ void MainWindow::OpenRecentFile(const QString& path) {
       Texts::tr("It was taken off the list of recent classes. If it was moved, open it from its new place."));
 }
 
-void MainWindow::OpenClassFile(const QString& path) {
-  const bool started = m_loader.Load(path, [this](const ReadResult& result) { ClassRead(result); });
+void MainWindow::OpenFile(const QString& path) {
+  const bool started = m_loader.Load(
+      path, [this](const ReadResult& result) { FileRead(result); },
+      [this](qint64 read, qint64 size) { m_reading->Show(read, size); });
   if (!started) {
     statusBar()->showMessage(Texts::tr("Another class is being read. Please wait a moment."));
     return;
   }
-  m_readingName = QFileInfo(path).fileName();
-  m_progressDelay.start();
+  m_reading->Begin(QFileInfo(path).fileName());
   UpdateActions();
 }
 
-void MainWindow::ClassRead(const ReadResult& result) {
-  m_progressDelay.stop();
-  if (m_progress->isVisible()) statusBar()->clearMessage();
-  m_progress->hide();
+void MainWindow::Reload(std::function<void()> afterwards) {
+  if (m_class == nullptr || m_loader.IsLoading()) return;
+  m_afterReading = std::move(afterwards);
+  OpenFile(m_class->path);
+}
+
+void MainWindow::FileRead(const ReadResult& result) {
+  m_reading->End();
+  const std::function<void()> afterwards = std::exchange(m_afterReading, nullptr);
   if (result.openClass != nullptr) {
     AddRecentFile(result.path);
     ShowClass(result.openClass);
+    UpdateActions();
+    if (afterwards) afterwards();
+    return;
+  }
+  UpdateActions();
+  if (result.cancelled) {
+    statusBar()->showMessage(Texts::tr("Nothing was opened"));
+  } else if (result.kind == FileKind::kDownload && m_class != nullptr) {
+    FillIn(nullptr, result.path);
   } else {
     const FaultText text = TextOfFault(result);
     ShowMessage(this, text.what, text.advice);
   }
-  UpdateActions();
 }
 
 void MainWindow::ShowClass(std::shared_ptr<const OpenClass> openClass) {
+  const bool isSame = m_class != nullptr && m_class->path == openClass->path;
   m_class = std::move(openClass);
-  m_export.ClassOpened(m_class->path);
-  m_model.SetClass(m_class);
-  FitColumns(m_model.columnCount());
-  m_panel->SetClass(m_class);
-  if (m_check != nullptr) m_check->SetClass(m_class);
-  m_pages->setCurrentWidget(m_splitter);
-  m_table->setFocus();
+  m_watcher.Watch(m_class->path, m_class->stamp);
+  m_notice->hide();
+  m_classPage->SetClass(m_class, isSame);
+  m_exports.SetClass(m_class);
+  m_pages->setCurrentWidget(m_classPage);
+  if (!isSame) m_classPage->Table()->setFocus();
   Retranslate();
 }
 
-void MainWindow::FitColumns(int count) {
-  constexpr int kMargin = 12;  // a title does not touch the next
-  for (int column = 0; column < count; ++column) {
-    m_table->resizeColumnToContents(column);
-    m_table->setColumnWidth(column, m_table->columnWidth(column) + kMargin);
+void MainWindow::ClassChangedOnDisk(ClassWatcher::Change change) {
+  if (change == ClassWatcher::Change::kNone) {
+    m_notice->hide();
+  } else if (change == ClassWatcher::Change::kGone) {
+    m_notice->Tell(Texts::tr("The class file was deleted or renamed. What you see is how it was."), {});
+  } else {
+    m_notice->Tell(Texts::tr("The class file has changed since it was opened."), Texts::tr("Re&load"));
   }
 }
 
-void MainWindow::SelectColumn(int column) {
-  m_panel->Select(column - ClassTableModel::kFirstAssignmentColumn);
-}
-
-// A student without an assignment by name; an assignment without a student in the row that was selected.
-void MainWindow::SelectPlace(const FindingPlace& place) {
-  const bool isStudent = place.student != FindingPlace::kNone;
-  const int row = isStudent ? static_cast<int>(place.student) : std::max(m_table->currentIndex().row(), 0);
-  const bool isAssignment = place.assignment != FindingPlace::kNone;
-  const int column = isAssignment
-                         ? ClassTableModel::kFirstAssignmentColumn + static_cast<int>(place.assignment)
-                         : ClassTableModel::kNameColumn;
-  m_table->setCurrentIndex(m_model.index(row, column));
-}
-
-void MainWindow::ShowCheck() {
+void MainWindow::WithPresentClass(std::function<void()> act) {
   if (m_class == nullptr) return;
-  if (m_check == nullptr) {
-    m_check = new CheckWindow(this, m_class, [this](const FindingPlace& place) { SelectPlace(place); });
+  const ClassWatcher::Change change = m_watcher.Look();
+  if (change == ClassWatcher::Change::kNone) {
+    act();
+    return;
   }
-  m_check->show();
-  m_check->raise();
-  m_check->activateWindow();
+  ClassChangedOnDisk(change);
+  if (change == ClassWatcher::Change::kGone) {
+    ShowMessage(this,
+                Texts::tr("The class file “%1” is no longer there.").arg(QFileInfo(m_class->path).fileName()),
+                Texts::tr("Put it back, or open the class from its new place. Then export again."));
+    return;
+  }
+  auto* const box = new QMessageBox(QMessageBox::Question, Texts::tr("Gradix"),
+                                    Texts::tr("The class file has changed since it was opened."),
+                                    QMessageBox::NoButton, this);
+  box->setObjectName(QStringLiteral("changedQuestion"));
+  box->setInformativeText(Texts::tr("Reload it first, so that what you see is what is exported."));
+  box->setAttribute(Qt::WA_DeleteOnClose);
+  QPushButton* const reload = box->addButton(Texts::tr("&Reload and Go On"), QMessageBox::AcceptRole);
+  box->setEscapeButton(box->addButton(Texts::tr("Cancel"), QMessageBox::RejectRole));
+  box->setDefaultButton(reload);
+  connect(reload, &QPushButton::clicked, this, [this, act = std::move(act)] { Reload(act); });
+  box->open();
 }
 
-void MainWindow::ExportAs(const ExportFormat& format) {
-  if (m_class == nullptr || m_panel->Selected() < 0) return;
-  m_export.Export(format, m_class, static_cast<size_t>(m_panel->Selected()));
+void MainWindow::ThroughDialog(const ExportFormat& format) {
+  WithPresentClass([this, format] {
+    const int assignment = m_classPage->SelectedAssignment();
+    if (assignment >= 0) m_exports.ThroughDialog(format, static_cast<size_t>(assignment));
+  });
+}
+
+void MainWindow::FillIn(const FormatRow* format, const QString& gradebookPath) {
+  WithPresentClass([this, format, gradebookPath] {
+    if (format != nullptr) m_classPage->ChooseFormat(*format);
+    m_exports.Fill(format, m_classPage->Identifier(), gradebookPath);
+  });
 }
 
 void MainWindow::ExportStateChanged(const QString& status) {
   statusBar()->showMessage(status);
   UpdateActions();
-  if (m_quitPatience.isActive() && !m_export.IsRunning()) close();
+  if (m_quitPatience.isActive() && !m_exports.IsRunning()) close();
 }
 
 void MainWindow::SetLanguage(HostLanguage language) {
   ChangeLanguage(language);
-  statusBar()->showMessage(m_export.IsRunning() ? Texts::tr("An export is under way") : QString());
+  statusBar()->showMessage(m_exports.IsRunning() ? Texts::tr("An export is under way") : QString());
 }
 
 void MainWindow::changeEvent(QEvent* event) {
@@ -232,8 +271,6 @@ void MainWindow::changeEvent(QEvent* event) {
   if (event->type() != QEvent::LanguageChange) return;
   Retranslate();
   m_actions.Retranslate();
-  m_model.Retranslate();
-  FitColumns(ClassTableModel::kFirstAssignmentColumn);
 }
 
 void MainWindow::ShowAbout() {
@@ -248,44 +285,43 @@ void MainWindow::ShowAbout() {
   box->open();
 }
 
+void MainWindow::ChoicesChanged() {
+  m_actions.Exports()->OrderChanged();
+  UpdateActions();
+}
+
 void MainWindow::UpdateActions() {
-  const bool idle = !m_loader.IsLoading();
-  m_actions.SetOpenEnabled(idle);
-  if (m_emptyButton != nullptr) m_emptyButton->setEnabled(idle);
-  const bool selected = m_class != nullptr && m_panel != nullptr && m_panel->Selected() >= 0;
-  m_actions.SetCheckEnabled(m_class != nullptr);
-  m_actions.SetExportEnabled(selected && !m_export.IsRunning() && !m_export.Formats().empty());
+  const bool isIdle = !m_loader.IsLoading();
+  m_actions.SetOpenEnabled(isIdle);
+  m_emptyButton->setEnabled(isIdle);
+  const bool hasClass = m_class != nullptr;
+  m_actions.SetClassEnabled(hasClass && isIdle);
+  const bool hasAssignment = hasClass && m_classPage->SelectedAssignment() >= 0;
+  m_actions.SetExportEnabled(hasAssignment && isIdle && !m_exports.IsRunning(), hasClass && isIdle);
+  m_actions.SetSystem(hasClass ? FormatTitle(m_classPage->Format()) : QString());
 }
 
 void MainWindow::Retranslate() {
   const QString program = Texts::tr("Gradix");
   setWindowTitle(m_class == nullptr ? program : m_class->name + QStringLiteral(" – ") + program);
-  setAccessibleName(windowTitle());
   m_emptyHint->setText(
       Texts::tr("Open a class file to see its students and results.\nYou can also drop one on this window."));
-  m_emptyHint->setAccessibleName(
-      Texts::tr("Open a class file to see its students and results.\nYou can also drop one on this window."));
   m_emptyButton->setText(Texts::tr("Open a class file…"));
-  m_emptyButton->setAccessibleName(Texts::tr("Open a class file…"));
-  m_table->setAccessibleName(Texts::tr("Students and their points"));
-  m_progress->setAccessibleName(Texts::tr("Reading “%1”…").arg(m_readingName));
-  if (m_class == nullptr) return;
-  m_summary->setText(Texts::tr("Students: %1   Assignments: %2")
-                         .arg(m_class->record.students.size())
-                         .arg(m_class->record.assignments.size()));
-  m_summary->setAccessibleName(m_summary->text());
 }
 
 // An export under way has its own dialog, which may hold unsaved choices: it is asked to close first.
 void MainWindow::closeEvent(QCloseEvent* event) {
-  if (!m_export.IsRunning()) {
+  if (!m_exports.IsRunning()) {
+    QSettings settings;
+    settings.setValue(QLatin1String(kGeometryKey), saveGeometry());
+    settings.setValue(QLatin1String(kSplitterKey), m_classPage->SplitterState());
     event->accept();
     return;
   }
   event->ignore();
   m_quitPatience.start();
-  m_export.CloseDialog();
-  if (m_export.IsRunning()) statusBar()->showMessage(Texts::tr("Close the export dialog first"));
+  m_exports.CloseDialog();
+  if (m_exports.IsRunning()) statusBar()->showMessage(Texts::tr("Close the export dialog first"));
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
@@ -296,7 +332,7 @@ void MainWindow::dropEvent(QDropEvent* event) {
   const QString path = _DroppedFile(event->mimeData());
   if (path.isEmpty()) return;
   event->acceptProposedAction();
-  OpenClassFile(path);
+  OpenFile(path);
 }
 
 }  // namespace host

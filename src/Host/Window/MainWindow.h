@@ -3,27 +3,24 @@
 #define GRADIX_MAINWINDOW_H
 
 #include <QMainWindow>
-#include <QPointer>
 #include <QTimer>
+#include <functional>
 #include <memory>
 
 #include "Host/ClassView/ClassLoader.h"
-#include "Host/ClassView/ClassTableModel.h"
-#include "Host/Export/ExportController.h"
+#include "Host/Window/ClassWatcher.h"
+#include "Host/Window/ExportWays.h"
 #include "Host/Window/MainActions.h"
-#include "Systems/Finding.h"
 
 class QLabel;
-class QProgressBar;
 class QPushButton;
-class QSplitter;
 class QStackedWidget;
-class QTableView;
 
 namespace host {
 
-class AssignmentPanel;
-class CheckWindow;
+class ClassPage;
+class NoticeBar;
+class ReadingProgress;
 
 class MainWindow : public QMainWindow {
  public:
@@ -32,8 +29,9 @@ class MainWindow : public QMainWindow {
   // Loads the export filter; to be called once, when the window is shown.
   void LoadFilter();
 
-  // Starts reading a class file, which then takes the place of the open one.
-  void OpenClassFile(const QString& path);
+  // Starts reading a class file, which then takes the place of the open one. A downloaded gradebook is
+  // offered to be filled in.
+  void OpenFile(const QString& path);
 
  protected:
   void changeEvent(QEvent* event) override;
@@ -42,41 +40,41 @@ class MainWindow : public QMainWindow {
   void dropEvent(QDropEvent* event) override;
 
  private:
+  ActionHandlers MakeHandlers();
   QWidget* MakeEmptyPage();
-  QWidget* MakeClassPage();
-  void AddProgress();
+  void SetFirstSize();
 
   void AskForClassFile();
   void OpenRecentFile(const QString& path);
-  void ClassRead(const ReadResult& result);
+  void Reload(std::function<void()> afterwards);
+  void FileRead(const ReadResult& result);
   void ShowClass(std::shared_ptr<const OpenClass> openClass);
-  void FitColumns(int count);  // the first ones, to their contents
-  void SelectColumn(int column);
-  void SelectPlace(const FindingPlace& place);
-  void ExportAs(const ExportFormat& format);
-  void ShowCheck();
+  void ClassChangedOnDisk(ClassWatcher::Change change);
+
+  // Runs it with the class as it is on the disk, after asking where it has changed.
+  void WithPresentClass(std::function<void()> act);
+  void ThroughDialog(const ExportFormat& format);
+  void FillIn(const FormatRow* format, const QString& gradebookPath);
+
   void ExportStateChanged(const QString& status);
   void SetLanguage(HostLanguage language);
   void ShowAbout();
+  void ChoicesChanged();
   void UpdateActions();
   void Retranslate();
 
   std::shared_ptr<const OpenClass> m_class;
-  ClassTableModel m_model;
   ClassLoader m_loader;
-  ExportController m_export;
+  ClassWatcher m_watcher;
+  ExportWays m_exports;
   MainActions m_actions;
   QStackedWidget* m_pages;
   QLabel* m_emptyHint = nullptr;
   QPushButton* m_emptyButton = nullptr;
-  QSplitter* m_splitter = nullptr;
-  QTableView* m_table = nullptr;
-  AssignmentPanel* m_panel = nullptr;
-  QPointer<CheckWindow> m_check;
-  QLabel* m_summary;
-  QProgressBar* m_progress;
-  QTimer m_progressDelay;
-  QString m_readingName;
+  NoticeBar* m_notice;
+  ClassPage* m_classPage;
+  ReadingProgress* m_reading;
+  std::function<void()> m_afterReading;
   QTimer m_quitPatience;  // while it runs, the end of the export closes the window
 };
 

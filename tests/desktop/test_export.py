@@ -15,7 +15,7 @@ TEMPLATE = Path(os.environ["DIALOG_TEMPLATE"])
 MAIN_WINDOW = "Biology 9"
 DIALOG = "Export Assignment Results for Canvas"
 FILE_DIALOG = "Export To"
-CANVAS = 6  # row of the export menu
+CANVAS = ("c", "f")  # letters of the system and of the way in the export menu
 FIELDS = 7  # rows of the popup of student fields
 ALIAS = 3
 POPUP, LIST, SELECT_ALL, CLEAR_ALL, OK = 5, 7, 8, 9, 11  # items
@@ -35,7 +35,7 @@ class ExportTest(unittest.TestCase):
         self.desktop.start(GXHOST, str(SAMPLE))
         self.desktop.wait_for_window(MAIN_WINDOW)  # the class is read
         self.desktop.open_popup("alt+e", self.desktop.active_bounds())
-        self.desktop.key(*["Down"] * CANVAS, "Return")
+        self.desktop.key(*CANVAS)
         self.desktop.wait_for_window(DIALOG)
         self.dialog = self.desktop.active_window()
         self.window = self.desktop.active_bounds()

@@ -42,6 +42,9 @@ ExportController::ExportController(QWidget* window, Handlers handlers)
   m_preparing.setSingleShot(true);
   m_preparing.setInterval(kPaintTime);
   connect(&m_preparing, &QTimer::timeout, this, &ExportController::Begin);
+  m_calledOff.setSingleShot(true);
+  connect(&m_calledOff, &QTimer::timeout, this,
+          [this] { m_handlers.stateChanged(Texts::tr("Nothing was exported")); });
 }
 
 ExportController::~ExportController() {
@@ -201,8 +204,7 @@ void ExportController::ShowNotWritten(const RunResult& result) {
 void ExportController::CloseDialog() {
   if (m_preparing.isActive()) {
     EndPreparing();
-    // Whoever is told may be in the middle of closing the window.
-    QTimer::singleShot(0, this, [this] { m_handlers.stateChanged(Texts::tr("Nothing was exported")); });
+    m_calledOff.start();
     return;
   }
   const QPointer<QWidget> dialog = m_run.Dialog();

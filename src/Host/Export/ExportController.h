@@ -64,6 +64,7 @@ class ExportController : public QObject {
   size_t m_assignment = 0;
   ExportFormat m_format{};
   QTimer m_preparing;  // until the windows have been painted
+  QTimer m_calledOff;  // told later: whoever called it off may be in the middle of closing the window
   ExportRun m_run;
 };
 

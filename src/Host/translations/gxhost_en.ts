@@ -45,5 +45,19 @@
             <numerusform>%Ln nearly the same</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n student(s)</source>
+        <translation>
+            <numerusform>%n student</numerusform>
+            <numerusform>%n students</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n assignment(s)</source>
+        <translation>
+            <numerusform>%n assignment</numerusform>
+            <numerusform>%n assignments</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

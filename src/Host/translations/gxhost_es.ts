@@ -44,24 +44,8 @@
         <translation>Exportar</translation>
     </message>
     <message>
-        <source>No formats available</source>
-        <translation>No hay formatos disponibles</translation>
-    </message>
-    <message>
-        <source>&amp;Check…</source>
-        <translation>&amp;Comprobar…</translation>
-    </message>
-    <message>
         <source>&amp;Language</source>
         <translation>&amp;Idioma</translation>
-    </message>
-    <message>
-        <source>English</source>
-        <translation>English</translation>
-    </message>
-    <message>
-        <source>Español</source>
-        <translation>Español</translation>
     </message>
     <message>
         <source>&amp;Help</source>
@@ -142,10 +126,6 @@ También puede arrastrarlo a esta ventana.</translation>
         <translation>Fecha: %1</translation>
     </message>
     <message>
-        <source>Students: %1   Assignments: %2</source>
-        <translation>Estudiantes: %1   Tareas: %2</translation>
-    </message>
-    <message>
         <source>&amp;Assignment:</source>
         <translation>T&amp;area:</translation>
     </message>
@@ -220,10 +200,6 @@ También puede arrastrarlo a esta ventana.</translation>
     <message>
         <source>As far as this class tells, its results will arrive in %1.</source>
         <translation>Por lo que indica esta clase, sus resultados llegarán a %1.</translation>
-    </message>
-    <message>
-        <source>and %1 more</source>
-        <translation>y %1 más</translation>
     </message>
     <message>
         <source>The class file “%1” could not be opened.</source>
@@ -1042,7 +1018,7 @@ Open it by hand in a browser, here or on another computer.</source>
     </message>
     <message>
         <source>You may not save in the folder “%1”.</source>
-        <translation>No puede guardar en la carpeta «%1».</translation>
+        <translation>No tiene permiso para guardar en la carpeta «%1».</translation>
     </message>
     <message>
         <source>A&amp;ll (%1)</source>
@@ -1522,6 +1498,294 @@ Descargue otra vez el libro de calificaciones y no lo guarde antes con una hoja 
     <message>
         <source>Map each column with results to the grade item of the same name, and import.</source>
         <translation>Asigne cada columna con resultados al elemento de calificación del mismo nombre, e importe.</translation>
+    </message>
+    <message>
+        <source>Detailed Results as Text</source>
+        <translation>Resultados detallados como texto</translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An export from here takes titles of any length.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Without: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1”: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose it there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The export window will not export anything.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The class has no students.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It will propose “%1”, which nobody has.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It will propose “%1”, which does not tell everybody apart.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>and %L1 more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OK in the export window will do nothing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The export window cannot open.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The export window will cut titles so that they become equal.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Before the Export</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export from &amp;Here…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open Anyway</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nobody has one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It tells everybody apart.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is filled in for %L1 of %L2 students, all different.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is filled in for %L1 of %L2 students, and %L3 share theirs with another one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is filled in for %L1 of %L2 students, and %L3 share “%4”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” tells everybody apart.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” is better.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The export window for %1 will propose “%2”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is right if %1 knows these identifiers.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No other field is better.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nobody has one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%L1 of %L2 filled in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>all different</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln shared value(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln nearly the same</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 (proposed, chosen)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (proposed)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (chosen)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nearly the same: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Example: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Student fields</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Use This Field</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Readiness</source>
+        <translation>&amp;Preparación</translation>
+    </message>
+    <message>
+        <source>&amp;Id Fields</source>
+        <translation>Campos de &amp;id</translation>
+    </message>
+    <message>
+        <source>Assi&amp;gnment</source>
+        <translation>&amp;Tarea</translation>
+    </message>
+    <message>
+        <source>%1: %2, %3</source>
+        <translation>%1: %2, %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n student(s)</source>
+        <translation>
+            <numerusform>%n estudiante</numerusform>
+            <numerusform>%n estudiantes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n assignment(s)</source>
+        <translation>
+            <numerusform>%n tarea</numerusform>
+            <numerusform>%n tareas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Properties – %1</source>
+        <translation>Propiedades: %1</translation>
+    </message>
+    <message>
+        <source>Class:</source>
+        <translation>Clase:</translation>
+    </message>
+    <message>
+        <source>File:</source>
+        <translation>Archivo:</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>Tamaño:</translation>
+    </message>
+    <message>
+        <source>Saved:</source>
+        <translation>Guardado:</translation>
+    </message>
+    <message>
+        <source>Through the &amp;Filter’s Dialog…</source>
+        <translation>Con el &amp;diálogo del filtro…</translation>
+    </message>
+    <message>
+        <source>&amp;Current File…</source>
+        <translation>Archivo &amp;actual…</translation>
+    </message>
+    <message>
+        <source>&amp;Classic File…</source>
+        <translation>Archivo &amp;clásico…</translation>
+    </message>
+    <message>
+        <source>Fill In a &amp;Downloaded Gradebook…</source>
+        <translation>&amp;Rellenar un libro descargado…</translation>
+    </message>
+    <message>
+        <source>Re&amp;load</source>
+        <translation>Reca&amp;rgar</translation>
+    </message>
+    <message>
+        <source>&amp;Properties…</source>
+        <translation>&amp;Propiedades…</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <source>&amp;Find…</source>
+        <translation>&amp;Buscar…</translation>
+    </message>
+    <message>
+        <source>&amp;Sort by This Column</source>
+        <translation>&amp;Ordenar por esta columna</translation>
+    </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>&amp;Contenido</translation>
+    </message>
+    <message>
+        <source>&amp;Help on This Window</source>
+        <translation>A&amp;yuda sobre esta ventana</translation>
+    </message>
+    <message>
+        <source>&amp;Help on %1</source>
+        <translation>A&amp;yuda sobre %1</translation>
+    </message>
+    <message>
+        <source>Nothing was opened</source>
+        <translation>No se abrió nada</translation>
+    </message>
+    <message>
+        <source>The class file was deleted or renamed. What you see is how it was.</source>
+        <translation>El archivo de clase se eliminó o cambió de nombre. Lo que ve es como estaba.</translation>
+    </message>
+    <message>
+        <source>The class file has changed since it was opened.</source>
+        <translation>El archivo de clase ha cambiado desde que se abrió.</translation>
+    </message>
+    <message>
+        <source>Put it back, or open the class from its new place. Then export again.</source>
+        <translation>Devuélvalo a su lugar o abra la clase desde su nuevo lugar. Después exporte de nuevo.</translation>
+    </message>
+    <message>
+        <source>Reload it first, so that what you see is what is exported.</source>
+        <translation>Recárguelo primero, para que se exporte lo que ve.</translation>
+    </message>
+    <message>
+        <source>&amp;Reload and Go On</source>
+        <translation>&amp;Recargar y continuar</translation>
+    </message>
+    <message>
+        <source>Close this notice</source>
+        <translation>Cerrar este aviso</translation>
     </message>
 </context>
 </TS>

@@ -61,6 +61,7 @@ ExportPicker::ExportPicker(QWidget* parent, std::function<void()> changed)
   m_dialectHint->setWordWrap(true);
   m_layout->addRow(m_dialectHint);
   AddRow(m_delimiterLabel, m_delimiter, "delimiter");
+  setFocusProxy(m_format);
   AddFormats();
   m_chosenFormat = FindFormat(m_format->currentData().toUInt());
   m_chosenField = FieldOf(*m_chosenFormat);

@@ -26,6 +26,7 @@ FieldsPanel::FieldsPanel(QWidget* parent, Handlers handlers)
   m_proposal->setWordWrap(true);
   m_take->setObjectName(QStringLiteral("takeField"));
   AddTree();
+  setFocusProxy(m_tree);
   auto* const layout = new QVBoxLayout(this);
   layout->addWidget(m_proposal);
   layout->addWidget(m_tree, 1);

@@ -31,6 +31,7 @@ ReadinessPanel::ReadinessPanel(QWidget* parent, Handlers handlers)
   pageLayout->addSpacing(fontMetrics().height() / 2);
   pageLayout->addWidget(m_findings, 1);
   scroll->setWidget(page);
+  setFocusProxy(m_picker);
   auto* const layout = new QVBoxLayout(this);
   layout->setContentsMargins({});
   layout->addWidget(scroll);

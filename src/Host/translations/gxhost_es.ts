@@ -1505,161 +1505,161 @@ Descargue otra vez el libro de calificaciones y no lo guarde antes con una hoja 
     </message>
     <message>
         <source>“%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1»</translation>
     </message>
     <message>
         <source>An export from here takes titles of any length.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una exportación desde aquí admite títulos de cualquier longitud.</translation>
     </message>
     <message>
         <source>Without: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin él: %1</translation>
     </message>
     <message>
         <source>“%1”: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1»: %2</translation>
     </message>
     <message>
         <source>Choose it there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elíjalo allí.</translation>
     </message>
     <message>
         <source>The export window will not export anything.</source>
-        <translation type="unfinished"></translation>
+        <translation>La ventana de exportación no exportará nada.</translation>
     </message>
     <message>
         <source>The class has no students.</source>
-        <translation type="unfinished"></translation>
+        <translation>La clase no tiene estudiantes.</translation>
     </message>
     <message>
         <source>It will propose “%1”, which nobody has.</source>
-        <translation type="unfinished"></translation>
+        <translation>Propondrá «%1», que nadie tiene.</translation>
     </message>
     <message>
         <source>It will propose “%1”, which does not tell everybody apart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Propondrá «%1», que no distingue a todos.</translation>
     </message>
     <message>
         <source>and %L1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>y %L1 más</translation>
     </message>
     <message>
         <source>OK in the export window will do nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar en la ventana de exportación no hará nada.</translation>
     </message>
     <message>
         <source>The export window cannot open.</source>
-        <translation type="unfinished"></translation>
+        <translation>La ventana de exportación no puede abrirse.</translation>
     </message>
     <message>
         <source>The export window will cut titles so that they become equal.</source>
-        <translation type="unfinished"></translation>
+        <translation>La ventana de exportación cortará títulos de modo que se vuelven iguales.</translation>
     </message>
     <message>
         <source>Before the Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Antes de exportar</translation>
     </message>
     <message>
         <source>Export from &amp;Here…</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar &amp;desde aquí…</translation>
     </message>
     <message>
         <source>&amp;Open Anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir de todos modos</translation>
     </message>
     <message>
         <source>Nobody has one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nadie tiene uno.</translation>
     </message>
     <message>
         <source>It tells everybody apart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Distingue a todos.</translation>
     </message>
     <message>
         <source>It is filled in for %L1 of %L2 students, all different.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo tienen %L1 de %L2 estudiantes, todos distintos.</translation>
     </message>
     <message>
         <source>It is filled in for %L1 of %L2 students, and %L3 share theirs with another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo tienen %L1 de %L2 estudiantes, y %L3 lo comparten con otro.</translation>
     </message>
     <message>
         <source>It is filled in for %L1 of %L2 students, and %L3 share “%4”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo tienen %L1 de %L2 estudiantes, y %L3 comparten «%4».</translation>
     </message>
     <message>
         <source>“%1” tells everybody apart.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» distingue a todos.</translation>
     </message>
     <message>
         <source>“%1” is better.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» es mejor.</translation>
     </message>
     <message>
         <source>The export window for %1 will propose “%2”.</source>
-        <translation type="unfinished"></translation>
+        <translation>La ventana de exportación para %1 propondrá «%2».</translation>
     </message>
     <message>
         <source>It is right if %1 knows these identifiers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es correcto si %1 conoce estos identificadores.</translation>
     </message>
     <message>
         <source>No other field is better.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún otro campo es mejor.</translation>
     </message>
     <message>
         <source>Nobody has one</source>
-        <translation type="unfinished"></translation>
+        <translation>Nadie tiene uno</translation>
     </message>
     <message>
         <source>%L1 of %L2 filled in</source>
-        <translation type="unfinished"></translation>
+        <translation>%L1 de %L2 rellenos</translation>
     </message>
     <message>
         <source>all different</source>
-        <translation type="unfinished"></translation>
+        <translation>todos distintos</translation>
     </message>
     <message numerus="yes">
         <source>%Ln shared value(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln valor compartido</numerusform>
+            <numerusform>%Ln valores compartidos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln nearly the same</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln casi igual</numerusform>
+            <numerusform>%Ln casi iguales</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 (proposed, chosen)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (propuesto, elegido)</translation>
     </message>
     <message>
         <source>%1 (proposed)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (propuesto)</translation>
     </message>
     <message>
         <source>%1 (chosen)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (elegido)</translation>
     </message>
     <message>
         <source>Nearly the same: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Casi iguales: %1</translation>
     </message>
     <message>
         <source>Example: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ejemplo: %1</translation>
     </message>
     <message>
         <source>Student fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Campos del estudiante</translation>
     </message>
     <message>
         <source>&amp;Use This Field</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Usar este campo</translation>
     </message>
     <message>
         <source>&amp;Readiness</source>

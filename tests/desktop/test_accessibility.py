@@ -17,10 +17,10 @@ STATISTICS = {"Students": "30", "Results": "29", "Missing": "1", "Mean": "4.19",
 
 # Way through the menus, window, and of its controls the role with the name or label, and what the control says.
 WINDOWS = [
-    (("Export", "Canvas", "Through the Filter’s Dialog…"), "Export Assignment Results for Canvas",
+    (("Export", "Canvas", "With the Export Window…"), "Export Assignment Results for Canvas",
      {("combo box", "Extract User ID from"): "Student ID", ("list", "Assignments to export"): "[x] Quiz 1: Cells, 2023-09-08",
       ("button", "Select All"): "", ("button", "OK"): "", ("button", "Cancel"): ""}),
-    (("Export", "Detailed Results as Text", "Through the Filter’s Dialog…"), "Export Detailed Results as Text",
+    (("Export", "Detailed Results as Text", "With the Export Window…"), "Export Detailed Results as Text",
      {("combo box", "Assignment to report"): "Quiz 1: Cells", ("combo box", "Question columns"): "Question Responses",
       ("check box", "Mark correct answers with an asterisk"): "[x]", ("check box", "Write the answer key"): "[ ]",
       ("list", "Optional student information"): "[ ] Password", ("button", "Help"): ""}),

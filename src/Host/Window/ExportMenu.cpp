@@ -81,7 +81,7 @@ void ExportMenu::AddSystem(const FormatRow* row, const ExportFormat* format, boo
   menu->setObjectName(row != nullptr ? QString::fromLatin1(row->key) : title);
   menu->setToolTipsVisible(true);
   if (format != nullptr) {
-    AddWay(menu, Texts::tr("Through the &Filter’s Dialog…"), "throughDialog",
+    AddWay(menu, Texts::tr("With the &Export Window…"), "throughDialog",
            isFirst ? int{Qt::CTRL} | int{Qt::Key_E} : 0, true,
            [this, format = *format] { m_handlers.throughDialog(format); });
   }

@@ -321,7 +321,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
   event->ignore();
   m_quitPatience.start();
   m_exports.CloseDialog();
-  if (m_exports.IsRunning()) statusBar()->showMessage(Texts::tr("Close the export dialog first"));
+  if (m_exports.IsRunning()) statusBar()->showMessage(Texts::tr("Close the export window first"));
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {

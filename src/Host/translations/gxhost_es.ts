@@ -348,10 +348,6 @@ Vuelva a instalar Gradix para que ambos sean de la misma versión.</translation>
         <translation>La exportación terminó</translation>
     </message>
     <message>
-        <source>Close the export dialog first</source>
-        <translation>Cierre primero el diálogo de exportación</translation>
-    </message>
-    <message>
         <source>Export To</source>
         <translation>Exportar a</translation>
     </message>
@@ -1712,10 +1708,6 @@ Descargue otra vez el libro de calificaciones y no lo guarde antes con una hoja 
         <translation>Guardado:</translation>
     </message>
     <message>
-        <source>Through the &amp;Filter’s Dialog…</source>
-        <translation>Con el &amp;diálogo del filtro…</translation>
-    </message>
-    <message>
         <source>&amp;Current File…</source>
         <translation>Archivo &amp;actual…</translation>
     </message>
@@ -1786,6 +1778,14 @@ Descargue otra vez el libro de calificaciones y no lo guarde antes con una hoja 
     <message>
         <source>Close this notice</source>
         <translation>Cerrar este aviso</translation>
+    </message>
+    <message>
+        <source>With the &amp;Export Window…</source>
+        <translation>Con la ventana de &amp;exportación…</translation>
+    </message>
+    <message>
+        <source>Close the export window first</source>
+        <translation>Cierre primero la ventana de exportación</translation>
     </message>
 </context>
 </TS>

@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "Host/App/Texts.h"
+#include "Host/Fill/FillTexts.h"
 
 namespace host {
 
@@ -59,7 +60,6 @@ void FillCellsPage::AddTable(std::function<void(const FindingPlace&)> chosen) {
   m_table->verticalHeader()->hide();
   m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   m_table->horizontalHeader()->setHighlightSections(false);
-  m_table->horizontalHeader()->setStretchLastSection(true);
   m_table->horizontalHeader()->setSortIndicatorClearable(true);
   m_table->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
   m_table->setSortingEnabled(true);
@@ -71,20 +71,26 @@ void FillCellsPage::AddTable(std::function<void(const FindingPlace&)> chosen) {
 void FillCellsPage::Show(const FillPlan* plan) {
   m_model.Show(plan);
   ShowCounts();
-  if (plan != nullptr) FitColumns();
 }
 
+// The names share what the others leave.
 void FillCellsPage::FitColumns() {
   const int unit = fontMetrics().height();
-  m_table->verticalHeader()->setDefaultSectionSize(unit * 7 / 4);
+  const auto widthOf = [this, unit](const QString& text) {
+    return fontMetrics().horizontalAdvance(text) + unit;
+  };
+  QHeaderView* const header = m_table->horizontalHeader();
+  header->setMinimumSectionSize(unit * 5);
+  header->setSectionResizeMode(QHeaderView::Interactive);
   for (const int column : {FillTableModel::kStudent, FillTableModel::kAssignment}) {
-    m_table->resizeColumnToContents(column);  // of the rows that are seen
-    m_table->setColumnWidth(column, std::clamp(m_table->columnWidth(column), unit * 8, unit * 14));
+    header->setSectionResizeMode(column, QHeaderView::Stretch);
   }
   for (const int column : {FillTableModel::kOld, FillTableModel::kNew}) {
-    m_table->resizeColumnToContents(column);
-    m_table->setColumnWidth(column, std::min(m_table->columnWidth(column) + unit / 2, unit * 10));
+    const QString title = m_model.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+    m_table->setColumnWidth(column, std::max(widthOf(title), widthOf(QStringLiteral("100.00"))));
   }
+  m_table->setColumnWidth(FillTableModel::kWhat, widthOf(KindWord(FillKind::kNoNumber)) + unit * 3 / 2);
+  m_table->verticalHeader()->setDefaultSectionSize(unit * 3 / 2);
 }
 
 void FillCellsPage::ShowCounts() {
@@ -103,6 +109,7 @@ void FillCellsPage::Retranslate() {
   m_table->setAccessibleName(Texts::tr("What will happen"));
   m_model.Retranslate();
   ShowCounts();
+  FitColumns();
 }
 
 void FillCellsPage::changeEvent(QEvent* event) {

@@ -36,7 +36,7 @@ FillChoicesPanel::FillChoicesPanel(QWidget* parent, std::function<void()> change
   m_matchNames->setObjectName(QStringLiteral("matchNames"));
   m_fieldLabel->setBuddy(m_field);
   m_field->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  m_field->setMinimumContentsLength(18);
+  m_field->setMinimumContentsLength(20);
   m_hint->setTextFormat(Qt::PlainText);
   m_hint->setWordWrap(true);
   auto* const layout = new QVBoxLayout(this);

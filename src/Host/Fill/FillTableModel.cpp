@@ -268,9 +268,7 @@ QString FillTableModel::Text(size_t cell, int column) const {
     case kNew: return LineFromUtf8(each.newText);
     default: break;
   }
-  QString text = KindWord(each.kind);
-  if (each.kind == FillKind::kChanged)
-    text += QStringLiteral(" (%1 → %2)").arg(LineFromUtf8(each.oldText), LineFromUtf8(each.newText));
+  const QString text = KindWord(each.kind);
   return m_problems[cell] == kNoProblem ? text : Texts::tr("%1, with a problem").arg(text);
 }
 

@@ -169,9 +169,7 @@ void FillWorkPage::ShowRecognised() {
                            _Number(_CountFound(match.columnOf)),
                            _Number(static_cast<qsizetype>(match.columnOf.size())));
   if (match.identifierColumn != kNone) {
-    text +=
-        u' ' +
-        Texts::tr("The identifier is in the column “%1”.").arg(ColumnText(gradebook, match.identifierColumn));
+    text += u' ' + Texts::tr("The identifier is in “%1”.").arg(ColumnText(gradebook, match.identifierColumn));
   }
   m_recognised->setText(text);
   m_recognised->setToolTip(m_path);

@@ -23,7 +23,7 @@ QListWidget* _List(QWidget* parent, const QString& name) {
   list->setAlternatingRowColors(true);
   list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   list->setResizeMode(QListView::Adjust);
-  list->setMinimumSize(parent->fontMetrics().height() * 10, parent->fontMetrics().height() * 4);
+  list->setMinimumSize(parent->fontMetrics().height() * 8, parent->fontMetrics().height() * 4);
   return list;
 }
 
@@ -61,6 +61,10 @@ JoinPanel::JoinPanel(QWidget* parent, const QString& name, Handlers handlers)
       m_undo(new QPushButton(this)) {
   m_join->setObjectName(name + QLatin1String("Join"));
   m_undo->setObjectName(name + QLatin1String("Undo"));
+  for (QLabel* label : {m_oursLabel, m_theirsLabel}) {
+    label->setWordWrap(true);
+    label->setAlignment(Qt::AlignBottom);
+  }
   m_oursLabel->setBuddy(m_ours);
   m_theirsLabel->setBuddy(m_theirs);
   auto* const buttons = new QVBoxLayout;

@@ -1382,10 +1382,6 @@ Descargue otra vez el libro de calificaciones y no lo guarde antes con una hoja 
         <translation>De la clase se encontraron %1 de %2 estudiantes y %3 de %4 tareas.</translation>
     </message>
     <message>
-        <source>The identifier is in the column “%1”.</source>
-        <translation>El identificador está en la columna «%1».</translation>
-    </message>
-    <message>
         <source>&amp;Results (%1)</source>
         <translation>&amp;Resultados (%1)</translation>
     </message>
@@ -1786,6 +1782,10 @@ Descargue otra vez el libro de calificaciones y no lo guarde antes con una hoja 
     <message>
         <source>Close the export window first</source>
         <translation>Cierre primero la ventana de exportación</translation>
+    </message>
+    <message>
+        <source>The identifier is in “%1”.</source>
+        <translation>El identificador está en «%1».</translation>
     </message>
 </context>
 </TS>

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <vector>
 
+#include "Host/Export/ExportController.h"
 #include "Host/Export/ExportRun.h"
 #include "Host/Export/SaveChooser.h"
 #include "tests/host/HostFixture.h"
@@ -262,6 +263,50 @@ TEST_F(ExportRunTest, ChoosesNothing) {
   m_choice = QStringLiteral("/12345678");
   EXPECT_EQ(AskForFile(9), "status 1");
   EXPECT_EQ(AskForFile(10), "/12345678");
+}
+
+// What the filter tells is joined to the class only where it is about that class.
+TEST_F(HostTest, ExportedFileIsOfTheClassThatTheFilterRead) {
+  const ReadResult read = ReadClass(QStringLiteral(SAMPLES "/village-school.xml"));
+  const auto count = static_cast<uint32_t>(read.openClass->record.assignments.size());
+  const auto students = static_cast<uint32_t>(read.openClass->record.students.size());
+  const struct {
+    const char* name;
+    uint32_t students, position;
+    bool isKnown;
+  } rows[] = {{"the same", students, count - 1, true},
+              {"another student", students + 1, 0, false},
+              {"fewer assignments", students, count, false}};
+  QWidget window;
+  std::vector<ExportedFile> files;
+  ExportController controller(
+      &window, {[](const QString&) {}, [&](const ExportedFile& file) { files.push_back(file); }});
+  qputenv("GRADIX_FILTER", FILTERS "/fake_filter.so");
+  controller.LoadFilter();
+  qunsetenv("GRADIX_FILTER");
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.name);
+    const uint32_t chosen[] = {0, row.position};
+    m_fake->outcome.state = QZFILTER_WRITTEN;
+    m_fake->outcome.assignments = 2;
+    m_fake->outcome.chosenAssignments = chosen;
+    m_fake->outcome.students = row.students;
+    m_fake->outcome.userIDField = 3;
+    files.clear();
+    controller.Export(controller.Formats()[1], read.openClass, 0);
+    ASSERT_TRUE(QTest::qWaitFor([] { return gDialog != nullptr; }));
+    SaveAs(PathOf(row.name));
+    AskForFile();
+    gDialog->close();
+    ASSERT_TRUE(QTest::qWaitFor([&files] { return !files.empty(); }));
+    EXPECT_EQ(files[0].openClass, row.isKnown ? read.openClass : nullptr);
+    EXPECT_EQ(files[0].assignments,
+              row.isKnown ? (std::vector<size_t>{0, row.position}) : std::vector<size_t>());
+    EXPECT_EQ(files[0].assignmentCount, 2U);
+    EXPECT_EQ(files[0].studentCount, row.students);
+    EXPECT_EQ(files[0].identifier, qz::kUserIDStudentID);
+    EXPECT_TRUE(files[0].throughDialog);
+  }
 }
 
 class SaveChooserTest : public HostTest {

@@ -156,9 +156,9 @@ Facts FactsOf(const ExportedFile& file) {
 TEST(ExportFacts, TellWhatIsKnown) {
   SetCurrentLanguage(HostLanguage::kEnglish);
   const Facts canvas = {
-      {"kind", "Canvas, classic file"}, {"assignments", "2: Quiz 1, Quiz 2"}, {"students", "10"},
-      {"identifier", "Student alias"},  {"withoutIdentifier", "2: I, J"},     {"results", "11 of 20"},
-      {"withoutResults", "1: J"}};
+      {"kind", "Canvas, classic file"}, {"assignments", "2 (Quiz 1, Quiz 2)"}, {"students", "10"},
+      {"identifier", "Student alias"},  {"withoutIdentifier", "2 (I, J)"},     {"results", "11 of 20"},
+      {"withoutResults", "1 (J)"}};
   const struct {
     const char* name;
     void (*change)(ExportedFile* file);
@@ -172,15 +172,16 @@ TEST(ExportFacts, TellWhatIsKnown) {
        },
        {{"kind", "Canvas, current file"},
         {"students", "8 of 10"},
-        {"withoutIdentifier", "2: I, J (left out)"},
+        {"withoutIdentifier", "2 (I, J), left out"},
         {"results", "10 of 16"},
         {"withoutResults", "-"},
-        {"separator", "semicolon"}}},
+        {"separator", "semicolon"},
+        {"problems", "1 (Something will not arrive)"}}},
       {"many without results",
        [](ExportedFile* file) { file->assignments = {1}; },
-       {{"assignments", "1: Quiz 2"},
+       {{"assignments", "1 (Quiz 2)"},
         {"results", "2 of 10"},
-        {"withoutResults", "8: C, D, E, F, G and 3 more"}}},
+        {"withoutResults", "8 (C, D, E, F, G and 3 more)"}}},
       {"a count that is not the class's",
        [](ExportedFile* file) { file->studentsWithoutIdentifier = 5; },
        {{"withoutIdentifier", "5"}}},
@@ -192,7 +193,9 @@ TEST(ExportFacts, TellWhatIsKnown) {
          file->format = FindFormat("blackboard91");
          file->useQuotes = false;
        },
-       {{"kind", "Blackboard Learn 9.1, classic file"}, {"quotes", "none"}}},
+       {{"kind", "Blackboard Learn 9.1, classic file"},
+        {"quotes", "none"},
+        {"problems", "1 (Something will not arrive)"}}},
       {"the report",
        [](ExportedFile* file) { file->format = FindFormat("detailed"); },
        {{"kind", "Detailed results, classic file"}, {"identifier", "-"}}},
@@ -314,7 +317,7 @@ TEST_F(ResultWindowTest, ActsByMouseAndByKeys) {
     ASSERT_NE(window, nullptr);
     EXPECT_EQ(window->windowTitle(), QStringLiteral("Exported file: out.csv"));
     EXPECT_EQ(window->findChild<QLabel*>(QStringLiteral("assignments"))->text(),
-              QStringLiteral("2: Quiz 1, Quiz 2"));
+              QStringLiteral("2 (Quiz 1, Quiz 2)"));
     const auto act = [&](const char* title, Qt::Key key) {
       if (input == Input::mouse) return ClickButton(window, title);
       PressKey(window, key);

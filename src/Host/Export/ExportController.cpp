@@ -5,8 +5,6 @@
 #include <QGuiApplication>
 #include <QWidget>
 #include <algorithm>
-#include <cerrno>
-#include <cstring>
 #include <utility>
 
 #include "Host/App/Language.h"
@@ -14,6 +12,7 @@
 #include "Host/App/Texts.h"
 #include "Host/ClassView/RomanText.h"
 #include "Host/Export/FileNames.h"
+#include "Host/Export/NotWritten.h"
 #include "Host/Export/SaveChooser.h"
 
 namespace host {
@@ -149,7 +148,10 @@ void ExportController::RunFinished(const RunResult& result) {
   const QString path = QDir::toNativeSeparators(result.path);
   switch (result.outcome) {
     case RunOutcome::kCanceled: m_handlers.stateChanged(Texts::tr("Nothing was exported")); break;
-    case RunOutcome::kNotWritten: ShowNotWritten(result); break;
+    case RunOutcome::kNotWritten:
+      m_handlers.stateChanged(Texts::tr("The export failed"));
+      ShowNotWritten(m_window, result.path, result.error, result.incomplete);
+      break;
     case RunOutcome::kUnknown:
       m_handlers.stateChanged(Texts::tr("The export has ended"));
       ShowMessage(m_window, Texts::tr("The export filter does not tell whether “%1” was written.").arg(path),
@@ -178,27 +180,6 @@ ExportedFile ExportController::FileOf(const RunResult& result) const {
   file.openClass = m_class;
   file.assignments = result.assignments;
   return file;
-}
-
-void ExportController::ShowNotWritten(const RunResult& result) {
-  m_handlers.stateChanged(Texts::tr("The export failed"));
-  const bool isFull = result.error == ENOSPC || result.error == EDQUOT;
-  const QString reason = result.error == 0 ? QString() : QString::fromLocal8Bit(std::strerror(result.error));
-  const QString what = result.incomplete ? Texts::tr(
-                                               "Only a part of the file “%1” could be written. It took the "
-                                               "place of the earlier one; do not use it.")
-                                         : Texts::tr("The file “%1” could not be written.");
-  const QString advice = isFull ? Texts::tr(
-                                      "The disk is full (%1).\n\nMake room on it, or choose a folder on "
-                                      "another disk, and export again.")
-                                : Texts::tr(
-                                      "%1\n\nCheck that the folder exists, that you may write to it and that "
-                                      "the disk is not full. Then export again, perhaps to another folder.");
-  const bool isOldThere = !result.incomplete && QFileInfo::exists(result.path);
-  const QString old = isOldThere ? Texts::tr("The earlier file of this name is still there, unchanged.") +
-                                       QLatin1String("\n\n")
-                                 : QString();
-  ShowMessage(m_window, what.arg(QDir::toNativeSeparators(result.path)), old + advice.arg(reason).trimmed());
 }
 
 void ExportController::CloseDialog() {

@@ -51,7 +51,6 @@ class ExportController : public QObject {
   std::optional<QString> ChooseFile(QWidget* dialog);
   void RunFinished(const RunResult& result);
   ExportedFile FileOf(const RunResult& result) const;
-  void ShowNotWritten(const RunResult& result);
   void ShowLoadError(const QString& path, const FilterLoadError& error);
   void ShowStartError(StartResult result);
 

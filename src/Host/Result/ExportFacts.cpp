@@ -33,9 +33,9 @@ QString _List(const std::vector<size_t>& positions, const std::function<std::str
   return Texts::tr("%1 and %2 more").arg(list, _Number(positions.size() - shown));
 }
 
-// "3: Ana, Ben, Cleo"
+// "3 (Ana, Ben, Cleo)"
 QString _Counted(const std::vector<size_t>& positions, const std::function<std::string(size_t)>& name) {
-  return _Number(positions.size()) + QLatin1String(": ") + _List(positions, name);
+  return QStringLiteral("%1 (%2)").arg(_Number(positions.size()), _List(positions, name));
 }
 
 class FactWriter {
@@ -44,6 +44,7 @@ class FactWriter {
 
   std::vector<ExportFact> Facts() {
     AddKind();
+    if (m_subject && m_file.dialect != Dialect::kFilled) AddProblems();
     AddAssignments();
     AddStudents();
     if (m_subject && m_file.dialect != Dialect::kFilled) AddIdentifier();
@@ -81,6 +82,17 @@ class FactWriter {
     if (m_file.dialect != Dialect::kFilled) return;
     Add("download", QT_TRANSLATE_NOOP("Texts", "Download:"), QFileInfo(m_file.gradebookPath).fileName());
     Add("cells", QT_TRANSLATE_NOOP("Texts", "Cells filled:"), _Number(m_file.filledCells));
+  }
+
+  void AddProblems() {
+    const Findings findings = CheckExport(*m_subject);  // worst first
+    const auto problems = std::ranges::count_if(
+        findings, [](const Finding& finding) { return IsTrouble(finding.consequence); });
+    if (problems == 0) return;
+    const std::string worst = DescribeConsequence(findings.front().consequence, FindingLanguage());
+    Add("problems", QT_TRANSLATE_NOOP("Texts", "Problems:"),
+        QStringLiteral("%1 (%2)").arg(_Number(static_cast<size_t>(problems)), QString::fromStdString(worst)),
+        true);
   }
 
   void AddAssignments() {
@@ -133,7 +145,7 @@ class FactWriter {
     }
     const QString who = students.size() == told ? Students(students) : _Number(told);
     Add("withoutIdentifier", QT_TRANSLATE_NOOP("Texts", "Without an identifier:"),
-        m_file.dialect == Dialect::kCurrent ? Texts::tr("%1 (left out)").arg(who) : who, true);
+        m_file.dialect == Dialect::kCurrent ? Texts::tr("%1, left out").arg(who) : who, true);
   }
 
   void AddWithoutResults() {

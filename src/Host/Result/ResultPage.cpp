@@ -42,6 +42,8 @@ QGridLayout* _AddColumn(QSplitter* splitter, QLabel* title, const char* name) {
   layout->addLayout(lines);
   layout->addStretch();
   area->setWidget(content);
+  for (QWidget* const each : {content, area->viewport()}) each->setAutoFillBackground(false);
+  title->setBuddy(area);
   splitter->addWidget(area);
   return lines;
 }

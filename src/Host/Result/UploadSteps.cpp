@@ -144,8 +144,8 @@ constexpr Guide kGuides[] = {
     {.system = "detailed", .steps = {kOpenInSpreadsheet, kChooseMacRoman, kReadAsText}},
 };
 
-constexpr const char* kAsItIs = QT_TRANSLATE_NOOP(
-    "Texts", "Upload the file as it is: a spreadsheet program that saves it may change it.");
+constexpr const char* kAsItIs =
+    QT_TRANSLATE_NOOP("Texts", "Take the file as it is: a spreadsheet program that saves it may change it.");
 
 bool _Fits(const Guide& guide, const ExportedFile& file) {
   return std::string_view(guide.system) == SystemOf(*file.format).key &&
@@ -163,10 +163,10 @@ QStringList UploadStepsOf(const ExportedFile& file) {
       std::ranges::find_if(kGuides, [&file](const Guide& each) { return _Fits(each, file); });
   if (guide == std::end(kGuides)) return steps;
   const QString separator = file.delimiter == ';' ? Texts::tr("semicolon") : Texts::tr("comma");
+  if (!file.format->IsReport()) steps.append(Texts::tr(kAsItIs));
   for (const char* const step : guide->steps) {
     if (step != nullptr) steps.append(Texts::tr(step).replace(QLatin1String("{separator}"), separator));
   }
-  if (!file.format->IsReport()) steps.append(Texts::tr(kAsItIs));
   return steps;
 }
 

@@ -701,10 +701,6 @@ Open it by hand in a browser, here or on another computer.</source>
         <translation>Sin identificador:</translation>
     </message>
     <message>
-        <source>%1 (left out)</source>
-        <translation>%1 (omitidos)</translation>
-    </message>
-    <message>
         <source>Without any result:</source>
         <translation>Sin ningún resultado:</translation>
     </message>
@@ -967,10 +963,6 @@ Open it by hand in a browser, here or on another computer.</source>
     <message>
         <source>Choose Mac OS Roman (“Macintosh”) as the encoding, so that accents are right.</source>
         <translation>Elija Mac OS Roman («Macintosh») como codificación, para que los acentos se vean bien.</translation>
-    </message>
-    <message>
-        <source>Upload the file as it is: a spreadsheet program that saves it may change it.</source>
-        <translation>Suba el archivo tal como está: un programa de hojas de cálculo que lo guarde puede cambiarlo.</translation>
     </message>
     <message>
         <source>comma</source>
@@ -1786,6 +1778,18 @@ Descargue otra vez el libro de calificaciones y no lo guarde antes con una hoja 
     <message>
         <source>The identifier is in “%1”.</source>
         <translation>El identificador está en «%1».</translation>
+    </message>
+    <message>
+        <source>Problems:</source>
+        <translation>Problemas:</translation>
+    </message>
+    <message>
+        <source>%1, left out</source>
+        <translation>%1, omitidos</translation>
+    </message>
+    <message>
+        <source>Take the file as it is: a spreadsheet program that saves it may change it.</source>
+        <translation>Tome el archivo tal como está: un programa de hojas de cálculo que lo guarde puede cambiarlo.</translation>
     </message>
 </context>
 </TS>

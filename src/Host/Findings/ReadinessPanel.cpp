@@ -25,7 +25,7 @@ ReadinessPanel::ReadinessPanel(QWidget* parent, Handlers handlers)
   m_picker = new ExportPicker(page, [this] { Judge(); });
   m_findings = new FindingsView(
       page, [this](const std::vector<FindingPlace>& places) { m_handlers.placesChosen(places); });
-  m_findings->setMinimumHeight(fontMetrics().height() * 12);
+  m_findings->setMinimumHeight(fontMetrics().height() * 9);
   auto* const pageLayout = new QVBoxLayout(page);
   pageLayout->addWidget(m_picker);
   pageLayout->addSpacing(fontMetrics().height() / 2);

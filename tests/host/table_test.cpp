@@ -1,11 +1,10 @@
 #include <QAccessible>
 #include <QElapsedTimer>
 #include <QHeaderView>
-#include <QHelpEvent>
 #include <QLabel>
+#include <QMenu>
 #include <QScrollBar>
 #include <QTableView>
-#include <QToolTip>
 
 #include "Host/ClassView/ClassTable.h"
 #include "tests/host/HostFixture.h"
@@ -163,13 +162,26 @@ TEST_F(TableTest, SortsByAColumnInThreeSteps) {
   }
 }
 
-TEST_F(TableTest, SortsFromTheMenuOfTheCurrentColumn) {
-  m_view->setCurrentIndex(Cell(1, 1));
-  QTest::keyClick(m_view, Qt::Key_F10, Qt::ShiftModifier);
-  QWidget* const menu = QApplication::activePopupWidget();
-  ASSERT_NE(menu, nullptr);
-  QTest::keyClick(menu, Qt::Key_D);
-  EXPECT_EQ(Column(1), (Words{"100", "12", "7", ""}));
+TEST_F(TableTest, SortsFromTheMenuOfAColumn) {
+  for (const Input input : {Input::mouse, Input::keys}) {
+    m_view->setCurrentIndex(Cell(1, input == Input::keys ? 1 : 0));
+    if (input == Input::keys) {
+      QTest::keyClick(m_view, Qt::Key_F10, Qt::ShiftModifier);
+    } else {
+      QWidget* const headings = m_view->horizontalHeader()->viewport();
+      const QPoint where(m_view->columnViewportPosition(1) + 9, 9);
+      QContextMenuEvent event(QContextMenuEvent::Mouse, where, headings->mapToGlobal(where));
+      QApplication::sendEvent(headings, &event);
+    }
+    auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    if (input == Input::keys) {
+      QTest::keyClick(menu, Qt::Key_D);
+    } else {
+      QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(menu->actions()[0]).center());
+    }
+    EXPECT_EQ(Column(1), (input == Input::keys ? Words{"100", "12", "7", ""} : Words{"7", "12", "100", ""}));
+  }
 }
 
 // Whatever the order, a position is the record's.
@@ -313,9 +325,17 @@ TEST_F(TableTest, MarksAreIconTipAndWord) {
   const MarkKey name{.place = MarkPlace::kName, .student = 1};
   const MarkKey title{.place = MarkPlace::kTitle, .assignment = 0};
   const MarkKey points{.place = MarkPlace::kPoints, .student = 2, .assignment = 0};
+  const auto seen = [](QWidget* widget) { return widget->grab().toImage(); };
+  QWidget* const headings = m_view->horizontalHeader()->viewport();
+  Scroll(m_view->columnWidth(0));
+  const QImage plainHeadings = seen(headings);
+  const QImage plainCells = seen(m_view->viewport());
   m_table.SetMarks({{name, {Consequence::kWrong, QStringLiteral("<b>Two</b> ").repeated(9)}},
                     {title, {Consequence::kLost, QStringLiteral("Gone")}},
                     {points, {Consequence::kNote, QStringLiteral("Erases")}}});
+  EXPECT_NE(seen(headings), plainHeadings);
+  EXPECT_NE(seen(m_view->viewport()), plainCells);
+  Scroll(0);
   ClickHeading(1);
   const auto cell = [this](int row, int column, int role) { return Cell(row, column).data(role); };
   EXPECT_TRUE(cell(0, 0, Qt::AccessibleTextRole)

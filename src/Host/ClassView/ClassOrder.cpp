@@ -90,7 +90,7 @@ bool ClassOrder::lessThan(const QModelIndex& left, const QModelIndex& right) con
 }
 
 QVariant ClassOrder::headerData(int section, Qt::Orientation orientation, int role) const {
-  const QVariant data = QSortFilterProxyModel::headerData(section, orientation, role);
+  QVariant data = QSortFilterProxyModel::headerData(section, orientation, role);
   if (orientation != Qt::Horizontal || role != Qt::AccessibleTextRole) return data;
   if (section < 0 || section != sortColumn()) return data;
   return (sortOrder() == Qt::AscendingOrder ? Texts::tr("%1, sorted ascending")

@@ -162,6 +162,14 @@ void ClassTable::LimitNames() {
   const int limit = m_isNameWidthSet ? width() * 2 / 3 : width() / 3;
   const int least = m_view->fontMetrics().height() * 4;
   m_view->setColumnWidth(ClassTableModel::kNameColumn, std::min(m_nameWidth, std::max(limit, least)));
+  FitView();
+}
+
+// No wider than the names, beside which a note stands.
+void ClassTable::FitView() {
+  const int width = m_view->verticalHeader()->sizeHint().width() + m_view->horizontalHeader()->length() +
+                    m_view->verticalScrollBar()->sizeHint().width() + 2 * m_view->frameWidth();
+  m_view->setMaximumWidth(m_note->isHidden() ? QWIDGETSIZE_MAX : width);
 }
 
 // In place of the grid, or beside the names.

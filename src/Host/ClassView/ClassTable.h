@@ -67,6 +67,7 @@ class ClassTable : public QWidget {
   void FitColumns();
   void WidenColumns();
   void LimitNames();
+  void FitView();
   void ShowNote();
 
   void ShowOrder(int column, Qt::SortOrder order);

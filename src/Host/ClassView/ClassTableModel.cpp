@@ -31,7 +31,7 @@ QString _Shortened(const QString& name) {
 
 // What the desktop would take for markup, and what is long, is written as markup, whose lines it breaks.
 QString _Tip(const QStringList& lines) {
-  const QString plain = lines.join(u'\n');
+  QString plain = lines.join(u'\n');
   const bool isLong =
       std::any_of(lines.begin(), lines.end(), [](const QString& line) { return line.size() > kMaxTipLine; });
   if (!isLong && !Qt::mightBeRichText(plain)) return plain;

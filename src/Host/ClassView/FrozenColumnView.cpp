@@ -79,7 +79,9 @@ void FrozenColumnHeader::initStyleOptionForIndex(QStyleOptionHeader* option, int
 }
 
 void FrozenColumnHeader::paintSection(QPainter* painter, const QRect& rect, int section) const {
+  painter->save();
   QHeaderView::paintSection(painter, rect, section);
+  painter->restore();  // the style leaves a clip that lets nothing through
   const auto icon = model()->headerData(section, orientation(), Qt::DecorationRole).value<QIcon>();
   if (icon.isNull()) return;
   QStyleOptionHeader option;

@@ -3,7 +3,7 @@
 #define GRADIX_TEXTSEARCH_H
 
 #include <QString>
-#include <compare>
+#include <tuple>
 #include <vector>
 
 class QAbstractItemModel;
@@ -17,7 +17,9 @@ struct TablePlace {
   int row = kHeading;
   int column = 0;
 
-  auto operator<=>(const TablePlace&) const = default;
+  bool operator<(const TablePlace& other) const {
+    return std::tie(row, column) < std::tie(other.row, other.column);
+  }
 };
 
 // Without regard to case and accents.

@@ -1463,7 +1463,7 @@ Descargue otra vez el libro de calificaciones y no lo guarde antes con una hoja 
     </message>
     <message>
         <source>&amp;Previous</source>
-        <translation>&amp;Anterior</translation>
+        <translation>An&amp;terior</translation>
     </message>
     <message>
         <source>&amp;Next</source>

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "Host/App/Choices.h"
 #include "Host/Fill/FillWindow.h"
 #include "Host/Findings/BeforeDialog.h"
 #include "Host/Preview/ExportWindow.h"
@@ -52,7 +53,7 @@ void ExportWays::ThroughDialog(const ExportFormat& format, size_t assignment) {
   m_handlers.formatUsed(*row);
   TellBeforeDialog(m_window, *m_class, *row, {.openDialog = openDialog, .exportHere = [this, row] {
                                                 OpenExportWindow({.format = row,
-                                                                  .identifier = row->defaultUserIDField,
+                                                                  .identifier = FieldOf(*row),
                                                                   .dialect = Dialect::kClassic});
                                               }});
 }

@@ -163,7 +163,7 @@ También puede arrastrarlo a esta ventana.</translation>
     </message>
     <message>
         <source>&amp;System:</source>
-        <translation>&amp;Plataforma:</translation>
+        <translation>P&amp;lataforma:</translation>
     </message>
     <message>
         <source>Classic file</source>

@@ -5,6 +5,8 @@
 #include <unistd.h>
 
 #include <QElapsedTimer>
+#include <QPushButton>
+#include <QStatusBar>
 #include <algorithm>
 #include <chrono>
 #include <csignal>
@@ -15,6 +17,7 @@
 #include "Host/ClassView/ClassLoader.h"
 #include "Host/ClassView/ReadFaultText.h"
 #include "Host/Window/ClassWatcher.h"
+#include "Host/Window/MainWindow.h"
 #include "tests/host/HostFixture.h"
 
 namespace host {
@@ -187,6 +190,26 @@ TEST_F(LoaderTest, ACancelledReadGivesNoClassEvenIfItCameInTime) {
   loader.Cancel();
   EXPECT_TRUE(QTest::qWaitFor([&result] { return result.has_value(); }, kPatience));
   EXPECT_TRUE(result && result->cancelled && result->openClass == nullptr);
+}
+
+// Of a pipe without a writer there is never anything to read.
+TEST_F(LoaderTest, EscapeOrTheButtonCancelsInTheWindow) {
+  ASSERT_EQ(::mkfifo(QFile::encodeName(PathOf("pipe")).constData(), 0600), 0);
+  MainWindow window;
+  window.show();
+  auto* const cancel = window.findChild<QPushButton*>(QStringLiteral("cancelReading"));
+  for (const Input input : {Input::keys, Input::mouse}) {
+    window.OpenFile(PathOf("pipe"));
+    ASSERT_TRUE(QTest::qWaitFor([cancel] { return cancel->isVisible(); }));
+    if (input == Input::keys) {
+      QTest::keyClick(&window, Qt::Key_Escape);
+    } else {
+      gestures::Click(cancel);
+    }
+    EXPECT_TRUE(QTest::qWaitFor([cancel] { return !cancel->isVisible(); }));
+    EXPECT_EQ(window.statusBar()->currentMessage(), QStringLiteral("Nothing was opened"));
+    EXPECT_EQ(FindWindow("message"), nullptr);
+  }
 }
 
 class WatcherTest : public LoaderTest {

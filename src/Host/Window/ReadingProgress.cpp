@@ -26,7 +26,6 @@ ReadingProgress::ReadingProgress(QWidget* parent, std::function<void()> cancel)
   m_bar->setMaximumWidth(fontMetrics().height() * 10);
   m_bar->setTextVisible(false);
   m_cancel->setObjectName(QStringLiteral("cancelReading"));
-  m_cancel->setShortcut(Qt::Key_Escape);
   auto* const layout = new QHBoxLayout(this);
   layout->setContentsMargins({});
   layout->addWidget(m_text);
@@ -44,13 +43,14 @@ void ReadingProgress::Begin(const QString& name) {
   m_bar->setAccessibleName(m_text->text());
   m_bar->setRange(0, 0);
   m_cancel->setText(Texts::tr("Cancel"));
+  m_cancel->setShortcut(Qt::Key_Escape);  // a text takes the shortcut away
   m_delay.start();
 }
 
 void ReadingProgress::Show(qint64 read, qint64 size) {
-  if (size < 1) return;
-  m_bar->setRange(0, kSteps);
-  m_bar->setValue(static_cast<int>(static_cast<double>(read) / static_cast<double>(size) * kSteps));
+  m_bar->setRange(0, size > 0 ? kSteps : 0);
+  if (size > 0)
+    m_bar->setValue(static_cast<int>(static_cast<double>(read) / static_cast<double>(size) * kSteps));
 }
 
 void ReadingProgress::End() {

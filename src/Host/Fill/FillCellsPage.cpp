@@ -94,13 +94,13 @@ void FillCellsPage::FitColumns() {
 }
 
 void FillCellsPage::ShowCounts() {
-  constexpr const char* kTexts[] = {QT_TRANSLATE_NOOP("Texts", "A&ll (%1)"),
-                                    QT_TRANSLATE_NOOP("Texts", "C&hanges only (%1)"),
-                                    QT_TRANSLATE_NOOP("Texts", "&Problems only (%1)")};
-  for (size_t i = 0; i < m_filters.size(); ++i) {
-    const size_t count = m_model.Count(static_cast<FillFilter>(i));
-    m_filters[i]->setText(Texts::tr(kTexts[i]).arg(QLocale().toString(qulonglong{count})));
-  }
+  const auto show = [this](FillFilter filter, const QString& text) {
+    m_filters[static_cast<size_t>(filter)]->setText(
+        text.arg(QLocale().toString(qulonglong{m_model.Count(filter)})));
+  };
+  show(FillFilter::kAll, Texts::tr("A&ll (%1)"));
+  show(FillFilter::kChanges, Texts::tr("C&hanges only (%1)"));
+  show(FillFilter::kProblems, Texts::tr("&Problems only (%1)"));
 }
 
 void FillCellsPage::Retranslate() {

@@ -20,7 +20,7 @@
 
 namespace host {
 
-FillChoicesPanel::FillChoicesPanel(QWidget* parent, std::function<void()> changed)
+FillChoicesPanel::FillChoicesPanel(QWidget* parent, const std::function<void()>& changed)
     : QWidget(parent),
       m_fieldLabel(new QLabel(this)),
       m_field(new QComboBox(this)),

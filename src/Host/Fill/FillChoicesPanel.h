@@ -21,7 +21,7 @@ class AssignmentPicker;
 class FillChoicesPanel : public QWidget {
  public:
   // `changed` is called when the user has chosen anything else.
-  FillChoicesPanel(QWidget* parent, std::function<void()> changed);
+  FillChoicesPanel(QWidget* parent, const std::function<void()>& changed);
 
   // Offers the class's assignments; see AssignmentPicker.
   void SetClass(std::shared_ptr<const OpenClass> openClass);

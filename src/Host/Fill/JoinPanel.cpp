@@ -23,7 +23,7 @@ QListWidget* _List(QWidget* parent, const QString& name) {
   list->setAlternatingRowColors(true);
   list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   list->setResizeMode(QListView::Adjust);
-  list->setMinimumSize(parent->fontMetrics().height() * 8, parent->fontMetrics().height() * 4);
+  list->setMinimumSize(parent->fontMetrics().height() * 6, parent->fontMetrics().height() * 3);
   return list;
 }
 

@@ -1014,11 +1014,11 @@ Open it by hand in a browser, here or on another computer.</source>
     </message>
     <message>
         <source>C&amp;hanges only (%1)</source>
-        <translation>Solo &amp;cambios (%1)</translation>
+        <translation>&amp;Cambios (%1)</translation>
     </message>
     <message>
         <source>&amp;Problems only (%1)</source>
-        <translation>Solo &amp;problemas (%1)</translation>
+        <translation>&amp;Problemas (%1)</translation>
     </message>
     <message>
         <source>Loo&amp;k for:</source>
@@ -1030,7 +1030,7 @@ Open it by hand in a browser, here or on another computer.</source>
     </message>
     <message>
         <source>%1: %2 found</source>
-        <translation>%1: %2 encontrados</translation>
+        <translation>%1: halla %2</translation>
     </message>
     <message>
         <source>In this field nobody has an identifier that stands in the gradebook.</source>
@@ -1184,7 +1184,7 @@ falla el identificador</translation>
     </message>
     <message>
         <source>left out (no number)</source>
-        <translation>omitido (no es un número)</translation>
+        <translation>omitido (no es número)</translation>
     </message>
     <message>
         <source>The gradebook has no result there yet.</source>
@@ -1367,11 +1367,11 @@ Descargue otra vez el libro de calificaciones y no lo guarde antes con una hoja 
     </message>
     <message>
         <source>%1 gradebook “%2”. Students: %3, columns to fill: %4.</source>
-        <translation>Libro de calificaciones de %1 «%2». Estudiantes: %3, columnas que se pueden rellenar: %4.</translation>
+        <translation>Libro de calificaciones de %1 «%2». Estudiantes: %3, columnas: %4.</translation>
     </message>
     <message>
         <source>Found of the class: %1 of %2 students, %3 of %4 assignments.</source>
-        <translation>De la clase se encontraron %1 de %2 estudiantes y %3 de %4 tareas.</translation>
+        <translation>Hallados de la clase: %1 de %2 estudiantes, %3 de %4 tareas.</translation>
     </message>
     <message>
         <source>&amp;Results (%1)</source>

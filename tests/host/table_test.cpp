@@ -304,9 +304,9 @@ TEST_F(TableTest, SearchGoesRound) {
   } rows[] = {
       {[this] { gestures::Type(&m_table, Qt::Key_Return); }, 1},
       {[this] { gestures::Type(&m_table, Qt::Key_F3); }, 1},
-      {[this] { ClickButton(&m_table, "&Next"); }, 1},
+      {[this] { ClickButton(&m_table, "Ne&xt"); }, 1},
       {[this] { gestures::Type(&m_table, Qt::Key_F3, Qt::ShiftModifier); }, -1},
-      {[this] { ClickButton(&m_table, "&Previous"); }, -1},
+      {[this] { ClickButton(&m_table, "Previ&ous"); }, -1},
       {[this] { gestures::Type(&m_table, Qt::Key_Return, Qt::ShiftModifier); }, -1},
   };
   for (const auto& row : rows) {

@@ -93,10 +93,10 @@ void FindBar::changeEvent(QEvent* event) {
 }
 
 void FindBar::Retranslate() {
-  m_label->setText(Texts::tr("F&ind:"));
+  m_label->setText(Texts::tr("Fi&nd:"));
   m_field->setPlaceholderText(Texts::tr("Name, identifier or title"));
-  m_previous->setText(Texts::tr("&Previous"));
-  m_next->setText(Texts::tr("&Next"));
+  m_previous->setText(Texts::tr("Previ&ous"));
+  m_next->setText(Texts::tr("Ne&xt"));
   m_close->setToolTip(Texts::tr("Close the search"));
   m_close->setAccessibleName(Texts::tr("Close the search"));
   ShowResult(m_which, m_count);

@@ -1454,20 +1454,8 @@ Descargue otra vez el libro de calificaciones y no lo guarde antes con una hoja 
         <translation>No se encontró</translation>
     </message>
     <message>
-        <source>F&amp;ind:</source>
-        <translation>&amp;Buscar:</translation>
-    </message>
-    <message>
         <source>Name, identifier or title</source>
         <translation>Nombre, identificador o título</translation>
-    </message>
-    <message>
-        <source>&amp;Previous</source>
-        <translation>An&amp;terior</translation>
-    </message>
-    <message>
-        <source>&amp;Next</source>
-        <translation>&amp;Siguiente</translation>
     </message>
     <message>
         <source>Close the search</source>
@@ -1790,6 +1778,18 @@ Descargue otra vez el libro de calificaciones y no lo guarde antes con una hoja 
     <message>
         <source>Take the file as it is: a spreadsheet program that saves it may change it.</source>
         <translation>Tome el archivo tal como está: un programa de hojas de cálculo que lo guarde puede cambiarlo.</translation>
+    </message>
+    <message>
+        <source>Fi&amp;nd:</source>
+        <translation>&amp;Buscar:</translation>
+    </message>
+    <message>
+        <source>Previ&amp;ous</source>
+        <translation>A&amp;nterior</translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt</source>
+        <translation>Si&amp;guiente</translation>
     </message>
 </context>
 </TS>

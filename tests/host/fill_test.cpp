@@ -247,6 +247,9 @@ TEST_F(FillTest, ProposesTheFieldThatFindsTheMost) {
   auto* const field = Find<QComboBox>("field");
   EXPECT_EQ(field->currentText(), QStringLiteral("Student ID: 2 found"));
   EXPECT_NE(Text("fieldHint").find("First name finds nobody"), std::string::npos) << Text("fieldHint");
+  gestures::Click(Find("matchNames"));
+  EXPECT_NE(Text("recognised").find("3 of 8 students"), std::string::npos) << Text("recognised");
+  QTest::keyClick(Find("matchNames"), Qt::Key_Space);
   field->setFocus();
   QTest::keyClick(field, Qt::Key_Down);
   EXPECT_EQ(field->currentText(), QStringLiteral("Student alias: 1 found"));

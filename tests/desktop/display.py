@@ -32,7 +32,7 @@ class X11:
         read, write = os.pipe()
         self.server = subprocess.Popen(
             [*ENDS_WITH_US, "Xvfb", "-displayfd", str(write), "-screen", "0", f"{WIDTH}x{HEIGHT + MARGIN}x24",
-             "-nolisten", "tcp", "-r"],
+             "-nolisten", "tcp", "-r", "-noreset"],  # a reset, after the last one leaves, refuses who comes
             pass_fds=[write], stderr=subprocess.DEVNULL)
         os.close(write)
         self.folder = tempfile.TemporaryDirectory()

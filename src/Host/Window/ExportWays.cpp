@@ -51,11 +51,11 @@ void ExportWays::ThroughDialog(const ExportFormat& format, size_t assignment) {
     return;
   }
   m_handlers.formatUsed(*row);
-  TellBeforeDialog(m_window, *m_class, *row, {.openDialog = openDialog, .exportHere = [this, row] {
-                                                OpenExportWindow({.format = row,
-                                                                  .identifier = FieldOf(*row),
-                                                                  .dialect = Dialect::kClassic});
-                                              }});
+  TellBeforeDialog(
+      m_window, *m_class, *row,
+      {.openDialog = openDialog, .exportHere = [this, row] {
+         OpenExportWindow({.format = row, .identifier = FieldOf(*row), .dialect = Dialect::kClassic});
+       }});
 }
 
 void ExportWays::FromHere(const FormatRow& format, qz::UserIDField identifier) {

@@ -100,9 +100,10 @@ TEST_F(ExportPickerTest, OffersWhatWasUsedLastFirstAndRemembersItsField) {
   EXPECT_EQ(m_changes, 4);
 
   Make();
-  EXPECT_EQ(_Names(Combo("format")),
-            "Blackboard 6.0 - 7.0|Canvas|Moodle 3.1.2|Blackboard Learn 9.1|Brightspace by D2L|Schoology|Sakai||"
-            "Blackboard 8.0 - 9.0|ANGEL|WebCT Vista");
+  EXPECT_EQ(
+      _Names(Combo("format")),
+      "Blackboard 6.0 - 7.0|Canvas|Moodle 3.1.2|Blackboard Learn 9.1|Brightspace by D2L|Schoology|Sakai||"
+      "Blackboard 8.0 - 9.0|ANGEL|WebCT Vista");
   EXPECT_EQ(m_picker->Format().key, std::string("blackboard6"));
   EXPECT_EQ(Combo("field")->currentText(), QStringLiteral("Last name"));
 

@@ -82,11 +82,11 @@ class X11:
     def wait_for_window(self, title):
         """Waits until a window with that in its title has the keyboard."""
         def has_keyboard():
-            self._hand_keyboard_on(title)
+            self.hand_keyboard_on(title)
             return title in self.active_title()
         wait_for(has_keyboard, f"the window {title}")
 
-    def _hand_keyboard_on(self, title):
+    def hand_keyboard_on(self, title):
         """As a window manager does when the window with the keyboard goes."""
         if self.active_window() is None:
             self.xdotool("search", "--onlyvisible", "--name", title, "windowfocus")
@@ -230,7 +230,7 @@ class Wayland(X11):
     def active_title(self):
         return self.titles.get(self.active_window(), "")
 
-    def _hand_keyboard_on(self, title):
+    def hand_keyboard_on(self, title):
         pass  # the compositor does
 
     def _move_in_window(self):

@@ -47,8 +47,9 @@ class ScreenReader:
             raise
 
     def window(self, title):
+        """By the beginning of its title."""
         def find():
-            return next((window for window in self.program if window and window.name == title), None)
+            return next((window for window in self.program if window and window.name.startswith(title)), None)
         return wait_for(find, f"the window {title}")
 
     @staticmethod

@@ -27,6 +27,12 @@ QListWidget* _List(QWidget* parent, const QString& name) {
   return list;
 }
 
+// A buddy does not name a list to assistive technology.
+void _Name(QLabel* label, QListWidget* list, const QString& text) {
+  label->setText(text);
+  list->setAccessibleName(QString(text).remove(u'&').remove(u':'));
+}
+
 // The row that was current stays it, as far as there is one.
 void _Fill(QListWidget* list, const std::vector<JoinEntry>& entries) {
   const int row = list->currentRow();
@@ -102,8 +108,8 @@ JoinPanel::JoinPanel(QWidget* parent, const QString& name, Handlers handlers)
 
 void JoinPanel::Show(const std::vector<JoinEntry>& ours, const std::vector<JoinEntry>& theirs,
                      const JoinTexts& texts) {
-  m_oursLabel->setText(texts.ours);
-  m_theirsLabel->setText(texts.theirs);
+  _Name(m_oursLabel, m_ours, texts.ours);
+  _Name(m_theirsLabel, m_theirs, texts.theirs);
   m_join->setText(texts.join);
   m_undo->setText(texts.undo);
   _Fill(m_ours, ours);

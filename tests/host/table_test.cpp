@@ -246,6 +246,16 @@ TEST_F(TableTest, NamesStayWhileTheOthersScroll) {
   }
 }
 
+TEST_F(TableTest, BeginsAtItsLeftEdge) {
+  ClassTable table(nullptr, {});
+  table.SetClass(SmallClass());
+  table.SelectAssignment(0);
+  table.resize(m_table.size());
+  table.show();
+  EXPECT_TRUE(QTest::qWaitForWindowExposed(&table));
+  EXPECT_EQ(table.findChild<QTableView*>()->horizontalScrollBar()->value(), 0);
+}
+
 TEST_F(TableTest, NamesAreLimitedInWidth) {
   auto open = SmallClass();
   open->record.students[0].lastName = std::string(200, 'x');

@@ -245,12 +245,17 @@ void ClassTable::CurrentChanged(const QModelIndex& current) {
   if (m_selected) m_selected(current.column() - ClassTableModel::kFirstAssignmentColumn);
 }
 
+// Before it is shown it has not its size; it then scrolls to the current cell by itself.
+void ClassTable::ScrollTo(const QModelIndex& index) {
+  if (m_view->isVisible()) m_view->scrollTo(index);
+}
+
 void ClassTable::SelectColumn(int column) {
   const QModelIndex index = m_order.index(std::max(m_view->currentIndex().row(), 0), column);
   if (!index.isValid()) return;
   m_view->selectionModel()->setCurrentIndex(
       index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Columns);
-  m_view->scrollTo(index);
+  ScrollTo(index);
 }
 
 void ClassTable::SelectAssignment(int assignment) {
@@ -293,7 +298,7 @@ void ClassTable::SelectPlaces(const std::vector<FindingPlace>& places) {
   const QModelIndex index = m_order.mapFromSource(m_model.index(cell.student, cell.column));
   m_view->selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
   m_view->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
-  m_view->scrollTo(index);
+  ScrollTo(index);
 }
 
 void ClassTable::Find() {

@@ -75,6 +75,7 @@ class ClassTable : public QWidget {
   Current CurrentCell() const;
   void MakeCurrent(Current cell);
   void CurrentChanged(const QModelIndex& current);
+  void ScrollTo(const QModelIndex& index);
   void SelectColumn(int column);
   QItemSelection SelectionOf(const std::vector<FindingPlace>& places) const;
 

@@ -18,7 +18,6 @@
 #include "Host/ClassView/ClassLoader.h"
 #include "Host/ClassView/ClassTable.h"
 #include "Host/Fill/FillWindow.h"
-#include "Host/Findings/CheckWindow.h"
 #include "Host/Findings/FieldsPanel.h"
 #include "Host/Findings/ReadinessPanel.h"
 #include "Host/Preview/ExportWindow.h"
@@ -193,8 +192,6 @@ class Tour {
   void OpenWindows() {
     QWidget parent;
     const host::ExportStart start{.format = FindFormat("canvas"), .assignments = {}};
-    Step("check window: open",
-         [&] { (new host::CheckWindow(&parent, m_class, [](const auto&) {}))->show(); });
     host::ExportWindow* exporter = nullptr;
     Step("export window: open", [&] {
       exporter = new host::ExportWindow(&parent, m_class, start, {[](const auto&) {}, [](const auto&) {}});

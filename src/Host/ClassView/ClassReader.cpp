@@ -24,6 +24,7 @@ std::shared_ptr<const OpenClass> _Opened(const QString& path, const FileStamp& s
   if (openClass->name.isEmpty()) openClass->name = QFileInfo(path).completeBaseName();
   openClass->record = std::move(file->record);
   openClass->originals = std::move(file->originals);
+  openClass->replacedCharacters = file->replacedCharacters;
   std::vector<const qz::AssignmentRecord*> assignments;
   for (const qz::AssignmentRecord& assignment : openClass->record.assignments) {
     assignments.push_back(&assignment);

@@ -3,6 +3,7 @@
 #define GRADIX_CLASSREADER_H
 
 #include <QString>
+#include <cstdint>
 #include <memory>
 
 #include "Common/QZData/QZClass.h"
@@ -22,6 +23,7 @@ struct OpenClass {
   QString name;     // the class's; the file's base name when it has none
   qz::ClassRecord record;
   qz::OriginalTexts originals;
+  uint64_t replacedCharacters = 0;  // that the record's texts have as "?"
   ScoreTable scores;  // on all assignments
 
   qz::ClassTexts Texts() const { return {record, originals}; }

@@ -24,10 +24,6 @@ namespace {
 constexpr int kCurrentFile = 1;  // rows of the boxes
 constexpr int kSemicolon = 1;
 
-void _Add(const FormatRow& format, QComboBox* combo) {
-  if (!format.IsReport()) combo->addItem(ShortFormatName(QString::fromUtf8(format.name)), format.index);
-}
-
 // Fills a box again: the row that was chosen, or the first one, stays.
 void _SetTexts(const QStringList& texts, QComboBox* combo) {
   const QSignalBlocker blocker(combo);
@@ -39,9 +35,10 @@ void _SetTexts(const QStringList& texts, QComboBox* combo) {
 
 }  // namespace
 
-ExportPicker::ExportPicker(QWidget* parent, std::function<void()> changed)
+ExportPicker::ExportPicker(QWidget* parent, std::function<void()> changed, Purpose purpose)
     : QWidget(parent),
       m_changed(std::move(changed)),
+      m_purpose(purpose),
       m_layout(new QFormLayout(this)),
       m_formatLabel(new QLabel(this)),
       m_format(new QComboBox(this)),
@@ -84,11 +81,16 @@ void ExportPicker::AddRow(QLabel* label, QComboBox* combo, const char* name) {
   m_layout->addRow(label, combo);
 }
 
+void ExportPicker::Add(const FormatRow& format) {
+  if (format.IsReport() && m_purpose == Purpose::kReadiness) return;
+  m_format->addItem(ShortFormatName(QString::fromUtf8(format.name)), format.index);
+}
+
 void ExportPicker::AddFormats() {
   const FormatOrder order = FormatsInTeachersOrder();
-  for (const FormatRow* format : order.inUse) _Add(*format, m_format);
+  for (const FormatRow* format : order.inUse) Add(*format);
   m_format->insertSeparator(m_format->count());
-  for (const FormatRow* format : order.retired) _Add(*format, m_format);
+  for (const FormatRow* format : order.retired) Add(*format);
 }
 
 void ExportPicker::SetClass(std::shared_ptr<const OpenClass> openClass) {
@@ -164,13 +166,23 @@ void ExportPicker::ShowFields() {
 
 void ExportPicker::ShowFiles() {
   const bool hasCurrent = FindCurrentFile(Format()) != nullptr;
+  m_layout->setRowVisible(m_field, !Format().IsReport());
   m_layout->setRowVisible(m_dialect, hasCurrent);
   m_layout->setRowVisible(m_dialectHint, hasCurrent);
   m_layout->setRowVisible(m_delimiter, TakesSemicolons());
-  m_dialectHint->setText(ChosenDialect() == Dialect::kCurrent
-                             ? Texts::tr("For today's %1. This program writes it, without the export window.")
-                                   .arg(QString::fromUtf8(SystemOf(Format()).name))
-                             : Texts::tr("The file that the export window writes."));
+  m_dialectHint->setText(DialectHint());
+}
+
+QString ExportPicker::DialectHint() const {
+  const QString system = QString::fromUtf8(SystemOf(Format()).name);
+  const bool isCurrent = ChosenDialect() == Dialect::kCurrent;
+  if (Format().IsReport())
+    return isCurrent ? Texts::tr("For today's spreadsheets.")
+                     : Texts::tr("The file that the export window writes.");
+  if (!isCurrent) return Texts::tr("The file that the export window writes.");
+  return m_purpose == Purpose::kOwnExport
+             ? Texts::tr("For today's %1.").arg(system)
+             : Texts::tr("For today's %1. This program writes it, without the export window.").arg(system);
 }
 
 void ExportPicker::changeEvent(QEvent* event) {

@@ -16,12 +16,17 @@ class QLabel;
 
 namespace host {
 
-// Begins with the format used last. Remembers the format, and for each format its field. The detailed report
-// is not offered: no learning system reads it, and its dialog decides what is in it.
+// Begins with the format used last. Remembers the format, and for each format its field.
 class ExportPicker : public QWidget {
  public:
+  enum class Purpose : uint8_t {
+    kReadiness,  // without the detailed report: no learning system reads it, and its dialog decides what is
+                 // in it
+    kOwnExport,  // every format that this program writes
+  };
+
   // `changed` is called after any other choice, whoever made it.
-  ExportPicker(QWidget* parent, std::function<void()> changed);
+  ExportPicker(QWidget* parent, std::function<void()> changed, Purpose purpose = Purpose::kReadiness);
 
   // Names the custom fields; the choices stay. Never null. Does not call `changed`.
   void SetClass(std::shared_ptr<const OpenClass> openClass);
@@ -31,7 +36,7 @@ class ExportPicker : public QWidget {
   Dialect ChosenDialect() const;
   char Delimiter() const;  // a comma where the file takes nothing else
 
-  // Chooses the format with its remembered or proposed field. The report is ignored.
+  // Chooses the format with its remembered or proposed field. What is not offered is ignored.
   void ChooseFormat(const FormatRow& format);
   void ChooseIdentifier(qz::UserIDField field);
   void ChooseDialect(Dialect dialect);
@@ -45,14 +50,17 @@ class ExportPicker : public QWidget {
  private:
   void AddRow(QLabel* label, QComboBox* combo, const char* name);
   void AddFormats();
+  void Add(const FormatRow& format);
   void FormatChosen();
   void FieldChosen();
   void Retranslate();
   void ShowFields();
   void ShowFiles();
   bool TakesSemicolons() const;
+  QString DialectHint() const;
 
   std::function<void()> m_changed;
+  Purpose m_purpose;
   std::shared_ptr<const OpenClass> m_class;
   const FormatRow* m_chosenFormat;
   qz::UserIDField m_chosenField;

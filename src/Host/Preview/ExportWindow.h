@@ -3,21 +3,31 @@
 #ifndef GRADIX_EXPORTWINDOW_H
 #define GRADIX_EXPORTWINDOW_H
 
+#include <QTimer>
 #include <QWidget>
 #include <functional>
 #include <memory>
 #include <vector>
 
 #include "Host/ClassView/ClassReader.h"
+#include "Host/Preview/PreparedExport.h"
 #include "Host/Result/ExportedFile.h"
 #include "Systems/ExportSubject.h"
 #include "Systems/Finding.h"
 
+class QLabel;
+class QPushButton;
+
 namespace host {
+
+class AssignmentPicker;
+class ExportPicker;
+class FilePreview;
+class FindingsView;
 
 // What the user chose before.
 struct ExportStart {
-  const FormatRow* format = nullptr;
+  const FormatRow* format = nullptr;  // null: the one used last
   qz::UserIDField identifier = qz::kUserIDAlias;
   Dialect dialect = Dialect::kCurrent;   // classic where the format has no current file
   std::vector<size_t> assignments = {};  // positions; empty: all
@@ -41,7 +51,37 @@ class ExportWindow : public QWidget {
   void changeEvent(QEvent* event) override;
 
  private:
+  QWidget* MakeChoices();
+  QLayout* MakeButtons();
+  void Begin(const ExportStart& start);
   void Retranslate();
+
+  OwnExportChoices Choices() const;
+  void Changed();
+  void Prepare();
+  void ShowFindings();
+  void ShowObstacle();
+  void ShowPreview();
+
+  void Save();
+  bool MayShareIdentifiers();
+
+  std::shared_ptr<const OpenClass> m_class;
+  Handlers m_handlers;
+  QTimer m_prepareSoon;                        // several changes of one event are one
+  QTimer m_previewSoon;                        // after the findings are painted
+  std::shared_ptr<PreparedExport> m_prepared;  // null: not yet, or without memory
+
+  ExportPicker* m_picker;
+  AssignmentPicker* m_assignments;
+  QLabel* m_reportHint;
+  FilePreview* m_preview;
+  FindingsView* m_findings;
+  QWidget* m_obstacle;
+  QLabel* m_obstacleText;
+  QPushButton* m_help;
+  QPushButton* m_save;
+  QPushButton* m_close;
 };
 
 }  // namespace host

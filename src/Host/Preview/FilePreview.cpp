@@ -63,6 +63,7 @@ FilePreview::FilePreview(QWidget* parent)
       m_cut(_MakeLabel(this, "fileCut")),
       m_factsText(_MakeLabel(this, "fileFacts")) {
   setObjectName(QStringLiteral("filePreview"));
+  m_pages->setObjectName(QStringLiteral("filePages"));
   MakeTable();
   MakeText();
   m_pages->addTab(m_table, QString());

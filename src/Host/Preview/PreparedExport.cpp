@@ -36,8 +36,31 @@ class MemoryStream {
   std::FILE* m_stream;
 };
 
-ExportSubject _SubjectOf(const OpenClass& openClass, const OwnExportChoices& chosen) {
+// A current file is written from the class itself, but for the report, whose own choices are in its record.
+bool _NeedsSession(const ExportChoices& choices) {
+  return choices.dialect == Dialect::kClassic || choices.format->IsReport();
+}
+
+// The assignments by position: several may have one id.
+std::unique_ptr<Session> _SessionOf(const OpenClass& openClass, const OwnExportChoices& chosen) {
+  if (!_NeedsSession(chosen.choices)) return nullptr;
+  ExportChoices choices = chosen.choices;
+  choices.assignmentIDs.clear();
+  for (const size_t row : chosen.assignments) {
+    choices.assignmentIDs.push_back(openClass.record.assignments[row].id);
+  }
+  std::unique_ptr<Session> session = MakeSession(*choices.format);
+  *session->GetClass() = openClass.record;
+  Apply(choices, session.get());
+  SelectAssignments(session->GetClass(), [&chosen](size_t row, const qz::AssignmentRecord&) {
+    return std::ranges::binary_search(chosen.assignments, row);
+  });
+  return session;
+}
+
+ExportSubject _SubjectOf(const OpenClass& openClass, const Session* session, const OwnExportChoices& chosen) {
   const ExportChoices& choices = chosen.choices;
+  if (session != nullptr) return MakeExportSubject(choices, *session, openClass.originals);
   ExportSubject subject = MakeExportSubject(*choices.format, openClass.Texts(), choices.identifier,
                                             choices.dialect, chosen.assignments);
   subject.delimiter = choices.delimiter;
@@ -47,38 +70,16 @@ ExportSubject _SubjectOf(const OpenClass& openClass, const OwnExportChoices& cho
 
 }  // namespace
 
-bool OwnExportChoices::operator==(const OwnExportChoices& other) const {
-  const ExportChoices& a = choices;
-  const ExportChoices& b = other.choices;
-  return a.format == b.format && a.identifier == b.identifier && a.dialect == b.dialect &&
-         a.delimiter == b.delimiter && a.useQuotes == b.useQuotes && assignments == other.assignments;
-}
-
 PreparedExport::PreparedExport(std::shared_ptr<const OpenClass> openClass, OwnExportChoices choices)
     : m_class(std::move(openClass)),
       m_choices(std::move(choices)),
-      m_subject(_SubjectOf(*m_class, m_choices)),
+      m_session(_SessionOf(*m_class, m_choices)),
+      m_subject(_SubjectOf(*m_class, m_session.get(), m_choices)),
       m_found(CheckExport(m_subject)) {
   if (!m_subject.format->IsReport()) m_identifiers = CheckIdentifiers(m_subject);
   if (!CanWrite()) return;
-  if (m_subject.dialect == Dialect::kClassic) PrepareSession();
   MemoryStream memory;
   if (memory.Stream() != nullptr && WriteTo(memory.Stream()).error == 0) m_bytes = memory.Text();
-}
-
-// The assignments by position: several may have one id.
-void PreparedExport::PrepareSession() {
-  m_session = MakeSession(*m_subject.format);
-  *m_session->GetClass() = m_class->record;
-  ExportChoices choices = m_choices.choices;
-  choices.assignmentIDs.clear();
-  for (const size_t row : m_choices.assignments) {
-    choices.assignmentIDs.push_back(m_class->record.assignments[row].id);
-  }
-  Apply(choices, m_session.get());
-  SelectAssignments(m_session->GetClass(), [this](size_t row, const qz::AssignmentRecord&) {
-    return std::ranges::binary_search(m_choices.assignments, row);
-  });
 }
 
 bool PreparedExport::HasRefusedIdentifiers() const {
@@ -91,11 +92,13 @@ bool PreparedExport::CanWrite() const {
 }
 
 FileOutcome PreparedExport::WriteTo(std::FILE* stream) {
-  return m_session != nullptr ? WriteExport(m_session.get(), stream) : WriteCurrentExport(m_subject, stream);
+  const bool isClassic = m_subject.dialect == Dialect::kClassic;
+  return isClassic ? WriteExport(m_session.get(), stream) : WriteCurrentExport(m_subject, stream);
 }
 
 FileOutcome PreparedExport::Write(const std::string& path) {
-  return m_session != nullptr ? WriteExport(m_session.get(), path) : WriteCurrentExport(m_subject, path);
+  const bool isClassic = m_subject.dialect == Dialect::kClassic;
+  return isClassic ? WriteExport(m_session.get(), path) : WriteCurrentExport(m_subject, path);
 }
 
 }  // namespace host

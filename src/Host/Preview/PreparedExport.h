@@ -20,8 +20,6 @@ namespace host {
 struct OwnExportChoices {
   ExportChoices choices;
   std::vector<size_t> assignments;
-
-  bool operator==(const OwnExportChoices& other) const;
 };
 
 // Any thread, one at a time. Throws nothing but std::bad_alloc.
@@ -29,7 +27,7 @@ class PreparedExport {
  public:
   PreparedExport(std::shared_ptr<const OpenClass> openClass, OwnExportChoices choices);
 
-  const OpenClass& Class() const { return *m_class; }
+  const std::shared_ptr<const OpenClass>& Class() const { return m_class; }
   const OwnExportChoices& Choices() const { return m_choices; }
   const ExportSubject& Subject() const { return m_subject; }
   const Findings& Found() const { return m_found; }                     // worst first
@@ -48,15 +46,14 @@ class PreparedExport {
   FileOutcome Write(const std::string& path);
 
  private:
-  void PrepareSession();
   FileOutcome WriteTo(std::FILE* stream);
 
   std::shared_ptr<const OpenClass> m_class;
   OwnExportChoices m_choices;
+  std::unique_ptr<Session> m_session;  // has a copy of the class; null where the class itself will do
   ExportSubject m_subject;
   Findings m_found;
   IdentifierCheck m_identifiers;
-  std::unique_ptr<Session> m_session;  // of a classic file; has a copy of the class
   std::string m_bytes;
 };
 

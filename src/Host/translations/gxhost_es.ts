@@ -158,10 +158,6 @@ También puede arrastrarlo a esta ventana.</translation>
         <translation>%1 a %2: %3</translation>
     </message>
     <message>
-        <source>Check – %1</source>
-        <translation>Comprobar: %1</translation>
-    </message>
-    <message>
         <source>&amp;System:</source>
         <translation>P&amp;lataforma:</translation>
     </message>
@@ -520,7 +516,7 @@ Open it by hand in a browser, here or on another computer.</source>
     </message>
     <message>
         <source>&amp;Table</source>
-        <translation>&amp;Tabla</translation>
+        <translation>Ta&amp;bla</translation>
     </message>
     <message>
         <source>Te&amp;xt</source>
@@ -1006,7 +1002,7 @@ Open it by hand in a browser, here or on another computer.</source>
     </message>
     <message>
         <source>You may not save in the folder “%1”.</source>
-        <translation>No tiene permiso para guardar en la carpeta «%1».</translation>
+        <translation>No puede guardar en la carpeta «%1».</translation>
     </message>
     <message>
         <source>A&amp;ll (%1)</source>
@@ -1790,6 +1786,62 @@ Descargue otra vez el libro de calificaciones y no lo guarde antes con una hoja 
     <message>
         <source>Ne&amp;xt</source>
         <translation>Si&amp;guiente</translation>
+    </message>
+    <message>
+        <source>For today&apos;s spreadsheets.</source>
+        <translation>Para las hojas de cálculo de hoy.</translation>
+    </message>
+    <message>
+        <source>For today&apos;s %1.</source>
+        <translation>Para %1 tal como es hoy.</translation>
+    </message>
+    <message>
+        <source>Choose at least one assignment.</source>
+        <translation>Elija al menos una tarea.</translation>
+    </message>
+    <message>
+        <source>No student has an identifier in the chosen field.</source>
+        <translation>Ningún estudiante tiene un identificador en el campo elegido.</translation>
+    </message>
+    <message>
+        <source>Students share an identifier in the chosen field.</source>
+        <translation>Hay estudiantes que comparten un identificador en el campo elegido.</translation>
+    </message>
+    <message>
+        <source>&amp;What will happen</source>
+        <translation>&amp;Qué pasará</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this export.</source>
+        <translation>No hay memoria suficiente para esta exportación.</translation>
+    </message>
+    <message>
+        <source>Save asks whether you want that file.</source>
+        <translation>Al guardar se le preguntará si quiere ese archivo.</translation>
+    </message>
+    <message>
+        <source>There is no file to show.</source>
+        <translation>No hay ningún archivo que mostrar.</translation>
+    </message>
+    <message>
+        <source>Save File</source>
+        <translation>Guardar archivo</translation>
+    </message>
+    <message>
+        <source>Save All the Same…</source>
+        <translation>Guardar de todos modos…</translation>
+    </message>
+    <message>
+        <source>Export – %1</source>
+        <translation>Exportar – %1</translation>
+    </message>
+    <message>
+        <source>The report has the students&apos; first and last names, their IDs and their responses. The export dialog offers more.</source>
+        <translation>El informe tiene los nombres y apellidos de los estudiantes, sus identificadores y sus respuestas. El cuadro de exportación ofrece más.</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve…</source>
+        <translation>&amp;Guardar…</translation>
     </message>
 </context>
 </TS>

@@ -27,6 +27,10 @@ PANES = {
     "Assignment": {("combo box", "Assignment"): "Quiz 1: Cells"},
 }
 WINDOWS = [
+    (("Export", "Canvas", "Current File…"), "Export – ",
+     {("combo box", "Student field"): "Student ID", ("combo box", "Kind of file"): "Current file",
+      ("combo box", "Separator"): "Commas", ("check box", "All assignments"): "[x]",
+      ("list", "Assignments"): "[x] Quiz 1: Cells", ("button", "Save…"): ""}),
     (("Export", "Canvas", "Fill In a Downloaded Gradebook…"), "Fill In a Gradebook – Biology 9",
      {("button", "Choose a Download…"): "", ("button", "Save for Upload…"): "", ("button", "Close"): ""}),
     (("Export", "Canvas", "With the Export Window…"), "Export Assignment Results for Canvas",

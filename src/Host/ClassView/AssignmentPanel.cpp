@@ -4,6 +4,7 @@
 #include <QEvent>
 #include <QFormLayout>
 #include <QGroupBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
 #include <QScrollArea>
@@ -22,7 +23,7 @@ namespace host {
 
 namespace {
 
-constexpr int kComboLength = 16;  // letters that a title shows at least
+constexpr int kComboLength = 12;  // letters that a title shows at least
 
 constexpr const char* kCaptions[] = {
     QT_TRANSLATE_NOOP("Texts", "Students:"),       QT_TRANSLATE_NOOP("Texts", "Results:"),
@@ -49,9 +50,11 @@ AssignmentPanel::AssignmentPanel(QWidget* parent, std::function<void(int)> selec
   m_nothing->setWordWrap(true);
   AddFigures();
   auto* const contents = new QWidget;
+  auto* const choice = new QHBoxLayout;
+  choice->addWidget(m_label);
+  choice->addWidget(m_combo, 1);
   auto* const layout = new QVBoxLayout(contents);
-  layout->addWidget(m_label);
-  layout->addWidget(m_combo);
+  layout->addLayout(choice);
   layout->addWidget(m_nothing);
   layout->addWidget(m_group);
   layout->addWidget(m_histogram, 1);

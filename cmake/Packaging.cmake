@@ -19,7 +19,7 @@ set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION education)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# The help opens in a browser.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "xdg-utils, www-browser")
+# The help opens in a browser; Qt's own texts in Spanish.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "xdg-utils, www-browser, qt6-translations-l10n")
 
 include(CPack)

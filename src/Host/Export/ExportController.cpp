@@ -60,18 +60,22 @@ void ExportController::LoadFilter() {
   }
   m_formats = m_filter->Formats();
   if (m_formats.empty()) {
-    ShowMessage(m_window,
-                Texts::tr("The export filter offers no formats. Classes can be viewed, but not exported."),
-                Texts::tr("Its resource file is probably missing. Install Gradix again."));
+    ShowMessage(
+        m_window, Texts::tr("The export filter offers no formats, so there is no export window."),
+        Texts::tr(
+            "Its resource file is probably missing. Install Gradix again. Current files can be saved, and "
+            "downloaded gradebooks filled in, all the same."));
   }
 }
 
 void ExportController::ShowLoadError(const QString& path, const FilterLoadError& error) {
   if (error.fault == FilterFault::kNotFound) {
-    ShowMessage(m_window,
-                Texts::tr("The export filter was not found. Classes can be viewed, but not exported."),
-                Texts::tr("It was looked for here:\n%1\n\nInstall Gradix again.")
-                    .arg(QDir::toNativeSeparators(path)));
+    ShowMessage(
+        m_window, Texts::tr("The export filter was not found, so there is no export window."),
+        Texts::tr(
+            "It was looked for here:\n%1\n\nInstall Gradix again. Current files can be saved, and downloaded "
+            "gradebooks filled in, all the same.")
+            .arg(QDir::toNativeSeparators(path)));
     return;
   }
   const QString what = error.fault == FilterFault::kMissingSymbol
@@ -137,11 +141,14 @@ void ExportController::ShowStartError(StartResult result) {
   }
 }
 
+// Which assignments are checked in the dialog, it does not tell yet.
 std::optional<QString> ExportController::ChooseFile(QWidget* dialog) {
-  const QString name = ProposedFileName(LineFromUtf8(m_class->Texts().AssignmentName(m_assignment)),
-                                        m_format.name, m_format.extension);
+  const bool hasOne = m_class->record.assignments.size() == 1;
+  const QString what = hasOne ? LineFromUtf8(m_class->Texts().AssignmentName(0)) : m_class->name;
   return ChooseSaveFile(dialog != nullptr ? dialog : m_window,
-                        {name, m_format.extension, {m_class->path, m_openClassPath}});
+                        {ProposedFileName(what, m_format.name, m_format.extension),
+                         m_format.extension,
+                         {m_class->path, m_openClassPath}});
 }
 
 void ExportController::RunFinished(const RunResult& result) {

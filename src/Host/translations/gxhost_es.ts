@@ -266,20 +266,6 @@ Guárdelo como UTF-8 con un editor de texto.</translation>
         <translation>Se quitó de la lista de clases recientes. Si se movió, ábralo desde su nuevo lugar.</translation>
     </message>
     <message>
-        <source>The export filter was not found. Classes can be viewed, but not exported.</source>
-        <translation>No se encontró el filtro de exportación. Las clases se pueden ver, pero no exportar.</translation>
-    </message>
-    <message>
-        <source>It was looked for here:
-%1
-
-Install Gradix again.</source>
-        <translation>Se buscó aquí:
-%1
-
-Vuelva a instalar Gradix.</translation>
-    </message>
-    <message>
         <source>The export filter could not be loaded.</source>
         <translation>No se pudo cargar el filtro de exportación.</translation>
     </message>
@@ -294,14 +280,6 @@ Install Gradix again, so that both come from the same version.</source>
         <translation>%1
 
 Vuelva a instalar Gradix para que ambos sean de la misma versión.</translation>
-    </message>
-    <message>
-        <source>The export filter offers no formats. Classes can be viewed, but not exported.</source>
-        <translation>El filtro de exportación no ofrece ningún formato. Las clases se pueden ver, pero no exportar.</translation>
-    </message>
-    <message>
-        <source>Its resource file is probably missing. Install Gradix again.</source>
-        <translation>Probablemente falta su archivo de recursos. Vuelva a instalar Gradix.</translation>
     </message>
     <message>
         <source>The export could not be started: the filter does not know the format “%1”.</source>
@@ -1002,7 +980,7 @@ Open it by hand in a browser, here or on another computer.</source>
     </message>
     <message>
         <source>You may not save in the folder “%1”.</source>
-        <translation>No puede guardar en la carpeta «%1».</translation>
+        <translation>No tiene permiso para guardar en la carpeta «%1».</translation>
     </message>
     <message>
         <source>A&amp;ll (%1)</source>
@@ -1635,7 +1613,7 @@ Descargue otra vez el libro de calificaciones y no lo guarde antes con una hoja 
     </message>
     <message>
         <source>&amp;Id Fields</source>
-        <translation>Campos de &amp;id</translation>
+        <translation>Ca&amp;mpos de id</translation>
     </message>
     <message>
         <source>Assi&amp;gnment</source>
@@ -1842,6 +1820,28 @@ Descargue otra vez el libro de calificaciones y no lo guarde antes con una hoja 
     <message>
         <source>Sa&amp;ve…</source>
         <translation>&amp;Guardar…</translation>
+    </message>
+    <message>
+        <source>The export filter offers no formats, so there is no export window.</source>
+        <translation>El filtro de exportación no ofrece ningún formato, así que no hay ventana de exportación.</translation>
+    </message>
+    <message>
+        <source>Its resource file is probably missing. Install Gradix again. Current files can be saved, and downloaded gradebooks filled in, all the same.</source>
+        <translation>Probablemente falta su archivo de recursos. Vuelva a instalar Gradix. De todos modos se pueden guardar archivos actuales y rellenar libros descargados.</translation>
+    </message>
+    <message>
+        <source>The export filter was not found, so there is no export window.</source>
+        <translation>No se encontró el filtro de exportación, así que no hay ventana de exportación.</translation>
+    </message>
+    <message>
+        <source>It was looked for here:
+%1
+
+Install Gradix again. Current files can be saved, and downloaded gradebooks filled in, all the same.</source>
+        <translation>Se buscó aquí:
+%1
+
+Vuelva a instalar Gradix. De todos modos se pueden guardar archivos actuales y rellenar libros descargados.</translation>
     </message>
 </context>
 </TS>

@@ -165,7 +165,7 @@ class SaveDialog : public QFileDialog {
 std::optional<QString> ChooseSaveFile(QWidget* parent, const SaveRequest& request) {
   SaveDialog dialog(parent, request);
   while (dialog.exec() == QDialog::Accepted) {
-    const std::optional<QString> path = dialog.Path();
+    std::optional<QString> path = dialog.Path();
     if (!path) continue;
     QSettings().setValue(QLatin1String(kFolderKey), QFileInfo(*path).absolutePath());
     return path;

@@ -294,7 +294,7 @@ void ExportWindow::Retranslate() {
   setWindowTitle(Texts::tr("Export – %1").arg(m_class->name));
   m_reportHint->setText(Texts::tr(
       "The report has the students' first and last names, their IDs and their responses. The export "
-      "dialog offers more."));
+      "window offers more."));
   m_help->setText(Texts::tr("&Help"));
   m_save->setText(Texts::tr("Sa&ve…"));
   m_close->setText(Texts::tr("&Close"));

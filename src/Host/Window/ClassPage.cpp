@@ -45,6 +45,7 @@ ClassPage::ClassPage(QWidget* parent, std::function<void()> changed)
   }
   m_splitter->setStretchFactor(0, 1);
   m_splitter->setStretchFactor(1, 0);
+  m_splitter->setSizes({630, 370});  // as parts of the width, at first
   m_splitter->setChildrenCollapsible(false);
   auto* const layout = new QVBoxLayout(this);
   const int margin = fontMetrics().height() / 2;

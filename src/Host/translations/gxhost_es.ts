@@ -1814,10 +1814,6 @@ Descargue otra vez el libro de calificaciones y no lo guarde antes con una hoja 
         <translation>Exportar – %1</translation>
     </message>
     <message>
-        <source>The report has the students&apos; first and last names, their IDs and their responses. The export dialog offers more.</source>
-        <translation>El informe tiene los nombres y apellidos de los estudiantes, sus identificadores y sus respuestas. El cuadro de exportación ofrece más.</translation>
-    </message>
-    <message>
         <source>Sa&amp;ve…</source>
         <translation>&amp;Guardar…</translation>
     </message>
@@ -1842,6 +1838,10 @@ Install Gradix again. Current files can be saved, and downloaded gradebooks fill
 %1
 
 Vuelva a instalar Gradix. De todos modos se pueden guardar archivos actuales y rellenar libros descargados.</translation>
+    </message>
+    <message>
+        <source>The report has the students&apos; first and last names, their IDs and their responses. The export window offers more.</source>
+        <translation>El informe tiene nombre, apellido e id. de los estudiantes y sus respuestas. La ventana de exportación ofrece más.</translation>
     </message>
 </context>
 </TS>

@@ -13,13 +13,13 @@
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QStandardPaths>
-#include <QUrl>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
 
 #include "Export/Fill.h"
 #include "Host/App/CloseKeys.h"
+#include "Host/App/DroppedFile.h"
 #include "Host/App/FileDialogs.h"
 #include "Host/App/HelpBook.h"
 #include "Host/App/Texts.h"
@@ -38,12 +38,6 @@ QString _LastFolder() {
   QString folder = QSettings().value(QLatin1String(kFolderKey)).toString();
   if (!folder.isEmpty() && QFileInfo(folder).isDir()) return folder;
   return QStandardPaths::writableLocation(QStandardPaths::DownloadLocation);
-}
-
-// The one local file of a drop; empty for anything else.
-QString _DroppedFile(const QMimeData* data) {
-  const QList<QUrl> urls = data->urls();
-  return urls.size() == 1 ? urls.front().toLocalFile() : QString();
 }
 
 bool _IsChange(const FillCell& cell) {
@@ -178,12 +172,12 @@ int32_t FillWindow::HelpTopic() const {
 }
 
 void FillWindow::dragEnterEvent(QDragEnterEvent* event) {
-  if (!_DroppedFile(event->mimeData()).isEmpty()) event->acceptProposedAction();
+  if (!DroppedFile(event->mimeData()).isEmpty()) event->acceptProposedAction();
 }
 
 void FillWindow::dropEvent(QDropEvent* event) {
   event->acceptProposedAction();
-  OpenGradebook(_DroppedFile(event->mimeData()));
+  OpenGradebook(DroppedFile(event->mimeData()));
 }
 
 void FillWindow::changeEvent(QEvent* event) {

@@ -13,6 +13,7 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "Host/App/DroppedFile.h"
 #include "Host/App/FileDialogs.h"
 #include "Host/App/HelpBook.h"
 #include "Host/App/Messages.h"
@@ -33,12 +34,6 @@ namespace {
 constexpr int kQuitPatience = 2000;  // milliseconds
 constexpr const char* kGeometryKey = "window/geometry";
 constexpr const char* kSplitterKey = "window/splitter";
-
-// The one local file of a drop; empty for anything else.
-QString _DroppedFile(const QMimeData* data) {
-  const QList<QUrl> urls = data->urls();
-  return urls.size() == 1 ? urls.front().toLocalFile() : QString();
-}
 
 }  // namespace
 
@@ -325,11 +320,11 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
-  if (!_DroppedFile(event->mimeData()).isEmpty()) event->acceptProposedAction();
+  if (!DroppedFile(event->mimeData()).isEmpty()) event->acceptProposedAction();
 }
 
 void MainWindow::dropEvent(QDropEvent* event) {
-  const QString path = _DroppedFile(event->mimeData());
+  const QString path = DroppedFile(event->mimeData());
   if (path.isEmpty()) return;
   event->acceptProposedAction();
   OpenFile(path);

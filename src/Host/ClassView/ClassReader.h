@@ -24,7 +24,7 @@ struct OpenClass {
   qz::ClassRecord record;
   qz::OriginalTexts originals;
   uint64_t replacedCharacters = 0;  // that the record's texts have as "?"
-  ScoreTable scores;  // on all assignments
+  ScoreTable scores;                // on all assignments
 
   qz::ClassTexts Texts() const { return {record, originals}; }
   Scores ScoresOn(size_t assignment) const;

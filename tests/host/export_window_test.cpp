@@ -155,7 +155,7 @@ TEST_F(ExportWindowTest, FollowsEveryChoice) {
   }
   Settle();
   EXPECT_NE(TextOf(Row(0)).find("No assignment is selected"), std::string::npos) << TextOf(Row(0));
-  EXPECT_EQ(FirstTab(), QStringLiteral("&What will happen (1)"));
+  EXPECT_EQ(FirstTab(), QStringLiteral("What will &happen (1)"));
   EXPECT_EQ(Obstacle(), "Choose at least one assignment.");
   EXPECT_FALSE(Find<QPushButton>("save")->isEnabled());
   EXPECT_EQ(Find<QLabel>("fileFacts")->text(), QStringLiteral("There is no file to show."));
@@ -168,7 +168,7 @@ TEST_F(ExportWindowTest, FollowsEveryChoice) {
   for (const char* dialect : {"Classic file", "Current file"}) {
     Choose("dialect", dialect);
     EXPECT_EQ(Obstacle(), "");
-    EXPECT_EQ(FirstTab(), QStringLiteral("&What will happen"));
+    EXPECT_EQ(FirstTab(), QStringLiteral("What will &happen"));
     EXPECT_TRUE(Text().contains(QString(30, u'x'))) << dialect;
   }
 }

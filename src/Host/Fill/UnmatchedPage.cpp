@@ -42,6 +42,7 @@ std::vector<JoinEntry> _Assignments(const FillPlan& plan) {
 template <typename Describe>
 std::vector<JoinEntry> _Theirs(const std::vector<size_t>& positions, Describe describe) {
   std::vector<JoinEntry> entries;
+  entries.reserve(positions.size());
   for (const size_t position : positions) entries.push_back({position, describe(position)});
   return entries;
 }

@@ -76,9 +76,18 @@ void FindingsView::Show(Findings findings, const ExportSubject& subject) {
   ShowSummary(system);
 }
 
+qsizetype FindingsView::Problems() const {
+  return std::ranges::count_if(Shown(),
+                               [](const Finding& finding) { return IsTrouble(finding.consequence); });
+}
+
+QString FindingsView::Title() const {
+  const qsizetype problems = Problems();
+  return Texts::tr("What will &happen") + (problems > 0 ? QStringLiteral(" (%1)").arg(problems) : QString());
+}
+
 void FindingsView::ShowSummary(const QString& system) {
-  const auto problems =
-      std::ranges::count_if(Shown(), [](const Finding& finding) { return IsTrouble(finding.consequence); });
+  const qsizetype problems = Problems();
   const auto notes = static_cast<qsizetype>(Shown().size()) - problems;
   QString text = problems == 0 ? Texts::tr("No problems were found: ready for %1.").arg(system)
                                : Texts::tr("Problems: %1").arg(problems);

@@ -26,9 +26,13 @@ class FindingsView : public QWidget {
   void Show(Findings findings, const ExportSubject& subject);
   const Findings& Shown() const { return m_model.Shown(); }
 
+  // For the page that it is on: with the number of problems, if there are any.
+  QString Title() const;
+
  private:
   void AddTree();
   QWidget* MakeNothingPage();
+  qsizetype Problems() const;
   void ShowSummary(const QString& system);
   void Choose(const QModelIndex& index);
 

@@ -11,7 +11,6 @@
 #include <QSplitter>
 #include <QTabWidget>
 #include <QVBoxLayout>
-#include <algorithm>
 #include <climits>
 #include <new>
 #include <string_view>
@@ -221,13 +220,8 @@ void ExportWindow::Prepare() {
 
 void ExportWindow::ShowFindings() {
   if (m_prepared == nullptr) return;
-  const Findings& found = m_prepared->Found();
-  m_findings->Show(found, m_prepared->Subject());
-  const auto problems =
-      std::ranges::count_if(found, [](const Finding& finding) { return IsTrouble(finding.consequence); });
-  QString title = Texts::tr("&What will happen");
-  if (problems > 0) title += QStringLiteral(" (%1)").arg(problems);
-  m_preview->Pages()->setTabText(m_preview->Pages()->indexOf(m_findings), title);
+  m_findings->Show(m_prepared->Found(), m_prepared->Subject());
+  m_preview->Pages()->setTabText(m_preview->Pages()->indexOf(m_findings), m_findings->Title());
 }
 
 void ExportWindow::ShowObstacle() {

@@ -116,8 +116,7 @@ void ResultWindow::ShowFindings() {
   const std::optional<ExportSubject> subject = SubjectOf(m_file);
   m_findings->Show(CheckExport(*subject), *subject);
   QTabWidget* const pages = m_preview->Pages();
-  pages->setTabText(pages->indexOf(m_findings),
-                    Texts::tr("What will &happen (%1)").arg(m_findings->Shown().size()));
+  pages->setTabText(pages->indexOf(m_findings), m_findings->Title());
 }
 
 void ResultWindow::changeEvent(QEvent* event) {

@@ -735,10 +735,6 @@ Open it by hand in a browser, here or on another computer.</source>
         <translation>La ruta se copió.</translation>
     </message>
     <message>
-        <source>What will &amp;happen (%1)</source>
-        <translation>Qué &amp;ocurrirá (%1)</translation>
-    </message>
-    <message>
         <source>&amp;Result</source>
         <translation>&amp;Resultado</translation>
     </message>
@@ -1786,10 +1782,6 @@ Descargue otra vez el libro de calificaciones y no lo guarde antes con una hoja 
         <translation>Hay estudiantes que comparten un identificador en el campo elegido.</translation>
     </message>
     <message>
-        <source>&amp;What will happen</source>
-        <translation>&amp;Qué pasará</translation>
-    </message>
-    <message>
         <source>There is not enough memory for this export.</source>
         <translation>No hay memoria suficiente para esta exportación.</translation>
     </message>
@@ -1842,6 +1834,10 @@ Vuelva a instalar Gradix. De todos modos se pueden guardar archivos actuales y r
     <message>
         <source>The report has the students&apos; first and last names, their IDs and their responses. The export window offers more.</source>
         <translation>El informe tiene nombre, apellido e id. de los estudiantes y sus respuestas. La ventana de exportación ofrece más.</translation>
+    </message>
+    <message>
+        <source>What will &amp;happen</source>
+        <translation>Qué oc&amp;urrirá</translation>
     </message>
 </context>
 </TS>

@@ -1,7 +1,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QIcon>
-#include <QMetaObject>
+#include <QTimer>
 #include <algorithm>
 #include <iterator>
 #include <memory>
@@ -52,11 +52,13 @@ int main(int argc, char** argv) {
   host::InstallAccessibleRoles();
   host::MainWindow window;
   window.show();
-  const auto start = [&window, &parser] {
+  QTimer start;
+  start.setSingleShot(true);
+  QObject::connect(&start, &QTimer::timeout, &window, [&window, &parser] {
     window.LoadFilter();
     const QString file = parser.positionalArguments().value(0);
     if (!file.isEmpty()) window.OpenFile(file);
-  };
-  QMetaObject::invokeMethod(&window, start, Qt::QueuedConnection);
+  });
+  start.start();
   return QApplication::exec();
 }

@@ -9,6 +9,7 @@
 #include <QMimeData>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
 #include <QSettings>
 #include <QShortcut>
 #include <QStackedWidget>
@@ -71,7 +72,7 @@ FillWindow::FillWindow(QWidget* parent, std::shared_ptr<const OpenClass> openCla
   buttons->addWidget(m_save);
   buttons->addWidget(m_close);
   auto* const layout = new QVBoxLayout(this);
-  layout->addWidget(m_pages, 1);
+  layout->addWidget(MakeScrolling(m_pages), 1);
   layout->addLayout(buttons);
   connect(m_save, &QPushButton::clicked, this, &FillWindow::Save);
   connect(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, this, [this] {
@@ -83,6 +84,16 @@ FillWindow::FillWindow(QWidget* parent, std::shared_ptr<const OpenClass> openCla
   SetClass(std::move(openClass));
   const QSize wanted(fontMetrics().height() * 60, fontMetrics().height() * 36);
   resize(wanted.boundedTo(screen()->availableSize() * 9 / 10));
+}
+
+// With large letters the pages need more room than a small screen has.
+QWidget* FillWindow::MakeScrolling(QWidget* pages) {
+  auto* const area = new QScrollArea(this);
+  area->setFrameShape(QFrame::NoFrame);
+  area->setFocusPolicy(Qt::NoFocus);
+  area->setWidgetResizable(true);
+  area->setWidget(pages);
+  return area;
 }
 
 void FillWindow::SetClass(std::shared_ptr<const OpenClass> openClass) {

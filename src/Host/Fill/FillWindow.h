@@ -47,6 +47,7 @@ class FillWindow : public QWidget {
   void dropEvent(QDropEvent* event) override;
 
  private:
+  QWidget* MakeScrolling(QWidget* pages);
   void Retranslate();
   void ChooseGradebook();
   void ReadEnded(const GradebookRead& read);

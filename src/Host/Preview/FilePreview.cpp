@@ -20,6 +20,7 @@ namespace host {
 
 namespace {
 
+constexpr ptrdiff_t kMaxShownLines = 200000;
 constexpr int kMeasuredRows = 50;    // for the widths of the columns
 constexpr int kMaxColumnWidth = 20;  // in heights of the font
 
@@ -37,6 +38,15 @@ QString _LineEndsText(LineEnds lineEnds) {
 QString _EncodingText(TextEncoding encoding) {
   if (encoding == TextEncoding::kUtf8WithBom) return Texts::tr("UTF-8 with a byte-order mark");
   return QString::fromLatin1(EncodingName(encoding));
+}
+
+// So much of the text as has that many lines, whichever way they end.
+std::string_view _FirstLines(std::string_view text, ptrdiff_t lines) {
+  const auto end = std::ranges::find_if(text, [lines, found = ptrdiff_t{0}](char character) mutable {
+    if (character == '\n' || character == '\r') ++found;
+    return found > lines;
+  });
+  return {text.begin(), end};
 }
 
 QLabel* _MakeLabel(QWidget* parent, const char* name) {
@@ -97,8 +107,9 @@ void FilePreview::MakeText() {
 }
 
 void FilePreview::Show(const QByteArray& bytes, const FileReading& reading, qint64 size) {
-  const std::string_view shown(bytes.constData(),
-                               static_cast<size_t>(std::min(qint64{bytes.size()}, kMaxShownBytes)));
+  const std::string_view shown =
+      _FirstLines({bytes.constData(), static_cast<size_t>(std::min(qint64{bytes.size()}, kMaxShownBytes))},
+                  kMaxShownLines);
   m_reading = reading;
   m_size = std::max(size, qint64{bytes.size()});
   m_isCut = static_cast<qint64>(shown.size()) < m_size;

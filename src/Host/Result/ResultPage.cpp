@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
 #include <QScrollArea>
@@ -73,7 +74,7 @@ QLabel* _AddLongText(QGridLayout* lines, int row, int column, const QString& tex
 }  // namespace
 
 ResultPage::ResultPage(QWidget* parent, const ExportedFile& file)
-    : QWidget(parent), m_file(file), m_handle(new FileHandle(this, file.path)) {
+    : QWidget(parent), m_file(file), m_handle(new FileHandle(this, file.path)), m_handleRow(new QHBoxLayout) {
   auto* const splitter = new QSplitter(this);
   splitter->setChildrenCollapsible(false);
   m_factsTitle = _MakeTitle(splitter);
@@ -82,7 +83,8 @@ ResultPage::ResultPage(QWidget* parent, const ExportedFile& file)
   m_steps = _AddColumn(splitter, m_stepsTitle, "steps");
   for (const int column : {0, 1}) splitter->setStretchFactor(column, 1);
   auto* const layout = new QVBoxLayout(this);
-  layout->addWidget(m_handle);
+  m_handleRow->addWidget(m_handle, 1);
+  layout->addLayout(m_handleRow);
   layout->addWidget(splitter, 1);
   Retranslate();
 }

@@ -7,6 +7,7 @@
 #include "Host/Result/ExportedFile.h"
 
 class QGridLayout;
+class QHBoxLayout;
 class QLabel;
 
 namespace host {
@@ -18,6 +19,7 @@ class ResultPage : public QWidget {
   ResultPage(QWidget* parent, const ExportedFile& file);
 
   FileHandle* Handle() const { return m_handle; }
+  QHBoxLayout* HandleRow() const { return m_handleRow; }  // what can be done with the file goes beside it
 
  protected:
   void changeEvent(QEvent* event) override;
@@ -29,6 +31,7 @@ class ResultPage : public QWidget {
 
   ExportedFile m_file;
   FileHandle* m_handle;
+  QHBoxLayout* m_handleRow;
   QLabel* m_factsTitle;
   QGridLayout* m_facts;
   QLabel* m_stepsTitle;

@@ -86,7 +86,8 @@ void ResultWindow::AddPages() {
 
 void ResultWindow::AddButtons() {
   auto* const row = new QHBoxLayout;
-  for (QPushButton* const button : {m_openFolder, m_copyPath, m_saveCurrent}) row->addWidget(button);
+  for (QPushButton* const button : {m_openFolder, m_copyPath}) m_page->HandleRow()->addWidget(button);
+  row->addWidget(m_saveCurrent);
   row->addStretch();
   for (QPushButton* const button : {m_help, m_close}) row->addWidget(button);
   static_cast<QVBoxLayout*>(layout())->addLayout(row);

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QEvent>
 #include <QLabel>
+#include <QScopedValueRollback>
 #include <QSplitter>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -36,7 +37,7 @@ ClassPage::ClassPage(QWidget* parent, std::function<void()> changed)
                 .placesChosen = [this](const std::vector<FindingPlace>& places) { SelectPlaces(places); }});
   m_assignment = new AssignmentPanel(m_panes, [this](int assignment) {
     if (m_class == nullptr) return;
-    m_table->SelectAssignment(assignment);
+    if (!m_isOpening) m_table->SelectAssignment(assignment);
     m_changed();
   });
   for (QWidget* const pane : {static_cast<QWidget*>(m_readiness), static_cast<QWidget*>(m_fields),
@@ -55,6 +56,8 @@ ClassPage::ClassPage(QWidget* parent, std::function<void()> changed)
 }
 
 void ClassPage::SetClass(std::shared_ptr<const OpenClass> openClass, bool keepsSelection) {
+  // A class begins at its left edge, with nothing selected.
+  const QScopedValueRollback<bool> opening(m_isOpening, !keepsSelection);
   const int selected = keepsSelection ? SelectedAssignment() : -1;
   m_class = std::move(openClass);
   m_table->SetClass(m_class);

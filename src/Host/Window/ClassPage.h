@@ -58,6 +58,7 @@ class ClassPage : public QWidget {
 
   std::function<void()> m_changed;
   std::shared_ptr<const OpenClass> m_class;
+  bool m_isOpening = false;  // another class
   QLabel* m_heading;
   QSplitter* m_splitter;
   ClassTable* m_table;

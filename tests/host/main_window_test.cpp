@@ -170,6 +170,24 @@ TEST_F(MainWindowTest, NoticesThatTheClassHasChanged) {
   EXPECT_EQ(m_window.windowTitle(), QStringLiteral("Class 3 – Gradix"));
   delete gDialog;
 
+  // Nor is anything saved of it in a window that has been open since before.
+  Way("canvas", "ownExport")->trigger();
+  QWidget* const own = FindWindow("exportWindow");
+  ASSERT_NE(own, nullptr);
+  WriteFile(PathOf("class.xml"), QByteArray(text).replace("Class 2", "Class 44"));
+  gestures::Click(own->findChild<QPushButton*>(QStringLiteral("save")));
+  QWidget* const again = FindWindow("changedQuestion");
+  ASSERT_NE(again, nullptr);
+  bool isAsked = false;
+  WhenVisible("saveChooser", [&isAsked](QWidget* chooser) {
+    isAsked = true;
+    ClickButton(chooser, "Cancel");
+  });
+  ClickButton(again, "&Reload and Go On");
+  EXPECT_TRUE(QTest::qWaitFor([&isAsked] { return isAsked; }));
+  EXPECT_EQ(own->windowTitle(), QStringLiteral("Export – Class 44"));
+  own->close();
+
   QFile::remove(PathOf("class.xml"));
   const auto* const notice = m_window.findChild<QWidget*>(QStringLiteral("notice"));
   EXPECT_TRUE(QTest::qWaitFor([notice] { return notice->isVisible(); }));

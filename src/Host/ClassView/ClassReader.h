@@ -4,6 +4,7 @@
 
 #include <QString>
 #include <cstdint>
+#include <functional>
 #include <memory>
 
 #include "Common/QZData/QZClass.h"
@@ -12,6 +13,8 @@
 #include "Filters/GX_StdCsv/ResultsJoin.h"
 #include "Host/App/FileKind.h"
 #include "Host/App/FileStamp.h"
+
+class QWidget;
 
 namespace host {
 
@@ -29,6 +32,10 @@ struct OpenClass {
   qz::ClassTexts Texts() const { return {record, originals}; }
   Scores ScoresOn(size_t assignment) const;
 };
+
+// Runs `act` once the class is the one on the disk, perhaps after asking above the window and reading it
+// again; not at all when the user does not want that.
+using PresentClassAsker = std::function<void(QWidget* window, std::function<void()> act)>;
 
 struct ReadResult {
   std::shared_ptr<const OpenClass> openClass;  // null after a fault, or when cancelled

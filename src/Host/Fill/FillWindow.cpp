@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QMimeData>
+#include <QPointer>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
@@ -74,9 +75,9 @@ FillWindow::FillWindow(QWidget* parent, std::shared_ptr<const OpenClass> openCla
   auto* const layout = new QVBoxLayout(this);
   layout->addWidget(MakeScrolling(m_pages), 1);
   layout->addLayout(buttons);
-  connect(m_save, &QPushButton::clicked, this, &FillWindow::Save);
+  connect(m_save, &QPushButton::clicked, this, &FillWindow::AskToSave);
   connect(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, this, [this] {
-    if (m_save->isEnabled()) Save();
+    if (m_save->isEnabled()) AskToSave();
   });
   connect(m_close, &QPushButton::clicked, this, &QWidget::close);
   CloseByKeys(this);
@@ -140,7 +141,16 @@ void FillWindow::UpdateSave() {
   m_save->setEnabled(isPlanned && std::ranges::any_of(m_work->Draft().Plan().cells, &FillCell::IsWritten));
 }
 
+void FillWindow::AskToSave() {
+  const auto save = [self = QPointer<FillWindow>(this)] {
+    if (self != nullptr) self->Save();
+  };
+  if (m_handlers.withPresentClass) return m_handlers.withPresentClass(this, save);
+  save();
+}
+
 void FillWindow::Save() {
+  if (!m_save->isEnabled()) return;  // the class, read again, may have nothing for it
   const QFileInfo download(m_work->GradebookPath());
   const QString extension = download.suffix().isEmpty() ? QStringLiteral("csv") : download.suffix();
   const QString name = Texts::tr("%1 filled").arg(download.completeBaseName()) + u'.' + extension;

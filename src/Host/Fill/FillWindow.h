@@ -29,6 +29,7 @@ class FillWindow : public QWidget {
   struct Handlers {
     std::function<void(const std::vector<FindingPlace>& places)> placesChosen;
     std::function<void(const ExportedFile& file)> saved;  // the file is there, complete
+    PresentClassAsker withPresentClass = {};              // before saving; without one, saves at once
   };
 
   // `system` null: the headings of the download tell. The field is the one proposed at first.
@@ -53,6 +54,7 @@ class FillWindow : public QWidget {
   void ReadEnded(const GradebookRead& read);
   void ShowPage(QWidget* page);
   void UpdateSave();
+  void AskToSave();
   void Save();
   ExportedFile SavedFile(const QString& path) const;
   int32_t HelpTopic() const;

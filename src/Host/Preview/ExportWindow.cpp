@@ -162,7 +162,7 @@ QLayout* ExportWindow::MakeButtons() {
   row->addWidget(m_save);
   row->addWidget(m_close);
   connect(m_help, &QPushButton::clicked, this, [this] { ShowHelp(this, m_picker->Format().helpTopic); });
-  connect(m_save, &QPushButton::clicked, this, &ExportWindow::Save);
+  connect(m_save, &QPushButton::clicked, this, &ExportWindow::AskToSave);
   connect(m_close, &QPushButton::clicked, this, &QWidget::close);
   connect(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, m_save, &QPushButton::click);
   return row;
@@ -242,6 +242,14 @@ void ExportWindow::ShowPreview() {
   const std::string& bytes = m_prepared->Bytes();
   const ExportSubject& subject = m_prepared->Subject();
   m_preview->Show(_Borrowed(bytes), ReadingOf(*subject.format, subject.dialect, subject.delimiter, bytes));
+}
+
+void ExportWindow::AskToSave() {
+  const auto save = [self = QPointer<ExportWindow>(this)] {
+    if (self != nullptr) self->Save();
+  };
+  if (m_handlers.withPresentClass) return m_handlers.withPresentClass(this, save);
+  save();
 }
 
 // Of the choices that stand there, also when their preview has still to come.

@@ -39,6 +39,7 @@ class ExportWindow : public QWidget {
   struct Handlers {
     std::function<void(const std::vector<FindingPlace>& places)> placesChosen;
     std::function<void(const ExportedFile& file)> saved;  // the file is there, complete
+    PresentClassAsker withPresentClass = {};              // before saving; without one, saves at once
   };
 
   ExportWindow(QWidget* parent, std::shared_ptr<const OpenClass> openClass, const ExportStart& start,
@@ -63,6 +64,7 @@ class ExportWindow : public QWidget {
   void ShowObstacle();
   void ShowPreview();
 
+  void AskToSave();
   void Save();
   bool MayShareIdentifiers();
 

@@ -52,7 +52,6 @@ class ClassPage : public QWidget {
   void changeEvent(QEvent* event) override;
 
  private:
-  QWidget* MakeSidePane();
   void ShowReadiness();
   void Retranslate();
 

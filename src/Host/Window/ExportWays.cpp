@@ -66,7 +66,8 @@ void ExportWays::FromHere(const FormatRow& format, qz::UserIDField identifier) {
 void ExportWays::OpenExportWindow(const ExportStart& start) {
   auto* const window = new ExportWindow(m_window, m_class, start,
                                         {.placesChosen = m_handlers.placesChosen,
-                                         .saved = [this](const ExportedFile& file) { Written(file); }});
+                                         .saved = [this](const ExportedFile& file) { Written(file); },
+                                         .withPresentClass = m_handlers.withPresentClass});
   m_exportWindows.append(window);
   _Show(window);
 }
@@ -76,7 +77,8 @@ void ExportWays::Fill(const FormatRow* format, qz::UserIDField identifier, const
   auto* const window =
       new FillWindow(m_window, m_class, format != nullptr ? &SystemOf(*format) : nullptr, identifier,
                      {.placesChosen = m_handlers.placesChosen,
-                      .saved = [this](const ExportedFile& file) { Written(file); }});
+                      .saved = [this](const ExportedFile& file) { Written(file); },
+                      .withPresentClass = m_handlers.withPresentClass});
   m_fillWindows.append(window);
   _Show(window);
   if (!gradebookPath.isEmpty()) window->OpenGradebook(gradebookPath);

@@ -28,6 +28,7 @@ class ExportWays : public QObject {
     std::function<void(const QString& status)> stateChanged;  // of an export through the filter's dialog
     std::function<void(const FormatRow& format)> formatUsed;
     std::function<void(const std::vector<FindingPlace>& places)> placesChosen;
+    PresentClassAsker withPresentClass;
   };
 
   ExportWays(QWidget* window, Handlers handlers);

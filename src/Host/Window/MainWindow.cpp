@@ -44,7 +44,11 @@ MainWindow::MainWindow()
                 {.stateChanged = [this](const QString& status) { ExportStateChanged(status); },
                  .formatUsed = [this](const FormatRow& format) { m_classPage->ChooseFormat(format); },
                  .placesChosen =
-                     [this](const std::vector<FindingPlace>& places) { m_classPage->SelectPlaces(places); }}),
+                     [this](const std::vector<FindingPlace>& places) { m_classPage->SelectPlaces(places); },
+                 .withPresentClass =
+                     [this](QWidget* window, std::function<void()> act) {
+                       WithPresentClass(window, std::move(act));
+                     }}),
       m_actions(this, MakeHandlers()),
       m_pages(new QStackedWidget(this)),
       m_notice(new NoticeBar(this, [this] { Reload({}); })),
@@ -82,7 +86,7 @@ ActionHandlers MainWindow::MakeHandlers() {
       .exports = {.throughDialog = [this](const ExportFormat& format) { ThroughDialog(format); },
                   .ownExport =
                       [this](const FormatRow& format) {
-                        WithPresentClass([this, &format] {
+                        WithPresentClass(this, [this, &format] {
                           m_classPage->ChooseFormat(format);
                           m_exports.FromHere(format, m_classPage->Identifier());
                         });
@@ -209,7 +213,7 @@ void MainWindow::ClassChangedOnDisk(ClassWatcher::Change change) {
   }
 }
 
-void MainWindow::WithPresentClass(std::function<void()> act) {
+void MainWindow::WithPresentClass(QWidget* window, std::function<void()> act) {
   if (m_class == nullptr) return;
   const ClassWatcher::Change change = m_watcher.Look();
   if (change == ClassWatcher::Change::kNone) {
@@ -218,14 +222,14 @@ void MainWindow::WithPresentClass(std::function<void()> act) {
   }
   ClassChangedOnDisk(change);
   if (change == ClassWatcher::Change::kGone) {
-    ShowMessage(this,
+    ShowMessage(window,
                 Texts::tr("The class file “%1” is no longer there.").arg(QFileInfo(m_class->path).fileName()),
                 Texts::tr("Put it back, or open the class from its new place. Then export again."));
     return;
   }
   auto* const box = new QMessageBox(QMessageBox::Question, Texts::tr("Gradix"),
                                     Texts::tr("The class file has changed since it was opened."),
-                                    QMessageBox::NoButton, this);
+                                    QMessageBox::NoButton, window);
   box->setObjectName(QStringLiteral("changedQuestion"));
   box->setInformativeText(Texts::tr("Reload it first, so that what you see is what is exported."));
   box->setAttribute(Qt::WA_DeleteOnClose);
@@ -237,14 +241,14 @@ void MainWindow::WithPresentClass(std::function<void()> act) {
 }
 
 void MainWindow::ThroughDialog(const ExportFormat& format) {
-  WithPresentClass([this, format] {
+  WithPresentClass(this, [this, format] {
     const int assignment = m_classPage->SelectedAssignment();
     if (assignment >= 0) m_exports.ThroughDialog(format, static_cast<size_t>(assignment));
   });
 }
 
 void MainWindow::FillIn(const FormatRow* format, const QString& gradebookPath) {
-  WithPresentClass([this, format, gradebookPath] {
+  WithPresentClass(this, [this, format, gradebookPath] {
     if (format != nullptr) m_classPage->ChooseFormat(*format);
     m_exports.Fill(format, m_classPage->Identifier(), gradebookPath);
   });

@@ -52,7 +52,7 @@ class MainWindow : public QMainWindow {
   void ClassChangedOnDisk(ClassWatcher::Change change);
 
   // Runs it with the class as it is on the disk, after asking where it has changed.
-  void WithPresentClass(std::function<void()> act);
+  void WithPresentClass(QWidget* window, std::function<void()> act);
   void ThroughDialog(const ExportFormat& format);
   void FillIn(const FormatRow* format, const QString& gradebookPath);
 

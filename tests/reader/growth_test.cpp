@@ -145,22 +145,42 @@ Cost _CostOfReading(const Shape& shape, size_t factor) {
           static_cast<double>(std::max(document.PeakBytes(), _LiveBytes()) - before)};
 }
 
+constexpr std::array<size_t, 3> kFactors = {1, 2, 4};
+constexpr double kLeastSeconds = 0.002;  // below this the clock says little
+using Costs = std::array<Cost, kFactors.size()>;
+
+bool _GrowsWithTheDocument(const Costs& costs, size_t i) {
+  return costs[i].seconds <
+         2.5 * static_cast<double>(kFactors[i]) * std::max(costs[0].seconds, kLeastSeconds);
+}
+
+// The least of several rounds. Others at work on the machine only ever add to a round, so one that looks too
+// long is measured again.
+Costs _LeastCosts(const Shape& shape) {
+  constexpr int kEnoughRounds = 3;
+  constexpr int kMostRounds = 12;
+  Costs costs{};
+  for (int round = 0; round < kMostRounds; ++round) {
+    for (size_t i = 0; i < costs.size(); ++i) {
+      const Cost cost = _CostOfReading(shape, kFactors[i]);
+      const double seconds = round == 0 ? cost.seconds : std::min(costs[i].seconds, cost.seconds);
+      costs[i] = {seconds, round == 0 ? cost.bytes : costs[i].bytes};
+    }
+    const bool linear = _GrowsWithTheDocument(costs, 1) && _GrowsWithTheDocument(costs, 2);
+    if (linear && round + 1 >= kEnoughRounds) break;
+  }
+  return costs;
+}
+
 TEST(Growth, NeverFasterThanTheDocument) {
-  constexpr size_t kFactors[] = {1, 2, 4};
-  constexpr double kLeastSeconds = 0.002;  // below this the clock says little
   constexpr double kSlack = 65536;
   for (const Shape& shape : kShapes) {
-    std::array<Cost, 3> costs{};
-    for (size_t i = 0; i < costs.size(); ++i) {
-      costs[i] = _CostOfReading(shape, kFactors[i]);
-      for (int again = 0; again < 2; ++again) {
-        costs[i].seconds = std::min(costs[i].seconds, _CostOfReading(shape, kFactors[i]).seconds);
-      }
-    }
+    const Costs costs = _LeastCosts(shape);
     for (const size_t i : {1, 2}) {
       const auto factor = static_cast<double>(kFactors[i]);
-      const double seconds = std::max(costs[0].seconds, kLeastSeconds);
-      EXPECT_LT(costs[i].seconds, 2.5 * factor * seconds) << shape.what << ", times " << factor;
+      EXPECT_TRUE(_GrowsWithTheDocument(costs, i))
+          << shape.what << ", times " << factor << ": " << costs[0].seconds << " s, then " << costs[i].seconds
+          << " s";
       const double bytes = shape.memory == kFlat ? costs[0].bytes : 1.5 * factor * costs[0].bytes;
       EXPECT_LT(costs[i].bytes, bytes + kSlack) << shape.what << ", times " << factor;
     }

@@ -1,4 +1,3 @@
-#include <nlohmann/json.hpp>
 #include <utility>
 
 #include "CommandLine/ChoiceMessages.h"
@@ -7,6 +6,7 @@
 #include "CommandLine/Findings/FindingReport.h"
 #include "CommandLine/Findings/FindingsJson.h"
 #include "CommandLine/GradebookInput.h"
+#include "CommandLine/Json.h"
 #include "CommandLine/OutputFile.h"
 #include "CommandLine/TerminalText.h"
 #include "Export/ClassExport.h"
@@ -14,8 +14,6 @@
 #include "Systems/LearningSystem.h"
 
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 constexpr int kVersion = 1;
 
@@ -76,10 +74,10 @@ Json _AsJson(const std::string& path, const ExportChoices& choices, const ClassE
                {"dialect", _DialectKey(choices.dialect)},
                {"field", hasField ? Json(qz::FindStudentField(choices.identifier).key) : Json()},
                {"status", _RowOf(checked.status).key},
-               {"exitStatus", _RowOf(checked.status).exitStatus},
+               {"exitStatus", static_cast<int>(_RowOf(checked.status).exitStatus)},
                {"reason", checked.reason}};
-  json["findings"] = isChecked ? FindingsJson(findings, exporting->Subject()) : Json::array();
-  json["counts"] = ConsequenceCountsJson(findings);
+  json.Set("findings", isChecked ? FindingsJson(findings, exporting->Subject()) : Json::List());
+  json.Set("counts", ConsequenceCountsJson(findings));
   return json;
 }
 
@@ -100,7 +98,7 @@ CheckedClass _CheckRead(const ClassExport& exporting, const CheckOptions& option
     if (HasTrouble(findings)) checked.status = CheckStatus::kTrouble;
   }
   if (options.json) {
-    classes->push_back(_AsJson(exporting.File().path, options.choices, &exporting, findings, checked));
+    classes->Add(_AsJson(exporting.File().path, options.choices, &exporting, findings, checked));
   } else if (checked.reason.empty()) {
     WarnOfTwins(options.choices, exporting.Applied());
     checked.text = _AsText(exporting, findings);
@@ -118,7 +116,7 @@ CheckedClass _Check(const std::string& path, const CheckOptions& options, Json* 
     checked.status = CheckStatus::kUnreadable;
     checked.reason = error.what();
   }
-  if (options.json) classes->push_back(_AsJson(path, options.choices, nullptr, {}, checked));
+  if (options.json) classes->Add(_AsJson(path, options.choices, nullptr, {}, checked));
   return checked;
 }
 
@@ -142,7 +140,7 @@ class CheckSummary {
 
   Json AsJson() const {
     Json counts = {{"classes", Total()}};
-    for (size_t i = 0; i < std::size(kStatuses); ++i) counts[kStatuses[i].key] = m_counts[i];
+    for (size_t i = 0; i < std::size(kStatuses); ++i) counts.Set(kStatuses[i].key, m_counts[i]);
     return counts;
   }
 
@@ -160,17 +158,17 @@ class CheckSummary {
 
 ExitStatus _TellJson(const CheckOptions& options) {
   CheckSummary summary;
-  Json classes = Json::array();
+  Json classes = Json::List();
   for (const std::string& path : options.classFiles) {
     const CheckedClass checked = _Check(path, options, &classes);
     summary.Add(checked);
     if (!checked.reason.empty()) Say(checked.reason);
   }
   const Json json = {{"version", kVersion},
-                     {"status", summary.Status()},
+                     {"status", static_cast<int>(summary.Status())},
                      {"counts", summary.AsJson()},
                      {"classes", std::move(classes)}};
-  WriteStandardOutput(json.dump(2, ' ', false, Json::error_handler_t::replace) + "\n");
+  WriteStandardOutput(json.Text());
   return summary.Status();
 }
 

@@ -1,5 +1,4 @@
 #include <cstdio>
-#include <nlohmann/json.hpp>
 #include <string>
 #include <string_view>
 
@@ -9,6 +8,7 @@
 #include "CommandLine/Findings/FindingReport.h"
 #include "CommandLine/Findings/FindingsJson.h"
 #include "CommandLine/Findings/IdentifierMessages.h"
+#include "CommandLine/Json.h"
 #include "CommandLine/OutputFile.h"
 #include "CommandLine/TerminalText.h"
 #include "Export/ClassExport.h"
@@ -16,8 +16,6 @@
 #include "Systems/LearningSystem.h"
 
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 constexpr int kVersion = 1;
 
@@ -91,14 +89,14 @@ std::string _AsJson(const ExportOptions& options, const ClassExport& exporting, 
                {"dialect", choices.dialect == Dialect::kCurrent ? "current" : "classic"},
                {"field", hasField ? Json(qz::FindStudentField(choices.identifier).key) : Json()},
                {"status", _StatusKey(status, exporting.Found())},
-               {"exitStatus", status},
+               {"exitStatus", static_cast<int>(status)},
                {"reason", reason},
                {"students", counts.students},
                {"assignments", counts.assignments},
                {"scores", counts.scores}};
-  json["findings"] = FindingsJson(exporting.Found(), exporting.Subject());
-  json["counts"] = ConsequenceCountsJson(exporting.Found());
-  return json.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
+  json.Set("findings", FindingsJson(exporting.Found(), exporting.Subject()));
+  json.Set("counts", ConsequenceCountsJson(exporting.Found()));
+  return json.Text();
 }
 
 // The same, and its outcome as data.

@@ -1,14 +1,11 @@
-#include <nlohmann/json.hpp>
-
 #include "CommandLine/Commands.h"
+#include "CommandLine/Json.h"
 #include "CommandLine/OutputFile.h"
 #include "CommandLine/TerminalText.h"
 #include "Common/QZData/StudentFields.h"
 #include "Systems/LearningSystem.h"
 
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 // The key of the field proposed for the identifier, null when the format has none.
 const char* _DefaultFieldKey(const FormatRow& row) {
@@ -20,17 +17,17 @@ Json _OrNull(const char* text) {
 }
 
 std::string _AsJson() {
-  Json formats = Json::array();
+  Json formats = Json::List();
   for (const FormatRow& row : FormatTable()) {
-    formats.push_back({{"index", row.index},
-                       {"key", row.key},
-                       {"name", row.name},
-                       {"idName", _OrNull(row.idName)},
-                       {"defaultField", _OrNull(_DefaultFieldKey(row))},
-                       {"hasUnquotedVariant", row.hasUnquotedVariant},
-                       {"hasCurrentFile", FindCurrentFile(row) != nullptr}});
+    formats.Add({{"index", row.index},
+                 {"key", row.key},
+                 {"name", row.name},
+                 {"idName", _OrNull(row.idName)},
+                 {"defaultField", _OrNull(_DefaultFieldKey(row))},
+                 {"hasUnquotedVariant", row.hasUnquotedVariant},
+                 {"hasCurrentFile", FindCurrentFile(row) != nullptr}});
   }
-  return formats.dump(2) + "\n";
+  return formats.Text();
 }
 
 std::string _AsTable() {

@@ -1,12 +1,14 @@
 // gxrescomp: JSON sources of dialogs, alerts and string lists, made into one resource file.
 
-#include <CLI/CLI.hpp>
+#include <getopt.h>
+
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <exception>
 #include <fstream>
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -21,7 +23,57 @@ namespace {
 constexpr int kExitFailure = 1;
 constexpr int kExitUsage = 2;
 
+const char* const kHelp =
+    "Makes a resource file from JSON sources.\n"
+    "Usage: gxrescomp [OPTIONS] SOURCE...\n"
+    "\n"
+    "Positionals:\n"
+    "  SOURCE TEXT ... REQUIRED    Sources of dialogs, alerts and string lists.\n"
+    "\n"
+    "Options:\n"
+    "  -h,--help                   Print this help message and exit\n"
+    "  -o,--output FILE REQUIRED   The resource file to write.\n"
+    "\n";
+
+// A command line that makes no sense.
+class UsageError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+struct Arguments {
+  bool help = false;
+  std::vector<std::string> outputs;
+  std::vector<std::string> sources;
+};
+
 using ElementCompiler = void (*)(const Node&, ForkWriter*);
+
+Arguments _ReadArguments(int argc, char** argv) {
+  static const option kOptions[] = {{"help", no_argument, nullptr, 'h'},
+                                    {"output", required_argument, nullptr, 'o'},
+                                    {nullptr, 0, nullptr, 0}};
+  Arguments arguments;
+  int given;
+  while ((given = getopt_long(argc, argv, ":ho:", kOptions, nullptr)) != -1) {
+    switch (given) {
+      case 'h': arguments.help = true; break;
+      case 'o': arguments.outputs.emplace_back(optarg); break;
+      case ':': throw UsageError("--output: 1 required FILE missing");
+      default: throw UsageError(std::string("The following argument was not expected: ") + argv[optind - 1]);
+    }
+  }
+  arguments.sources.assign(argv + optind, argv + argc);
+  return arguments;
+}
+
+void _CheckArguments(const Arguments& arguments) {
+  if (arguments.sources.empty()) throw UsageError("SOURCE is required");
+  if (arguments.outputs.empty()) throw UsageError("--output is required");
+  if (arguments.outputs.size() > 1) {
+    throw UsageError("--output: At Most 1 required but received " + std::to_string(arguments.outputs.size()));
+  }
+}
 
 void _CompileSource(const std::string& path, ForkWriter* file) {
   static const struct {
@@ -60,18 +112,17 @@ void _Run(const std::vector<std::string>& sources, const std::string& output) {
 
 int main(int argc, char** argv) {
   try {
-    CLI::App app("Makes a resource file from JSON sources.", "gxrescomp");
-    std::vector<std::string> sources;
-    std::string output;
-    app.add_option("SOURCE", sources, "Sources of dialogs, alerts and string lists.")->required();
-    app.add_option("-o,--output", output, "The resource file to write.")->required()->type_name("FILE");
-    try {
-      app.parse(argc, argv);
-    } catch (const CLI::ParseError& error) {
-      return app.exit(error) == 0 ? 0 : kExitUsage;
+    const Arguments arguments = _ReadArguments(argc, argv);
+    if (arguments.help) {
+      std::fputs(kHelp, stdout);
+      return 0;
     }
-    _Run(sources, output);
+    _CheckArguments(arguments);
+    _Run(arguments.sources, arguments.outputs.front());
     return 0;
+  } catch (const UsageError& error) {
+    std::fprintf(stderr, "%s\nRun with --help for more information.\n", error.what());
+    return kExitUsage;
   } catch (const std::exception& error) {
     std::fprintf(stderr, "%s\n", error.what());
   }

@@ -2,19 +2,17 @@
 
 #include <exception>
 #include <new>
-#include <nlohmann/json.hpp>
 #include <system_error>
 #include <utility>
 #include <vector>
 
 #include "CommandLine/Findings/FindingsJson.h"
+#include "CommandLine/Json.h"
 #include "CommandLine/TerminalText.h"
 #include "Export/ClassExport.h"
 #include "Systems/FindingTexts.h"
 
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 constexpr size_t kMostNames = 3;
 
@@ -125,14 +123,14 @@ std::string _AsJson(const BatchItem& item, const BatchResult& result, const Clas
       {"file", item.source.path},
       {"output", _IsWritten(result.status) ? Json(item.outputPath) : Json()},
       {"status", FindBatchStatus(result.status).key},
-      {"exitStatus", result.exitStatus},
+      {"exitStatus", static_cast<int>(result.exitStatus)},
       {"reason", result.reason},
       {"className", isRead ? exporting->File().name : ""},
       {"students", counts.students},
       {"assignments", counts.assignments},
       {"scores", counts.scores},
-      {"findings", isChecked ? FindingsJson(exporting->Found(), exporting->Subject()) : Json::array()}};
-  return json.dump(-1, ' ', false, Json::error_handler_t::replace);
+      {"findings", isChecked ? FindingsJson(exporting->Found(), exporting->Subject()) : Json::List()}};
+  return json.Line();
 }
 
 BatchResult _ExportClass(const BatchItem& item, const ExportOptions& options) {

@@ -1,12 +1,9 @@
 #include "CommandLine/Batch/BatchJson.h"
 
-#include <nlohmann/json.hpp>
-
+#include "CommandLine/Json.h"
 #include "CommandLine/OutputFile.h"
 
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 constexpr int kVersion = 1;
 
@@ -16,7 +13,7 @@ BatchJson::BatchJson(const ExportChoices& choices) {
   const Json head = {{"version", kVersion},
                      {"format", choices.format->key},
                      {"dialect", choices.dialect == Dialect::kCurrent ? "current" : "classic"}};
-  std::string text = head.dump();
+  std::string text = head.Line();
   text.back() = ',';
   WriteStandardOutput(text + "\n\"classes\": [");
 }
@@ -34,6 +31,6 @@ void BatchJson::Finish(const BatchSummary& summary) {
                      {"refused", summary.Count(BatchStatus::kRefused)},
                      {"unreadable", summary.Count(BatchStatus::kUnreadable)},
                      {"notWritten", summary.Count(BatchStatus::kNotWritten)}};
-  WriteStandardOutput("],\n\"summary\": " + json.dump() +
+  WriteStandardOutput("],\n\"summary\": " + json.Line() +
                       ",\n\"exitStatus\": " + std::to_string(summary.Status()) + "}\n");
 }

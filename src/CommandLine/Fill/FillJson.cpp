@@ -1,14 +1,12 @@
 #include <algorithm>
-#include <nlohmann/json.hpp>
 
 #include "CommandLine/Fill/FillReport.h"
 #include "CommandLine/Findings/FindingsJson.h"
+#include "CommandLine/Json.h"
 #include "CommandLine/TerminalText.h"
 #include "Systems/LearningSystem.h"
 
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 constexpr int kVersion = 1;
 constexpr size_t kNone = GradebookMatch::kNone;
@@ -46,35 +44,37 @@ class Writer {
                  {"format", m_subject.format->key},
                  {"field", qz::FindStudentField(m_subject.identifier).key},
                  {"identifierColumn", identifiers == kNone ? Json() : Json(Heading(identifiers))}};
-    json["counts"] = Counts();
-    json["columns"] = Columns();
-    json["cells"] = Cells();
-    json["unmatchedStudents"] = Each(m_plan.unmatchedStudents, [this](size_t student) {
-      return Json{{"student", Student(student)}, {"reason", UnmatchedKey(m_plan.match.students[student])}};
-    });
-    json["unmatchedMembers"] = Each(m_plan.unmatchedMembers, [this](size_t member) {
-      const CourseMember& who = m_gradebook.members[member];
-      return Json{{"name", who.name}, {"line", m_gradebook.table.LineOf(who.row)}};
-    });
-    json["unmatchedAssignments"] = Each(m_plan.unmatchedAssignments, [this](size_t i) {
-      return Json{{"assignment", Assignment(i)}, {"reason", UnmatchedKey(m_plan.match.titles[i])}};
-    });
-    json["unmatchedColumns"] =
-        Each(m_plan.unmatchedColumns, [this](size_t column) { return Json(Heading(column)); });
-    json["differentPoints"] = Each(m_plan.differentPoints, [this](size_t i) {
-      return Json{{"assignment", Assignment(i)},
-                  {"points", Record(i).pointsPossible},
-                  {"gradebookPoints", *m_gradebook.columns[m_plan.match.columnOf[i]].pointsPossible}};
-    });
-    json["findings"] = FindingsJson(m_plan.findings, m_subject);
+    json.Set("counts", Counts());
+    json.Set("columns", Columns());
+    json.Set("cells", Cells());
+    json.Set("unmatchedStudents", Each(m_plan.unmatchedStudents, [this](size_t student) {
+               return Json{{"student", Student(student)},
+                           {"reason", UnmatchedKey(m_plan.match.students[student])}};
+             }));
+    json.Set("unmatchedMembers", Each(m_plan.unmatchedMembers, [this](size_t member) {
+               const CourseMember& who = m_gradebook.members[member];
+               return Json{{"name", who.name}, {"line", m_gradebook.table.LineOf(who.row)}};
+             }));
+    json.Set("unmatchedAssignments", Each(m_plan.unmatchedAssignments, [this](size_t i) {
+               return Json{{"assignment", Assignment(i)}, {"reason", UnmatchedKey(m_plan.match.titles[i])}};
+             }));
+    json.Set("unmatchedColumns",
+             Each(m_plan.unmatchedColumns, [this](size_t column) { return Json(Heading(column)); }));
+    json.Set("differentPoints", Each(m_plan.differentPoints, [this](size_t i) {
+               return Json{
+                   {"assignment", Assignment(i)},
+                   {"points", Record(i).pointsPossible},
+                   {"gradebookPoints", *m_gradebook.columns[m_plan.match.columnOf[i]].pointsPossible}};
+             }));
+    json.Set("findings", FindingsJson(m_plan.findings, m_subject));
     return json;
   }
 
  private:
   template <typename Describe>
   static Json Each(const std::vector<size_t>& items, Describe describe) {
-    Json array = Json::array();
-    for (const size_t item : items) array.push_back(describe(item));
+    Json array = Json::List();
+    for (const size_t item : items) array.Add(describe(item));
     return array;
   }
 
@@ -94,29 +94,29 @@ class Writer {
     Json counts = {{"students", std::ranges::count_if(m_plan.match.memberOf, isFound)},
                    {"assignments", std::ranges::count_if(m_plan.match.columnOf, isFound)}};
     for (const KindKey& each : kKinds) {
-      counts[each.key] = std::ranges::count(m_plan.cells, each.kind, &FillCell::kind);
+      counts.Set(each.key, std::ranges::count(m_plan.cells, each.kind, &FillCell::kind));
     }
     return counts;
   }
 
   Json Columns() const {
-    Json columns = Json::array();
+    Json columns = Json::List();
     for (const FillColumn& column : m_plan.columns) {
       if (column.assignment == kNone) continue;
-      columns.push_back({{"assignment", Assignment(column.assignment)},
-                         {"column", column.column == kNone ? Json() : Json(Heading(column.column))}});
+      columns.Add({{"assignment", Assignment(column.assignment)},
+                   {"column", column.column == kNone ? Json() : Json(Heading(column.column))}});
     }
     return columns;
   }
 
   Json Cells() const {
-    Json cells = Json::array();
+    Json cells = Json::List();
     for (const FillCell& cell : m_plan.cells) {
-      cells.push_back({{"student", m_subject.texts.Record().students[cell.student].id},
-                       {"assignment", Record(cell.assignment).id},
-                       {"kind", _Key(cell.kind)},
-                       {"old", cell.oldText},
-                       {"new", cell.newText}});
+      cells.Add({{"student", m_subject.texts.Record().students[cell.student].id},
+                 {"assignment", Record(cell.assignment).id},
+                 {"kind", _Key(cell.kind)},
+                 {"old", cell.oldText},
+                 {"new", cell.newText}});
     }
     return cells;
   }
@@ -130,5 +130,5 @@ class Writer {
 }  // namespace
 
 std::string FillJson(const FillReport& report) {
-  return Writer(report).Whole().dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
+  return Writer(report).Whole().Text();
 }

@@ -1,14 +1,11 @@
 #include "CommandLine/Findings/FindingsJson.h"
 
 #include <algorithm>
-#include <nlohmann/json.hpp>
 #include <utility>
 
 #include "Systems/FindingTexts.h"
 
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 constexpr Consequence kConsequences[] = {Consequence::kRefused, Consequence::kWrong, Consequence::kLost,
                                          Consequence::kChanged, Consequence::kNote};
@@ -25,11 +22,11 @@ Json _AssignmentJson(size_t assignment, const qz::ClassTexts& texts) {
 
 Json _FindingJson(const Finding& finding, const ExportSubject& subject) {
   FindingText text = DescribeFinding(finding, subject, TextLanguage::kEnglish);
-  Json places = Json::array();
+  Json places = Json::List();
   for (const FindingPlace& place : finding.places) {
-    places.push_back({{"student", _StudentJson(place.student, subject.texts)},
-                      {"assignment", _AssignmentJson(place.assignment, subject.texts)},
-                      {"detail", place.detail}});
+    places.Add({{"student", _StudentJson(place.student, subject.texts)},
+                {"assignment", _AssignmentJson(place.assignment, subject.texts)},
+                {"detail", place.detail}});
   }
   return {{"code", finding.code},         {"consequence", ConsequenceKey(finding.consequence)},
           {"what", std::move(text.what)}, {"advice", std::move(text.advice)},
@@ -39,17 +36,15 @@ Json _FindingJson(const Finding& finding, const ExportSubject& subject) {
 }  // namespace
 
 Json FindingsJson(const Findings& findings, const ExportSubject& subject) {
-  Json json = Json::array();
-  for (const Finding& finding : findings) json.push_back(_FindingJson(finding, subject));
+  Json json = Json::List();
+  for (const Finding& finding : findings) json.Add(_FindingJson(finding, subject));
   return json;
 }
 
 Json ConsequenceCountsJson(const Findings& findings) {
   Json json;
   for (const Consequence consequence : kConsequences) {
-    json[ConsequenceKey(consequence)] =
-        std::count_if(findings.begin(), findings.end(),
-                      [consequence](const Finding& finding) { return finding.consequence == consequence; });
+    json.Set(ConsequenceKey(consequence), std::ranges::count(findings, consequence, &Finding::consequence));
   }
   return json;
 }

@@ -2,15 +2,14 @@
 #ifndef GRADIX_FINDINGSJSON_H
 #define GRADIX_FINDINGSJSON_H
 
-#include <nlohmann/json_fwd.hpp>
-
+#include "CommandLine/Json.h"
 #include "Systems/ExportSubject.h"
 #include "Systems/Finding.h"
 
 // An array with an object per finding, in the same order, with all its places.
-nlohmann::ordered_json FindingsJson(const Findings& findings, const ExportSubject& subject);
+Json FindingsJson(const Findings& findings, const ExportSubject& subject);
 
 // How many findings have each consequence.
-nlohmann::ordered_json ConsequenceCountsJson(const Findings& findings);
+Json ConsequenceCountsJson(const Findings& findings);
 
 #endif  // GRADIX_FINDINGSJSON_H

@@ -1,40 +1,36 @@
-#include <nlohmann/json.hpp>
 
 #include "CommandLine/Inspect/Inspection.h"
+#include "CommandLine/Json.h"
 
 namespace {
-
-using Json = nlohmann::ordered_json;
 
 constexpr int kVersion = 1;
 
 // Groups of students by their ids.
 Json _Groups(const qz::ClassRecord& record, const std::vector<std::vector<size_t>>& groups) {
-  Json array = Json::array();
+  Json array = Json::List();
   for (const std::vector<size_t>& group : groups) {
-    Json ids = Json::array();
-    for (const size_t student : group) ids.push_back(record.students[student].id);
-    array.push_back(std::move(ids));
+    Json ids = Json::List();
+    for (const size_t student : group) ids.Add(record.students[student].id);
+    array.Add(std::move(ids));
   }
   return array;
 }
 
 Json _Labels(const qz::ClassTexts& texts) {
-  Json array = Json::array();
+  Json array = Json::List();
   for (const qz::StudentField& field : qz::kStudentFields) {
-    if (field.title == nullptr) array.push_back(texts.FieldTitle(field));
+    if (field.title == nullptr) array.Add(texts.FieldTitle(field));
   }
   return array;
 }
 
 Json _Scores(const ScoreStatistics& scores) {
-  Json json = {{"count", scores.results}, {"mean", nullptr}, {"min", nullptr}, {"max", nullptr}};
-  if (scores.figures) {
-    json["mean"] = scores.figures->mean;
-    json["min"] = scores.figures->minimum;
-    json["max"] = scores.figures->maximum;
-  }
-  return json;
+  const std::optional<ScoreFigures>& figures = scores.figures;
+  return {{"count", scores.results},
+          {"mean", figures ? Json(figures->mean) : Json()},
+          {"min", figures ? Json(figures->minimum) : Json()},
+          {"max", figures ? Json(figures->maximum) : Json()}};
 }
 
 Json _Assignment(const qz::ClassTexts& texts, size_t position, const ScoreStatistics& scores) {
@@ -66,25 +62,38 @@ Json _Field(const qz::ClassTexts& texts, const FieldQuality& field) {
 Json _Student(const qz::ClassTexts& texts, size_t position) {
   Json json = {{"id", texts.Record().students[position].id}};
   for (const qz::StudentField& field : qz::kStudentFields) {
-    if (!field.isSecret) json[field.key] = texts.Student(position, field);
+    if (!field.isSecret) json.Set(field.key, texts.Student(position, field));
   }
   return json;
+}
+
+Json _Assignments(const qz::ClassTexts& texts, const std::vector<ScoreStatistics>& scores) {
+  Json array = Json::List();
+  for (size_t i = 0; i < scores.size(); ++i) array.Add(_Assignment(texts, i, scores[i]));
+  return array;
+}
+
+Json _Fields(const qz::ClassTexts& texts, const std::vector<FieldQuality>& fields) {
+  Json array = Json::List();
+  for (const FieldQuality& field : fields) array.Add(_Field(texts, field));
+  return array;
+}
+
+Json _Students(const qz::ClassTexts& texts) {
+  Json array = Json::List();
+  for (size_t i = 0; i < texts.Record().students.size(); ++i) array.Add(_Student(texts, i));
+  return array;
 }
 
 }  // namespace
 
 std::string InspectionJson(const ClassInspection& inspection) {
   const qz::ClassTexts texts = inspection.file.Texts();
-  Json json = {
-      {"version", kVersion},          {"className", inspection.file.name}, {"customLabels", _Labels(texts)},
-      {"assignments", Json::array()}, {"identifierFields", Json::array()}, {"students", Json::array()}};
-  for (size_t i = 0; i < inspection.scores.size(); ++i) {
-    json["assignments"].push_back(_Assignment(texts, i, inspection.scores[i]));
-  }
-  for (const FieldQuality& field : inspection.fields)
-    json["identifierFields"].push_back(_Field(texts, field));
-  for (size_t i = 0; i < texts.Record().students.size(); ++i) {
-    json["students"].push_back(_Student(texts, i));
-  }
-  return json.dump(2) + "\n";
+  const Json json = {{"version", kVersion},
+                     {"className", inspection.file.name},
+                     {"customLabels", _Labels(texts)},
+                     {"assignments", _Assignments(texts, inspection.scores)},
+                     {"identifierFields", _Fields(texts, inspection.fields)},
+                     {"students", _Students(texts)}};
+  return json.Text();
 }

@@ -30,7 +30,7 @@ class InstallTest(unittest.TestCase):
         others = {path for path in installed if not path.startswith("share/gradix/Quizonne Help/")}
         resources = "share/gradix/Gradix.bundle/Resources/"
         self.assertEqual(others, {
-            "bin/gxexport", "bin/gxhost", "include/gradix/QZFilter.h", "lib/GX_StdCsv.so",
+            "bin/gxexport", "bin/gxhost", "include/gradix/QZFilter.h", "lib/gradix/GX_StdCsv.so",
             "lib/pkgconfig/gradix-filter.pc", "share/applications/gradix.desktop",
             "share/bash-completion/completions/gxexport", "share/icons/hicolor/scalable/apps/gradix.svg",
             "share/man/man1/gxexport.1", "share/man/man1/gxhost.1",
@@ -44,12 +44,19 @@ class InstallTest(unittest.TestCase):
         self.assertTrue(output.startswith("Student,ID,Section,"))
         self.assertRegex(run(self.prefix / "bin/gxhost", "--version").stdout, r"^gxhost \d+\.\d+\.\d+\n$")
 
-    def test_a_host_beside_them_finds_the_run_time_files(self):
-        host = shutil.copy(os.environ["EXAMPLE_HOST"], self.prefix / "bin")
-        self.addCleanup(os.remove, host)
-        module = self.prefix / "lib/GX_StdCsv.so"
-        done = run(host, module, ROOT / "samples/village-school.xml", 6, 2, "/nonexistent/x.csv", env=self.environment)
-        self.assertIn("dialog is open", done.stdout)
+    def test_a_host_finds_the_run_time_files(self):
+        """Beside the programs, and in a folder of its own by a path of the module that is relative and a link."""
+        plugins = self.prefix / "plugins"
+        plugins.mkdir()
+        (plugins / "filter.so").symlink_to("../lib/gradix/GX_StdCsv.so")
+        self.addCleanup(shutil.rmtree, plugins)
+        for folder, module in ("bin", self.prefix / "lib/gradix/GX_StdCsv.so"), ("plugins", "plugins/filter.so"):
+            with self.subTest(folder):
+                host = shutil.copy(os.environ["EXAMPLE_HOST"], self.prefix / folder)
+                self.addCleanup(Path(host).unlink, missing_ok=True)
+                done = run(host, module, ROOT / "samples/village-school.xml", 6, 2, "/nonexistent/x.csv",
+                           env=self.environment, cwd=self.prefix)
+                self.assertIn("dialog is open", done.stdout)
 
     @unittest.skipUnless(shutil.which("pkg-config"), "no pkg-config")
     def test_pkg_config(self):
@@ -57,7 +64,7 @@ class InstallTest(unittest.TestCase):
         variables = [run("pkg-config", f"--variable={name}", "gradix-filter", env=environment).stdout.strip()
                      for name in ("filterdir", "bundle")]
         self.assertEqual([Path(variable).resolve() for variable in variables],
-                         [self.prefix / "lib", self.prefix / "share/gradix/Gradix.bundle"])
+                         [self.prefix / "lib/gradix", self.prefix / "share/gradix/Gradix.bundle"])
         flags = run("pkg-config", "--cflags", "gradix-filter", env=environment).stdout.split()
         run(os.environ["CC"], "-fsyntax-only", *flags, ROOT / "docs/examples/host.c")
 

@@ -40,7 +40,7 @@ TEST_F(FilterModuleTest, TellsWhyAModuleCannotBeUsed) {
 }
 
 TEST_F(FilterModuleTest, PathComesFromTheEnvironmentFirst) {
-  EXPECT_TRUE(FilterModule::DefaultPath().endsWith(QStringLiteral("/lib/GX_StdCsv.so")));
+  EXPECT_TRUE(FilterModule::DefaultPath().endsWith(QStringLiteral("/lib/gradix/GX_StdCsv.so")));
   EXPECT_FALSE(FilterModule::DefaultPath().contains(QStringLiteral("..")));
   qputenv("GRADIX_FILTER", "/elsewhere/filter.so");
   EXPECT_EQ(FilterModule::DefaultPath(), QStringLiteral("/elsewhere/filter.so"));

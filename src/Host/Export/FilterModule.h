@@ -33,8 +33,8 @@ struct FilterLoadError {
 // outlive every export.
 class FilterModule {
  public:
-  // `../lib/GX_StdCsv.so` seen from the program's folder, or what the environment variable GRADIX_FILTER
-  // names.
+  // `../lib/gradix/GX_StdCsv.so` seen from the program's folder, or what the environment variable
+  // GRADIX_FILTER names.
   static QString DefaultPath();
 
   // Null when the module cannot be used; `error`, unless null, tells why.

@@ -1,5 +1,6 @@
 #include "Platform/Core/CFBundle.h"
 
+#include <dlfcn.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -23,14 +24,39 @@ namespace {
 
 constexpr size_t kTableLimit = size_t{4} << 20;  // bytes
 
-std::string _MainBundlePath() {
-  const char* const environment = std::getenv("GRADIX_BUNDLE");
-  if (environment != nullptr && *environment != '\0') return AbsolutePath(environment);
+std::string _BundleUnder(std::string_view prefix) {
+  return AbsolutePath(std::string(prefix).append("/share/gradix/Gradix.bundle"));
+}
+
+// Where an installed program of ours has it; empty when the program's file is not known.
+std::string _BundleOfProgram() {
   char executable[PATH_MAX];
   const ssize_t length = readlink("/proc/self/exe", executable, sizeof(executable));
   if (length <= 0) return {};
-  const std::string_view folder = FolderPart({executable, static_cast<size_t>(length)});
-  return AbsolutePath(std::string(FolderPart(folder)).append("/share/gradix/Gradix.bundle"));
+  return _BundleUnder(FolderPart(FolderPart({executable, static_cast<size_t>(length)})));
+}
+
+// The file that this code was loaded from, without symbolic links; empty when it is not known.
+std::string _ModulePath() {
+  Dl_info module{};
+  if (dladdr(reinterpret_cast<const void*>(&CFBundleGetMainBundle), &module) == 0) return {};
+  char path[PATH_MAX];
+  return realpath(module.dli_fname, path) == nullptr ? std::string() : std::string(path);
+}
+
+// Where an installed module, in `lib/gradix`, has it; empty when the module's file is not known.
+std::string _BundleOfModule() {
+  static const std::string module = _ModulePath();  // asked at once: it may be relative to the working folder
+  if (module.empty()) return {};
+  return _BundleUnder(FolderPart(FolderPart(FolderPart(module))));
+}
+
+std::string _MainBundlePath() {
+  const char* const environment = std::getenv("GRADIX_BUNDLE");
+  if (environment != nullptr && *environment != '\0') return AbsolutePath(environment);
+  std::string ofModule = _BundleOfModule();
+  std::string ofProgram = _BundleOfProgram();
+  return IsFolder(ofProgram) ? ofProgram : ofModule;
 }
 
 // Bundles live as long as the process.

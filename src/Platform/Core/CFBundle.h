@@ -1,7 +1,8 @@
 // The main bundle: resources and localised strings of the running program.
 //
-// It is the folder "Gradix.bundle" in `<folder of the executable>/../share/gradix`, or the one that the
-// environment variable GRADIX_BUNDLE names. Resources and string tables lie in its folder "Resources".
+// It is the folder "Gradix.bundle" in `<folder of the executable>/../share/gradix`, or, where that is
+// missing, in `<folder of this code's module>/../../share/gradix`; or the one that the environment variable
+// GRADIX_BUNDLE names. Resources and string tables lie in its folder "Resources".
 #ifndef GRADIX_CFBUNDLE_H
 #define GRADIX_CFBUNDLE_H
 

@@ -1,6 +1,7 @@
 """The installed tree: complete, movable, and usable from outside."""
 import os
 import shutil
+import struct
 import subprocess
 import tempfile
 import unittest
@@ -29,13 +30,22 @@ class InstallTest(unittest.TestCase):
         installed = {str(path.relative_to(self.prefix)) for path in self.prefix.rglob("*") if path.is_file()}
         others = {path for path in installed if not path.startswith("share/gradix/Quizonne Help/")}
         resources = "share/gradix/Gradix.bundle/Resources/"
+        icons = "share/icons/hicolor/"
+        sizes = (16, 22, 24, 32, 48, 64, 128, 256)
         self.assertEqual(others, {
             "bin/gxexport", "bin/gxhost", "include/gradix/QZFilter.h", "lib/gradix/GX_StdCsv.so",
             "lib/pkgconfig/gradix-filter.pc", "share/applications/gradix.desktop",
-            "share/bash-completion/completions/gxexport", "share/icons/hicolor/scalable/apps/gradix.svg",
+            "share/metainfo/example.gradix.gradix.metainfo.xml", "share/mime/packages/gradix.xml",
+            "share/bash-completion/completions/gxexport", "share/fish/vendor_completions.d/gxexport.fish",
+            "share/zsh/site-functions/_gxexport",
             "share/man/man1/gxexport.1", "share/man/man1/gxhost.1",
+            icons + "scalable/apps/gradix.svg", icons + "scalable/mimetypes/application-x-gradix-class+xml.svg",
+            *(f"{icons}{size}x{size}/apps/gradix.png" for size in sizes),
             resources + "Gradix.rsrc", resources + "GradixStringsENU.strings", resources + "GradixStringsESP.strings",
             resources + "qzfstdcsv.rsrc", resources + "qzfstdcsvESP.rsrc"})
+        for size in sizes:
+            picture = (self.prefix / f"{icons}{size}x{size}/apps/gradix.png").read_bytes()
+            self.assertEqual(struct.unpack(">II", picture[16:24]), (size, size))
         for language in "en", "es":
             self.assertIn(f"share/gradix/Quizonne Help/{language}/Quizonne Gradix/qzmanage.htm", installed)
 
@@ -72,6 +82,33 @@ class InstallTest(unittest.TestCase):
     def test_desktop_entry(self):
         done = run("desktop-file-validate", self.prefix / "share/applications/gradix.desktop")
         self.assertEqual(done.stdout + done.stderr, "")
+
+    @unittest.skipUnless(shutil.which("appstreamcli"), "no appstreamcli")
+    def test_metainfo(self):
+        [file] = (self.prefix / "share/metainfo").iterdir()
+        run("appstreamcli", "validate", "--no-net", file)
+
+    @unittest.skipUnless(shutil.which("update-mime-database") and shutil.which("gio"), "no MIME database, or no gio")
+    def test_type_of_class_files(self):
+        """By the root element: another XML file is none."""
+        with tempfile.TemporaryDirectory() as folder:
+            data = Path(folder) / "mime"
+            shutil.copytree("/usr/share/mime/packages", data / "packages")
+            shutil.copy(self.prefix / "share/mime/packages/gradix.xml", data / "packages")
+            done = run("update-mime-database", data)
+            self.assertNotIn("gradix", done.stdout + done.stderr)
+            environment = os.environ | {"XDG_DATA_DIRS": folder, "XDG_DATA_HOME": f"{folder}/none"}
+            kind = "application/x-gradix-class+xml"
+            other = "<?xml version='1.0'?>\n<school><class></class></school>"
+            for name, text, expected in (
+                    ("class.xml", (ROOT / "samples/village-school.xml").read_text(), kind),
+                    ("class", '<?xml version="1.0" encoding="ISO-8859-1" standalone="yes"?>\r\n<class>', kind),
+                    ("other.xml", other, "application/xml"), ("other", other, "application/xml"),
+                    ("bare.xml", "<school/>", "application/xml")):
+                with self.subTest(name):
+                    (Path(folder) / name).write_text(text)
+                    done = run("gio", "info", "-a", "standard::content-type", Path(folder) / name, env=environment)
+                    self.assertEqual(done.stdout.split()[-1], expected)
 
     @unittest.skipUnless(shutil.which("mandoc"), "no mandoc")
     def test_manual_pages(self):

@@ -345,12 +345,18 @@ class Output(FolderTest):
         self.assertEqual(self.written(), subprocess.run(command, shell=True, capture_output=True).stdout)
 
     def test_a_signal_leaves_nothing_behind(self):
+        def heed_signals():
+            """A run in the background ignores the interrupt, one under nohup the hang-up, and so would the child."""
+            for number in (signal.SIGINT, signal.SIGHUP):
+                signal.signal(number, signal.SIG_DFL)
+
         questions = [("A", 1)] * 2000
         source = self.write_class([student(i, "Name") for i in range(4000)], [assignment(1, "Long", questions)])
         self.output.write_bytes(b"old")
         for number in (signal.SIGINT, signal.SIGTERM, signal.SIGHUP, signal.SIGKILL):
             with self.subTest(number.name):
-                process = subprocess.Popen([GXEXPORT, "export", "-f", "detailed", "-o", self.output, source])
+                process = subprocess.Popen([GXEXPORT, "export", "-f", "detailed", "-o", self.output, source],
+                                           preexec_fn=heed_signals)
                 while process.poll() is None and not self.is_writing(process):
                     time.sleep(0.0005)
                 process.send_signal(number)

@@ -1,11 +1,13 @@
 // What a host is told, and whatever it may do while a dialog is open.
 #include <malloc.h>
 
+#include <QPixmapCache>
 #include <QWindow>
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
 #include <functional>
+#include <sstream>
 
 #include "bench/ClassGenerator.h"
 #include "tests/filter/FilterFixture.h"
@@ -19,7 +21,7 @@ class HostsTest : public FilterTest {
  protected:
   // A bundle with nothing but the program's own alerts.
   std::string BundleWithoutFilter() const {
-    const std::string bundle = PathOf("Alerts.bundle");
+    std::string bundle = PathOf("Alerts.bundle");
     std::filesystem::create_directories(bundle + "/Resources");
     std::filesystem::copy_file(BUNDLE "/Resources/Gradix.rsrc", bundle + "/Resources/Gradix.rsrc");
     return bundle;
@@ -293,20 +295,23 @@ TEST_F(HostsTest, HasTheHostsWindowForAParent) {
   EXPECT_EQ(Dialogs().front()->windowHandle()->transientParent(), window.windowHandle());
 }
 
-TEST_F(HostsTest, AThousandExportsLeaveNothingBehind) {
-  const std::string path = WriteClass(ClassXml({"1", "2", "3"}));
-  const auto exportOnce = [&](uint32_t i) {
-    const uint32_t format = i % Module().formatCount();
-    const QPointer<QWidget> dialog = Open(format, path, 7);
-    Finish(dialog, format);
+// Twice every format; soak_exports of the benchmarks makes as many as are wanted.
+TEST_F(HostsTest, LeavesNothingBehind) {
+  std::ostringstream xml;
+  WriteClassFile(xml, {.students = 500, .assignments = 1, .questions = 1});
+  const std::string path = WriteClass(xml.str());
+  const auto exportToEach = [&] {
+    for (uint32_t format = 0; format < Module().formatCount() && !HasFailure(); ++format) {
+      Finish(Open(format, path, 1), format);
+    }
+    QPixmapCache::clear();  // which keeps the pictures of message boxes, up to a limit of its own
   };
-  constexpr uint32_t kHalf = 500;
-  for (uint32_t i = 0; i < kHalf && !HasFailure(); ++i) exportOnce(i);
+  exportToEach();
   [[maybe_unused]] const size_t inUse = mallinfo2().uordblks;
-  for (uint32_t i = kHalf; i < 2 * kHalf && !HasFailure(); ++i) exportOnce(i);
+  exportToEach();
   EXPECT_LE(QApplication::topLevelWidgets().size(), 5);
 #ifndef __SANITIZE_ADDRESS__  // whose allocator tells nothing
-  constexpr size_t kMostGrowth = 200'000;
+  constexpr size_t kMostGrowth = 20'000;
   EXPECT_LT(mallinfo2().uordblks, inUse + kMostGrowth);
   RecordProperty("growth", static_cast<int>(mallinfo2().uordblks - inUse));
 #endif

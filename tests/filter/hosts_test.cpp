@@ -298,7 +298,7 @@ TEST_F(HostsTest, HasTheHostsWindowForAParent) {
 // Twice every format; soak_exports of the benchmarks makes as many as are wanted.
 TEST_F(HostsTest, LeavesNothingBehind) {
   std::ostringstream xml;
-  WriteClassFile(xml, {.students = 500, .assignments = 1, .questions = 1});
+  WriteClassFile(xml, {.students = 500, .assignments = 1, .questions = 1, .studentIDs = {}, .named = {}});
   const std::string path = WriteClass(xml.str());
   const auto exportToEach = [&] {
     for (uint32_t format = 0; format < Module().formatCount() && !HasFailure(); ++format) {

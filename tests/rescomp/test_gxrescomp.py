@@ -130,16 +130,18 @@ class Messages(FolderTest):
 
     def test_syntax(self):
         rows = {
-            "missing comma": ('{\n  "alerts": [],\n  "é": 1 "dialogs": []}', ":3:18: syntax error while parsing object"),
-            "end of file": ('{"alerts": [', ":1:13: syntax error while parsing value"),
-            "no UTF-8": (b'{\n"alerts": "\xff"}', ":2:12: syntax error while parsing value"),
-            "empty": ("", ":1:1: syntax error while parsing value"),
+            "missing comma": ('{\n  "alerts": [],\n  "é": 1 "dialogs": []}', ":3:18"),
+            "end of file": ('{"alerts": [', ":1:13"),
+            "no UTF-8": (b'{\n"alerts": "\xff"}', ":2:12"),
+            "empty": ("", ":1:1"),
         }
-        for name, (source, start) in rows.items():
+        for name, (source, place) in rows.items():
             with self.subTest(name):
                 result = run(self.write("s.json", source).name, "-o", "out.rsrc", cwd=self.folder)
-                self.assertEqual((result.returncode, result.stderr.count(b"\n")), (1, 1))
-                self.assertTrue(result.stderr.startswith(f"s.json{start}".encode()), result.stderr)
+                self.assertEqual(result.returncode, 1)
+                # The reason is the JSON library's, in words that change with its version.
+                message = result.stderr.decode(errors="replace")
+                self.assertRegex(message, rf"\As\.json{place}: not valid JSON: [a-z]+ (?!error at)[^\n]+\n\Z")
 
     def test_id_twice_in_two_files(self):
         for name in ("a.json", "b.json"):

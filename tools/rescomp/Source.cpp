@@ -86,7 +86,8 @@ json _Parse(const std::string& file, const std::string& text) {
         true, true);
   } catch (const json::parse_error& error) {
     const size_t offset = error.byte > 0 ? error.byte - 1 : 0;
-    throw SourceError(file + _LineAndColumn(text, offset) + ": " + _PlainMessage(error.what()));
+    throw SourceError(file + _LineAndColumn(text, offset) +
+                      ": not valid JSON: " + _PlainMessage(error.what()));
   } catch (const json::exception& error) {
     throw SourceError(file + ": " + error.what());
   }

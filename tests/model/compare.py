@@ -90,10 +90,13 @@ def gxexport(path: str, arguments: list[str], file: Path, piped: bool) -> tuple[
 
 
 def check_formats(path: str) -> None:
-    """The model has to know every format that there is, and which of them can do without quotes."""
+    """The model has to know every format that there is, which of them can do without quotes, and which have a
+    current file."""
     formats = json.loads(subprocess.check_output([path, "formats", "--json"], timeout=60))
     unquoted = {row["key"] for row in formats if row["hasUnquotedVariant"]}
-    if ({row["key"] for row in formats}, unquoted) != ({*GRADEBOOKS, "detailed"}, gxmodel.UNQUOTED):
+    current = {row["key"] for row in formats if row["hasCurrentFile"]}
+    known = ({*GRADEBOOKS, "detailed"}, gxmodel.UNQUOTED, {*gxcurrent.CURRENT})
+    if ({row["key"] for row in formats}, unquoted, current) != known:
         sys.exit(f"the formats are not those of the model: {formats}")
 
 

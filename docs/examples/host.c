@@ -3,6 +3,8 @@
  *
  *   host MODULE [CLASSFILE FORMATINDEX ASSIGNMENTID OUTPUT]
  */
+#define _XOPEN_SOURCE 700 /* realpath */
+
 #include <dlfcn.h>
 #include <stdio.h>
 #include <stdlib.h>

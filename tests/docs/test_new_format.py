@@ -19,7 +19,7 @@ STEPS = PAGE[PAGE.index("\n## 1. "):]
 
 # What a new format is compared with: the tests that go through the table.
 TARGETS = ["gxexport", "unit_tests", "reader_tests", "export_tests", "systems_tests"]
-TESTS = "SessionMgr|EntryPoints|Findings|help_book|docs_pages|cli_completion"
+TESTS = "SessionMgr|EntryPoints|Findings|help_book|docs_pages"
 GOLDEN = "tests/golden/*.example*.csv"  # not in the patch: a command of the page makes them
 
 # Stands before each call of the compiler: an object that the copy does not change is taken from the build at hand.
@@ -120,7 +120,7 @@ class NewFormat(unittest.TestCase):
                          self.gxexport("export", "-f", str(len(formats) - 1), sample))
         self.assertIn(", for Example, current file\n",
                       self.gxexport("check", "-f", "example", "--dialect", "current", sample))
-        proposed = run("python3", "-c", "import test_completion as t; print(*t.complete('gxexport check -f exa')[0])",
+        proposed = run("python3", "-c", "import test_completion as t; print(*t.bash('gxexport check -f exa')[0])",
                        cwd=self.copy / "tests/cli", env=self.environment | {
                            "GXEXPORT": str(self.build / "bin/gxexport"), "SAMPLES": str(self.copy / "samples")})
         self.assertEqual(proposed, "example\n")

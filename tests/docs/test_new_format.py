@@ -18,7 +18,7 @@ PATCHED = re.findall(r"^\+\+\+ b/(.*?)\t?$", PATCH.read_text(), re.MULTILINE)
 STEPS = PAGE[PAGE.index("\n## 1. "):]
 
 # What a new format is compared with: the tests that go through the table.
-TARGETS = ["gxexport", "unit_tests", "reader_tests", "export_tests", "systems_tests"]
+TARGETS = ["gxexport", "gxrescomp", "unit_tests", "reader_tests", "export_tests", "systems_tests"]
 TESTS = "SessionMgr|EntryPoints|Findings|help_book|docs_pages"
 GOLDEN = "tests/golden/*.example*.csv"  # not in the patch: a command of the page makes them
 

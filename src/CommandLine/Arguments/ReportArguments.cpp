@@ -52,8 +52,8 @@ std::string _DefaultFields() {
 }
 
 std::string _DefaultColumns() {
-  const auto& options = qz::kDefaultReportOptions;
-  return Listed(KeysOf(kReportColumns, [&options](const ReportColumns& row) {
+  return Listed(KeysOf(kReportColumns, [](const ReportColumns& row) {
+    const auto& options = qz::kDefaultReportOptions;
     return row.responses == options[qz::kReportResponses] && row.points == options[qz::kReportPointsEarned];
   }));
 }

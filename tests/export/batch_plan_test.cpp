@@ -85,8 +85,8 @@ TEST_F(Batch, EveryClassHasItsOwnFile) {
 }
 
 TEST(RunInParallel, GivesEveryIndexOneTurn) {
-  for (const size_t count : {0, 1, 3, 1000}) {
-    for (const size_t jobs : {0, 1, 4, 5000}) {
+  for (const size_t count : {0U, 1U, 3U, 1000U}) {
+    for (const size_t jobs : {0U, 1U, 4U, 5000U}) {
       std::vector<std::atomic<int>> turns(count);
       std::atomic<size_t> running = 0;
       std::atomic<size_t> most = 0;

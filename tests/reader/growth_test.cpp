@@ -176,7 +176,7 @@ TEST(Growth, NeverFasterThanTheDocument) {
   constexpr double kSlack = 65536;
   for (const Shape& shape : kShapes) {
     const Costs costs = _LeastCosts(shape);
-    for (const size_t i : {1, 2}) {
+    for (const size_t i : {1U, 2U}) {
       const auto factor = static_cast<double>(kFactors[i]);
       EXPECT_TRUE(_GrowsWithTheDocument(costs, i))
           << shape.what << ", times " << factor << ": " << costs[0].seconds << " s, then " << costs[i].seconds
@@ -219,7 +219,7 @@ TEST(Growth, OfAnExportFollowsStudentsAndResults) {
   for (const FormatRow& format : FormatTable()) {
     constexpr size_t kSmall = 150;
     const auto small = static_cast<double>(_PeakOfWriting(format, kSmall));
-    for (const size_t times : {2, 4}) {
+    for (const size_t times : {2U, 4U}) {
       const auto peak = static_cast<double>(_PeakOfWriting(format, times * kSmall));
       EXPECT_LT(peak / small, 1.5 * static_cast<double>(times)) << format.key;
     }

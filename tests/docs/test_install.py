@@ -68,6 +68,17 @@ class InstallTest(unittest.TestCase):
                            env=self.environment, cwd=self.prefix)
                 self.assertIn("dialog is open", done.stdout)
 
+    @unittest.skipUnless(os.environ["HARDENED"] == "1", "no release build")
+    def test_hardening(self):
+        for name in "bin/gxexport", "bin/gxhost", "lib/gradix/GX_StdCsv.so":
+            with self.subTest(name):
+                told = run("readelf", "--wide", "--file-header", "--segments", "--dynamic", "--dyn-syms",
+                           self.prefix / name).stdout
+                for pattern in (r"Type: +DYN", r"GNU_RELRO", r"FLAGS.*NOW", r"__stack_chk_fail", r"__\w+_chk@GLIBC",
+                                r"__glibcxx_assert_fail"):
+                    self.assertRegex(told, pattern)
+                self.assertNotRegex(told, r"GNU_STACK.*RWE|NEEDED.*libcsv")
+
     @unittest.skipUnless(shutil.which("pkg-config"), "no pkg-config")
     def test_pkg_config(self):
         environment = dict(os.environ, PKG_CONFIG_PATH=str(self.prefix / "lib/pkgconfig"))

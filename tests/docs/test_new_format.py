@@ -19,6 +19,9 @@ STEPS = PAGE[PAGE.index("\n## 1. "):]
 
 # What a new format is compared with: the tests that go through the table.
 TARGETS = ["gxexport", "gxrescomp", "unit_tests", "reader_tests", "export_tests", "systems_tests"]
+UI = "EXAMPLE_HOST" in os.environ
+UI_TARGETS = ["GX_StdCsv", "gradix_resources"]
+UI_SOURCES = ["src/Host/Result/UploadSteps.cpp", "tests/filter/end_to_end_test.cpp"]  # are compiled, but not linked
 TESTS = "SessionMgr|EntryPoints|Findings|help_book|docs_pages"
 GOLDEN = "tests/golden/*.example*.csv"  # not in the patch: a command of the page makes them
 
@@ -79,9 +82,9 @@ class NewFormat(unittest.TestCase):
         launcher.chmod(0o755)
         cache = dict(re.findall(r"^(\w+):\w+=(.*)$", (BUILD / "CMakeCache.txt").read_text(), re.MULTILINE))
         same = ["CMAKE_C_COMPILER", "CMAKE_CXX_COMPILER", "GRADIX_SANITIZE"]
-        run(os.environ["CMAKE"], "-S", cls.copy, "-B", cls.build, "-G", cache["CMAKE_GENERATOR"], "-DGRADIX_UI=OFF",
+        run(os.environ["CMAKE"], "-S", cls.copy, "-B", cls.build, "-G", cache["CMAKE_GENERATOR"], f"-DGRADIX_UI={UI}",
             "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS_DEBUG=", f"-DCMAKE_CXX_COMPILER_LAUNCHER={launcher}", *(f"-D{name}={cache.get(name, '')}" for name in same))
-        run(os.environ["CMAKE"], "--build", cls.build, "--target", *TARGETS)
+        run(os.environ["CMAKE"], "--build", cls.build, "--target", *TARGETS, *UI_TARGETS * UI)
 
     @classmethod
     def patch(cls, *options):
@@ -128,6 +131,24 @@ class NewFormat(unittest.TestCase):
             with self.subTest(tests):
                 passed, told = self.outcome(tests)
                 self.assertTrue(passed, told)
+
+    @unittest.skipUnless(UI, "built without Qt")
+    def test_the_dialog_opens(self):
+        (module,) = self.build.glob("lib/**/GX_StdCsv.so")
+        told = run(os.environ["EXAMPLE_HOST"], module, "samples/village-school.xml", "11", "2", "/nonexistent/x.csv",
+                   cwd=self.copy, env=self.environment | {"GRADIX_BUNDLE": str(self.build / "share/gradix/Gradix.bundle")})
+        self.assertIn("\n11  Assignment Results for Example (.csv)\nThe options dialog is open.\n", told)
+
+    @unittest.skipUnless(UI, "built without Qt")
+    def test_the_windows_have_their_rows(self):
+        for entry in json.loads((BUILD / "compile_commands.json").read_text()):
+            name = str(Path(entry["file"]).relative_to(ROOT)) if Path(entry["file"]).is_relative_to(ROOT) else ""
+            if name in UI_SOURCES:
+                self.assertIn(name, PATCHED)
+                command = entry["command"].replace(str(BUILD), "\0").replace(str(ROOT), str(self.copy))
+                run("sh", "-c", command.replace("\0", str(BUILD)) + " -fsyntax-only", cwd=BUILD)
+        run("python3", "tests/host/test_translations.py", cwd=self.copy, env=self.environment | {
+            "SOURCES": str(self.copy / "src/Host"), "LUPDATE": os.environ["LUPDATE"]})
 
     def test_a_step_that_is_left_out_fails(self):
         rows = (("resources/help/*qzm_231.htm", "help_book"), ("resources/help/*qzmanage.htm", "help_book"),

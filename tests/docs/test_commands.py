@@ -8,7 +8,8 @@ import tempfile
 import unittest
 from pathlib import Path
 
-ROOT = Path(__file__).resolve().parents[2]
+from sources import ROOT, copy_sources
+
 BUILD = Path(os.environ["BUILD"]).resolve()
 PAGES = [*sorted(ROOT.glob("*.md")), *sorted((ROOT / "docs").glob("*.md")), *sorted((ROOT / "samples").glob("*.md"))]
 MANUALS = sorted((ROOT / "packaging/man").glob("*.1"))
@@ -93,8 +94,7 @@ class Commands(unittest.TestCase):
         folder = tempfile.TemporaryDirectory()
         self.addCleanup(folder.cleanup)
         copy = Path(folder.name).resolve() / "gradix"
-        shutil.copytree(ROOT, copy, symlinks=True, ignore=lambda where, names: {
-            name for name in names if Path(where) == ROOT and name in {"build", "out", ".git"}})
+        copy_sources(copy)
         release = copy / "build/release"
         (release / "bin").mkdir(parents=True)
         for name in "lib", "share":
@@ -126,7 +126,8 @@ class Commands(unittest.TestCase):
                               env=environment)
         outputs = done.stdout.split("\n\036\n")[1:]
         if done.returncode != 0:
-            self.fail(f"{name_of(page)} ends with {done.returncode} in\n{blocks[len(outputs) - 1].text}{done.stdout[-3000:]}")
+            failed = blocks[len(outputs) - 1].text
+            self.fail(f"{name_of(page)} ends with {done.returncode} in\n{failed}{done.stdout[-3000:]}")
         return outputs
 
     def assert_shows(self, shown, output):

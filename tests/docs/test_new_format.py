@@ -10,7 +10,8 @@ import tempfile
 import unittest
 from pathlib import Path
 
-ROOT = Path(__file__).resolve().parents[2]
+from sources import ROOT, copy_sources
+
 BUILD = Path(os.environ["BUILD"]).resolve()
 PAGE = (ROOT / "docs/adding-a-format.md").read_text()
 PATCH = Path(__file__).resolve().parent / "new_format.patch"
@@ -19,11 +20,12 @@ STEPS = PAGE[PAGE.index("\n## 1. "):]
 
 # What a new format is compared with: the tests that go through the table.
 TARGETS = ["gxexport", "gxrescomp", "unit_tests", "reader_tests", "export_tests", "systems_tests"]
+TESTS = "SessionMgr|EntryPoints|Findings|help_book|docs_pages"
+GOLDEN = "tests/golden/*.example*.csv"  # not in the patch: a command of the page makes them
+
 UI = "EXAMPLE_HOST" in os.environ
 UI_TARGETS = ["GX_StdCsv", "gradix_resources"]
 UI_SOURCES = ["src/Host/Result/UploadSteps.cpp", "tests/filter/end_to_end_test.cpp"]  # are compiled, but not linked
-TESTS = "SessionMgr|EntryPoints|Findings|help_book|docs_pages"
-GOLDEN = "tests/golden/*.example*.csv"  # not in the patch: a command of the page makes them
 
 # Stands before each call of the compiler: an object that the copy does not change is taken from the build at hand.
 LAUNCHER = """#!/bin/sh
@@ -57,12 +59,29 @@ def unchanged_objects():
 
 
 def run(*command, **options):
-    done = subprocess.run([*map(str, command)], capture_output=True, text=True, errors="replace", timeout=600, **options)
+    done = subprocess.run([*map(str, command)], capture_output=True, text=True, errors="replace", timeout=600,
+                          **options)
     if done.returncode != 0:
         raise AssertionError(f"{' '.join(map(str, command))}\n{done.stdout[-4000:]}{done.stderr[-4000:]}")
     return done.stdout
 
 
+class Page(unittest.TestCase):
+    def test_the_steps_name_the_files(self):
+        named = set(re.findall(r"`((?:[\w]+/[^`]*|README)\.\w+)`", STEPS))
+        for path in PATCHED:
+            self.assertTrue(any(fnmatch.fnmatch(path, name) for name in named), f"{path} is on the page")
+        self.assertEqual({name for name in named if not fnmatch.filter(PATCHED, name)}, {GOLDEN}, "not in the patch")
+
+    def test_the_steps_show_the_lines(self):
+        added = "\n".join(line[1:].strip() for line in PATCH.read_text().splitlines() if line.startswith("+"))
+        shown = re.findall(r"^```cpp\n(.*?)^```$", STEPS, re.MULTILINE | re.DOTALL)
+        self.assertGreaterEqual(len(shown), 3)
+        for block in shown:
+            self.assertIn("\n".join(line.strip() for line in block.splitlines()), added)
+
+
+@unittest.skipUnless(shutil.which("git"), "no git, which applies the patch")
 class NewFormat(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
@@ -71,8 +90,7 @@ class NewFormat(unittest.TestCase):
         cls.copy = Path(folder.name).resolve() / "gradix"
         # The copy is not part of a repository, wherever it lies.
         cls.environment = os.environ | {"GIT_CEILING_DIRECTORIES": str(cls.copy.parent)}
-        shutil.copytree(ROOT, cls.copy, ignore=lambda where, names: {
-            name for name in names if Path(where) == ROOT and name in {"build", "out", ".git"}})
+        copy_sources(cls.copy)
         cls.patch()
         cls.build = cls.copy / "build/release"
         objects = cls.copy / "unchanged-objects"
@@ -80,10 +98,12 @@ class NewFormat(unittest.TestCase):
         launcher = cls.copy / "launcher"
         launcher.write_text(LAUNCHER.format(list=objects, build=BUILD))
         launcher.chmod(0o755)
+        # Compiled anew is little, and quickly: without optimisation.
         cache = dict(re.findall(r"^(\w+):\w+=(.*)$", (BUILD / "CMakeCache.txt").read_text(), re.MULTILINE))
         same = ["CMAKE_C_COMPILER", "CMAKE_CXX_COMPILER", "GRADIX_SANITIZE"]
         run(os.environ["CMAKE"], "-S", cls.copy, "-B", cls.build, "-G", cache["CMAKE_GENERATOR"], f"-DGRADIX_UI={UI}",
-            "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS_DEBUG=", f"-DCMAKE_CXX_COMPILER_LAUNCHER={launcher}", *(f"-D{name}={cache.get(name, '')}" for name in same))
+            "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS_DEBUG=", f"-DCMAKE_CXX_COMPILER_LAUNCHER={launcher}",
+            *(f"-D{name}={cache.get(name, '')}" for name in same))
         run(os.environ["CMAKE"], "--build", cls.build, "--target", *TARGETS, *UI_TARGETS * UI)
 
     @classmethod
@@ -101,19 +121,6 @@ class NewFormat(unittest.TestCase):
 
     def gxexport(self, *arguments):
         return run(self.build / "bin/gxexport", *arguments, cwd=self.copy)
-
-    def test_the_steps_name_the_files(self):
-        named = set(re.findall(r"`((?:[\w]+/[^`]*|README)\.\w+)`", STEPS))
-        for path in PATCHED:
-            self.assertTrue(any(fnmatch.fnmatch(path, name) for name in named), f"{path} is on the page")
-        self.assertEqual({name for name in named if not fnmatch.filter(PATCHED, name)}, {GOLDEN}, "not in the patch")
-
-    def test_the_steps_show_the_lines(self):
-        added = "\n".join(line[1:].strip() for line in PATCH.read_text().splitlines() if line.startswith("+"))
-        shown = re.findall(r"^```cpp\n(.*?)^```$", STEPS, re.MULTILINE | re.DOTALL)
-        self.assertGreaterEqual(len(shown), 3)
-        for block in shown:
-            self.assertIn("\n".join(line.strip() for line in block.splitlines()), added)
 
     def test_the_format_is_everywhere(self):
         formats = json.loads(self.gxexport("formats", "--json"))
@@ -135,8 +142,9 @@ class NewFormat(unittest.TestCase):
     @unittest.skipUnless(UI, "built without Qt")
     def test_the_dialog_opens(self):
         (module,) = self.build.glob("lib/**/GX_StdCsv.so")
+        bundle = {"GRADIX_BUNDLE": str(self.build / "share/gradix/Gradix.bundle")}
         told = run(os.environ["EXAMPLE_HOST"], module, "samples/village-school.xml", "11", "2", "/nonexistent/x.csv",
-                   cwd=self.copy, env=self.environment | {"GRADIX_BUNDLE": str(self.build / "share/gradix/Gradix.bundle")})
+                   cwd=self.copy, env=self.environment | bundle)
         self.assertIn("\n11  Assignment Results for Example (.csv)\nThe options dialog is open.\n", told)
 
     @unittest.skipUnless(UI, "built without Qt")

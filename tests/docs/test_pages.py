@@ -72,7 +72,7 @@ class DocumentationTest(unittest.TestCase):
         for command in ("", "formats", "inspect", "check", "export", "fill"):
             known |= set(re.findall(r"--?[a-zA-Z][\w-]*", gxexport(*command.split(), "--help").decode()))
         for name in ("README.md", "docs/formats.md", "docs/learning-systems.md", "SECURITY.md"):
-            text = re.sub(r"(?s)## (Installing|How it is tested).*?(?=^## |\Z)", "", (ROOT / name).read_text(), flags=re.M)
+            text = re.sub(r"(?ms)^## (Installing|How it is tested).*?(?=^## |\Z)", "", (ROOT / name).read_text())
             for code in re.findall(r"`([^`\n]*)`", BLOCK.sub("", text)):
                 for option in re.findall(r"(?<!\S)--?[a-zA-Z][\w-]*", code):
                     with self.subTest(page=name, option=option):

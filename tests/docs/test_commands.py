@@ -33,14 +33,15 @@ QT_QPA_PLATFORM=offscreen HOME="$PWD" timeout 2 "{build}/bin/gxhost" "$@"
 BARRED = ("cmake", "ninja", "make", "apt", "apt-get", "sudo", "su", "dpkg", "curl", "wget", "git", "ctest")
 
 # What a page calls the reader's own files, and how the test makes them.
-SAMPLE = "cp samples/secondary-school.xml class.xml\n"
+SAMPLE = "mkdir reader && cp samples/secondary-school.xml reader/class.xml && cd reader\n"
 READERS = {
     "docs/hosting.md": "\"$CMAKE\" --install \"$BUILD\" --prefix \"$PWD/installed\" >/dev/null\n"
                        "export PKG_CONFIG_PATH=$PWD/installed/lib/pkgconfig QT_QPA_PLATFORM=offscreen\n"
                        "cp docs/examples/host.c host.c\n",
     "docs/performance.md": "mkdir -p classes && cp samples/*.xml classes\n"
                            "export SLURM_ARRAY_TASK_ID=1 SLURM_ARRAY_TASK_COUNT=2 SLURM_CPUS_PER_TASK=2\n",
-    "packaging/man/gxexport.1": SAMPLE + "gxexport export -f canvas --dialect current -o Grades.csv class.xml\n",
+    "packaging/man/gxexport.1": SAMPLE + "gxexport export -f canvas --dialect current -o Grades.csv class.xml\n"
+                                "gxexport export -f canvas --output-dir grades --json class.xml >summary.json\n",
     "packaging/man/gxhost.1": SAMPLE,
 }
 
@@ -74,7 +75,7 @@ class Block:
 def blocks_of(page):
     text = page.read_text()
     if page.suffix == ".1":
-        escaped = re.findall(r"^\.Dl \$ (.*)$", text[text.index("\n.Sh EXAMPLES"):], re.MULTILINE)
+        escaped = re.findall(r"^\.Dl \$ (.*)$", text, re.MULTILINE)
         return [Block(line.replace("\\e", "\\").replace("\\-", "-") + "\n") for line in escaped]
     found = list(FENCE.finditer(text))
     blocks = []
@@ -122,7 +123,7 @@ class Commands(unittest.TestCase):
         environment = {key: value for key, value in os.environ.items() if not key.startswith("GRADIX_")}
         environment["PATH"] = f"{copy}/build/release/bin:{environment['PATH']}"
         done = subprocess.run(["bash", "-c", script], cwd=copy, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
-                              stderr=subprocess.STDOUT, encoding="utf-8", errors="replace", timeout=100,
+                              stderr=subprocess.STDOUT, encoding="utf-8", errors="replace", timeout=250,
                               env=environment)
         outputs = done.stdout.split("\n\036\n")[1:]
         if done.returncode != 0:

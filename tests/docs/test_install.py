@@ -74,9 +74,10 @@ class InstallTest(unittest.TestCase):
             with self.subTest(name):
                 told = run("readelf", "--wide", "--file-header", "--segments", "--dynamic", "--dyn-syms",
                            self.prefix / name).stdout
-                for pattern in (r"Type: +DYN", r"GNU_RELRO", r"FLAGS.*NOW", r"__stack_chk_fail", r"__\w+_chk@GLIBC",
-                                r"__glibcxx_assert_fail"):
+                for pattern in r"Type: +DYN", r"GNU_RELRO", r"FLAGS.*NOW", r"__stack_chk_fail", r"__glibcxx_assert_fail":
                     self.assertRegex(told, pattern)
+                if name != "bin/gxhost":  # where the compiler sees no size to check
+                    self.assertRegex(told, r"__[a-z]+_chk@GLIBC")
                 self.assertNotRegex(told, r"GNU_STACK.*RWE|NEEDED.*libcsv")
 
     @unittest.skipUnless(shutil.which("pkg-config"), "no pkg-config")

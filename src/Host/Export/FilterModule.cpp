@@ -50,7 +50,8 @@ const FormatRow* RowOf(const ExportFormat& format) {
 QString FilterModule::DefaultPath() {
   QString named = qEnvironmentVariable("GRADIX_FILTER");
   if (!named.isEmpty()) return named;
-  return QDir::cleanPath(QCoreApplication::applicationDirPath() + QLatin1String("/../lib/gradix/GX_StdCsv.so"));
+  return QDir::cleanPath(QCoreApplication::applicationDirPath() +
+                         QLatin1String("/../lib/gradix/GX_StdCsv.so"));
 }
 
 std::unique_ptr<FilterModule> FilterModule::Load(const QString& path, FilterLoadError* error) {

@@ -30,7 +30,7 @@ UI_SOURCES = ["src/Host/Result/UploadSteps.cpp", "tests/filter/end_to_end_test.c
 # Stands before each call of the compiler: an object that the copy does not change is taken from the build at hand.
 LAUNCHER = """#!/bin/sh
 for word; do [ "$before" != -o ] || object=$word; before=$word; done
-if grep -qxF -- "$object" {list}; then cp {build}/"$object" "$object"; else exec "$@"; fi
+grep -qxF -- "$object" {list} && cp {build}/"$object" "$object" 2>/dev/null || exec "$@"
 """
 
 

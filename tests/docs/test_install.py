@@ -1,5 +1,6 @@
 """The installed tree: complete, movable, and usable from outside."""
 import os
+import re
 import shutil
 import struct
 import subprocess
@@ -75,10 +76,10 @@ class InstallTest(unittest.TestCase):
                 told = run("readelf", "--wide", "--file-header", "--segments", "--dynamic", "--dyn-syms",
                            self.prefix / name).stdout
                 for pattern in r"Type: +DYN", r"GNU_RELRO", r"FLAGS.*NOW", r"__stack_chk_fail", r"__glibcxx_assert_fail":
-                    self.assertRegex(told, pattern)
+                    self.assertTrue(re.search(pattern, told), pattern)
                 if name != "bin/gxhost":  # where the compiler sees no size to check
-                    self.assertRegex(told, r"__[a-z]+_chk@GLIBC")
-                self.assertNotRegex(told, r"GNU_STACK.*RWE|NEEDED.*libcsv")
+                    self.assertTrue(re.search(r"__[a-z]+_chk@GLIBC", told))
+                self.assertEqual(re.findall(r"GNU_STACK.*RWE|NEEDED.*libcsv.*", told), [])
 
     @unittest.skipUnless(shutil.which("pkg-config"), "no pkg-config")
     def test_pkg_config(self):

@@ -29,10 +29,10 @@ void* Allocate(size_t size, const void* caller) {
 [[gnu::noinline]] void* operator new(size_t size) {
   return Allocate(size, __builtin_return_address(0));
 }
-void operator delete(void* memory) noexcept {
+[[gnu::noinline]] void operator delete(void* memory) noexcept {
   std::free(memory);
 }
-void operator delete(void* memory, size_t) noexcept {
+[[gnu::noinline]] void operator delete(void* memory, size_t) noexcept {
   std::free(memory);
 }
 

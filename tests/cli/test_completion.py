@@ -58,7 +58,9 @@ def bash(line):
 def fish(line):
     result = run("fish", "--no-config", "-c", 'source $argv[1]; complete -C $argv[2]',
                  str(PACKAGING / "fish/gxexport.fish"), line)
-    return [text.partition("\t")[0] for text in result.stdout.splitlines()], result.stderr
+    proposals = [text.partition("\t")[0] for text in result.stdout.splitlines()]
+    word = line.rpartition(" ")[2]  # newer ones also propose what has its letters somewhere
+    return [text for text in proposals if text.startswith(word)], result.stderr
 
 
 def zsh(line):

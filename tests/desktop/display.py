@@ -141,7 +141,7 @@ class X11:
 class Wayland(X11):
     """Windows as they are talked about on the program's connection."""
 
-    EVENTS = {name: re.compile(pattern) for name, pattern in {
+    EVENTS = {name: re.compile(pattern.replace("@", "[@#]")) for name, pattern in {
         "surface": r"get_xdg_surface\(new id (xdg_surface@\d+), (wl_surface@\d+)\)",
         "toplevel": r"(xdg_surface@\d+)\.get_toplevel\(new id (xdg_toplevel@\d+)\)",
         "title": r'(xdg_toplevel@\d+)\.set_title\("(.*)"\)$',

@@ -13,8 +13,8 @@ CLASS = SAMPLES / "secondary-school.xml"
 GRADEBOOK = SAMPLES / "village-school-canvas.csv"  # of other students
 
 MAIN_WINDOW = "Biology 9 – Gradix"
-CONTROLS = {"check box", "combo box", "dialog", "frame", "label", "list", "list item", "page tab", "page tab list",
-            "panel", "button", "radio button", "table", "text", "tree"}
+CONTROLS = {"button", "button menu", "check box", "combo box", "dialog", "frame", "label", "list", "list item", "page tab",
+            "page tab list", "panel", "radio button", "table", "text", "tree"}
 STATISTICS = {"Students": "30", "Results": "29", "Missing": "1", "Mean": "4.19", "Median": "4.5", "Minimum": "1.5",
               "Maximum": "6", "Standard deviation": "1.42", "Points possible": "6"}
 

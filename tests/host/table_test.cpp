@@ -178,7 +178,9 @@ TEST_F(TableTest, SortsFromTheMenuOfAColumn) {
     if (input == Input::keys) {
       QTest::keyClick(menu, Qt::Key_D);
     } else {
-      QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(menu->actions()[0]).center());
+      const QPoint first = menu->actionGeometry(menu->actions()[0]).center();
+      QTest::mouseMove(menu, first);  // a menu does not take the click that opened it
+      QTest::mouseClick(menu, Qt::LeftButton, {}, first);
     }
     EXPECT_EQ(Column(1), (input == Input::keys ? Words{"100", "12", "7", ""} : Words{"7", "12", "100", ""}));
   }

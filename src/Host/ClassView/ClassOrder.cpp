@@ -77,7 +77,7 @@ void ClassOrder::sort(int column, Qt::SortOrder order) {
     int place = 0;
     for (const int row : rows) m_places[static_cast<size_t>(row)] = place++;
   }
-  QSortFilterProxyModel::sort(column, order);
+  QSortFilterProxyModel::sort(column, column < 0 ? Qt::AscendingOrder : order);
 }
 
 // The places are already those of a descending order, which is asked backwards.

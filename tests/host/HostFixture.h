@@ -114,7 +114,7 @@ class HostTest : public testing::Test {
     std::string buffer(static_cast<size_t>(size), '#');
     const int32_t status = m_fake->begin.chooseFile(reinterpret_cast<void*>(gDialog->winId()), 0,
                                                     buffer.data(), size, m_fake->begin.chooseFileValue);
-    return status == 0 ? std::string(buffer.c_str()) : "status " + std::to_string(status);
+    return status == 0 ? std::string(buffer.data()) : "status " + std::to_string(status);
   }
 
   std::unique_ptr<host::FilterModule> m_filter;

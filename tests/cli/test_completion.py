@@ -1,4 +1,5 @@
 """The completions, asked as each shell asks them."""
+import contextlib
 import os
 import pty
 import shutil
@@ -17,6 +18,7 @@ LIBRARY = "/usr/share/bash-completion/bash_completion"
 PACKAGING = Path(__file__).resolve().parents[2] / "packaging"
 ENVIRONMENT = os.environ | {"PATH": os.path.dirname(GXEXPORT) + ":" + os.environ["PATH"]}
 LIMIT = 60  # seconds
+KILL_LINE = "\x15"  # the key that takes all back that is typed
 
 # Bash offers compopt only while it completes for a user.
 BASH = f"""
@@ -39,8 +41,8 @@ compadd() {{
   fi
   builtin compadd "$@"
 }}
-finished() {{ print end >>$PROPOSALS }}
-comppostfuncs=(finished)
+complete-and-say() {{ zle expand-or-complete; print end >>$PROPOSALS }}
+zle -N complete-and-say; bindkey '^I' complete-and-say
 print ready >>$PROPOSALS
 """
 
@@ -55,40 +57,56 @@ def bash(line):
     return [text for text in result.stdout.splitlines() if text], result.stderr
 
 
-def fish(line):
-    result = run("fish", "--no-config", "-c", 'source $argv[1]; complete -C $argv[2]',
-                 str(PACKAGING / "fish/gxexport.fish"), line)
-    proposals = [text.partition("\t")[0] for text in result.stdout.splitlines()]
-    word = line.rpartition(" ")[2]  # newer ones also propose what has its letters somewhere
-    return [text for text in proposals if text.startswith(word)], result.stderr
+def fish(lines):
+    """Of each line what one fish proposes, and what it says at the end."""
+    result = run("fish", "--no-config", "-c", 'source $argv[1]; for line in $argv[2..]; complete -C $line; printf "\\f"; end',
+                 str(PACKAGING / "fish/gxexport.fish"), *lines)
+    found = {}
+    for line, proposals in zip(lines, result.stdout.split("\f")):
+        word = line.rpartition(" ")[2]  # newer ones also propose what has its letters somewhere
+        found[line] = [text.partition("\t")[0] for text in proposals.splitlines() if text.startswith(word)]
+    return found, result.stderr
 
 
-def zsh(line):
-    with tempfile.TemporaryDirectory() as folder:
-        script, proposals = Path(folder) / "script", Path(folder) / "proposals"
+class Zsh:
+    """One on a terminal of its own, in the folder of the sample."""
+
+    def __init__(self):
+        self.folder = tempfile.TemporaryDirectory()
+        self.proposals = Path(self.folder.name) / "proposals"
+        script = Path(self.folder.name) / "script"
         script.write_text(ZSH)
-        process, terminal = pty.fork()
-        if process == 0:
+        self.process, self.terminal = pty.fork()
+        if self.process == 0:
             os.chdir(SAMPLE.parent)
-            os.execvpe("zsh", ["zsh", "-f", "-i"], ENVIRONMENT | {"PROPOSALS": str(proposals), "TERM": "dumb"})
+            os.execvpe("zsh", ["zsh", "-f", "-i"], ENVIRONMENT | {"PROPOSALS": str(self.proposals), "TERM": "dumb"})
+        os.set_blocking(self.terminal, False)
+        self._send(f"source {script}\n")
+        self._wait_for("ready")
 
-        def wait_for(word):
-            end = time.monotonic() + LIMIT
-            while not (proposals.exists() and word in proposals.read_text().splitlines()):
-                if time.monotonic() > end:
-                    raise AssertionError(f"zsh is not {word}: {line}")
-                time.sleep(0.02)
+    def close(self):
+        os.kill(self.process, signal.SIGKILL)
+        os.waitpid(self.process, 0)
+        os.close(self.terminal)
+        self.folder.cleanup()
 
-        try:
-            os.write(terminal, f"source {script}\n".encode())
-            wait_for("ready")
-            os.write(terminal, line.encode() + b"\t")
-            wait_for("end")
-        finally:
-            os.kill(process, signal.SIGKILL)
-            os.waitpid(process, 0)
-            os.close(terminal)
-        return [text for text in proposals.read_text().splitlines() if text not in ("ready", "end")], ""
+    def complete(self, line):
+        self.proposals.unlink()
+        self._send(KILL_LINE + line + "\t")
+        self._wait_for("end")
+        return [text for text in self.proposals.read_text().splitlines() if text != "end"]
+
+    def _send(self, keys):
+        os.write(self.terminal, keys.encode())
+
+    def _wait_for(self, word):
+        end = time.monotonic() + LIMIT
+        while not (self.proposals.exists() and word in self.proposals.read_text().splitlines()):
+            if time.monotonic() > end:
+                raise AssertionError(f"zsh is not {word}")
+            time.sleep(0.01)
+            with contextlib.suppress(BlockingIOError):
+                os.read(self.terminal, 65536)  # what it shows; it waits until that is read
 
 
 class Completion(unittest.TestCase):
@@ -113,26 +131,35 @@ class Completion(unittest.TestCase):
         "gxexport export -f canvas second": [SAMPLE.name],
     }
 
-    def check(self, complete, changes):
+    def check(self, changes, complete):
+        """All rows, some of them changed, in a shell that completes a line."""
         for line, proposals in (self.ROWS | changes).items():
             with self.subTest(line):
-                found, errors = complete(line)
-                self.assertEqual((sorted(found), errors), (proposals, ""))
+                self.assertEqual(sorted(complete(line)), proposals)
 
     @unittest.skipUnless(os.path.exists(LIBRARY), "bash-completion is not installed")
     def test_bash(self):
-        self.check(bash, {"gxexport inspect make_s": [],
-                          f"gxexport export {SAMPLE.name} -a 301,302,30": [f"301,302,30{i}" for i in range(1, 10)]})
+        def complete(line):
+            found, errors = bash(line)
+            self.assertEqual(errors, "")
+            return found
+        self.check({"gxexport inspect make_s": [],
+                    f"gxexport export {SAMPLE.name} -a 301,302,30": [f"301,302,30{i}" for i in range(1, 10)]}, complete)
 
     @unittest.skipUnless(shutil.which("fish"), "fish is not installed")
     def test_fish(self):
-        self.check(fish, {"gxexport export --format=can": ["--format=canvas"],
-                          f"gxexport export {SAMPLE.name} -a 301,302,30": [f"301,302,30{i}" for i in range(1, 10)]})
+        found, errors = fish(list(self.ROWS))
+        self.assertEqual(errors, "")
+        self.check({"gxexport export --format=can": ["--format=canvas"],
+                    f"gxexport export {SAMPLE.name} -a 301,302,30": [f"301,302,30{i}" for i in range(1, 10)]},
+                   found.__getitem__)
 
     @unittest.skipUnless(shutil.which("zsh"), "zsh is not installed")
     def test_zsh(self):
-        self.check(zsh, {"gxexport export --format=can": ["--format=canvas"],
-                         f"gxexport fill {SAMPLE.name} --map 312": ["312"]})  # and "=" behind it
+        shell = Zsh()
+        self.addCleanup(shell.close)
+        self.check({"gxexport export --format=can": ["--format=canvas"],
+                    f"gxexport fill {SAMPLE.name} --map 312": ["312"]}, shell.complete)  # and "=" behind it
 
 
 if __name__ == "__main__":

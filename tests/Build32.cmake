@@ -15,7 +15,7 @@ endif()
 
 add_library(gtest32 STATIC EXCLUDE_FROM_ALL ${GTEST_SOURCE}/src/gtest-all.cc ${GTEST_SOURCE}/src/gtest_main.cc)
 target_include_directories(gtest32 PRIVATE ${GTEST_SOURCE})
-target_compile_options(gtest32 PRIVATE -m32)
+target_compile_options(gtest32 PRIVATE -m32 -fno-sanitize=all)
 
 add_executable(unit_tests_32 ${unit_tests} ${unit_tests_c})
 target_include_directories(unit_tests_32 PRIVATE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/src
@@ -24,5 +24,5 @@ target_compile_definitions(unit_tests_32 PRIVATE GOLDEN="${CMAKE_CURRENT_SOURCE_
 target_compile_options(unit_tests_32 PRIVATE -m32 -msse2 -mfpmath=sse)
 target_link_options(unit_tests_32 PRIVATE -m32)
 target_link_libraries(unit_tests_32 PRIVATE gradix::options gxportable gxentry gtest32)
-gradix_precompile_alone(tests unit_tests_32)
+gradix_unite(unit_tests_32)
 gtest_discover_tests(unit_tests_32 TEST_PREFIX "32-bit." ${test_environment})

@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr int kVersion = 1;
+constexpr int kCheckVersion = 1;
 
 enum class CheckStatus : uint8_t { kClean, kTrouble, kRefused, kUnreadable };
 
@@ -164,7 +164,7 @@ ExitStatus _TellJson(const CheckOptions& options) {
     summary.Add(checked);
     if (!checked.reason.empty()) Say(checked.reason);
   }
-  const Json json = {{"version", kVersion},
+  const Json json = {{"version", kCheckVersion},
                      {"status", static_cast<int>(summary.Status())},
                      {"counts", summary.AsJson()},
                      {"classes", std::move(classes)}};

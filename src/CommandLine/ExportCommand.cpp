@@ -17,15 +17,11 @@
 
 namespace {
 
-constexpr int kVersion = 1;
-
-[[noreturn]] void _Fail(const std::string& text) {
-  throw CommandError(kExitUsage, text);
-}
+constexpr int kExportVersion = 1;
 
 void _RefuseToOverwrite(const ExportOptions& options) {
   if (!IsSameFile(options.classFiles.front(), options.outputFile)) return;
-  _Fail("the output would overwrite the class file; choose another name with -o");
+  throw CommandError(kExitUsage, "the output would overwrite the class file; choose another name with -o");
 }
 
 void _WarnOfNoAssignments(const ClassExport& exporting) {
@@ -80,7 +76,7 @@ std::string _AsJson(const ExportOptions& options, const ClassExport& exporting, 
   const ExportChoices& choices = options.choices;
   const ExportCounts counts = exporting.Counts();
   const bool hasField = !choices.format->IsReport();
-  Json json = {{"version", kVersion},
+  Json json = {{"version", kExportVersion},
                {"file", PrintableUtf8(options.classFiles.front())},
                {"output", status == kExitDone ? Json(PrintableUtf8(options.outputFile)) : Json()},
                {"className", exporting.File().name},
@@ -119,11 +115,11 @@ ExitStatus _WriteAndTell(const ExportOptions& options, ClassExport* exporting) {
 ExitStatus RunExport(const ExportOptions& options) {
   _RefuseToOverwrite(options);
   if (options.json && IsStandardOutput(options.outputFile))
-    _Fail("--json needs --output-dir, or the name of a file with -o");
+    throw CommandError(kExitUsage, "--json needs --output-dir, or the name of a file with -o");
   ClassExport exporting(ReadClassInput(options.classFiles.front()), options.choices,
                         {options.force, options.strict});
   if (exporting.Obstacle() == ExportObstacle::kChoices) {
-    _Fail(ChoiceFaultText(exporting.Applied(), exporting.Texts()));
+    throw CommandError(kExitUsage, ChoiceFaultText(exporting.Applied(), exporting.Texts()));
   }
   if (options.json) return _WriteAndTell(options, &exporting);
   _Write(options, &exporting);

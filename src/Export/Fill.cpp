@@ -10,8 +10,6 @@
 
 namespace {
 
-constexpr size_t kNone = GradebookMatch::kNone;
-
 bool _IsIdentity(ColumnRole role) {
   return role == ColumnRole::kIdentifier || role == ColumnRole::kName || role == ColumnRole::kIdentity;
 }
@@ -67,30 +65,31 @@ class FillPlanner {
     const size_t count = m_gradebook.columns.size();
     for (size_t column = 0; column < count; ++column) {
       const size_t assignment = m_plan.match.assignmentOf[column];
-      if (assignment == kNone && !_IsIdentity(m_gradebook.columns[column].role)) continue;
+      if (assignment == GradebookMatch::kNone && !_IsIdentity(m_gradebook.columns[column].role)) continue;
       m_plan.columns.push_back({column, assignment});
     }
     const char* last = m_gradebook.system->download->lastHeading;
     const bool hasEnd = last != nullptr && m_gradebook.FindHeading(last) + 1 == count;
     const auto end = m_plan.columns.end() - (hasEnd ? 1 : 0);
     std::vector<FillColumn> added;
-    for (const size_t assignment : m_plan.newColumns) added.push_back({kNone, assignment});
+    for (const size_t assignment : m_plan.newColumns) added.push_back({GradebookMatch::kNone, assignment});
     m_plan.columns.insert(end, added.begin(), added.end());
   }
 
   void PlanCells() {
     for (size_t member = 0; member < m_gradebook.members.size(); ++member) {
       const size_t student = m_plan.match.studentOf[member];
-      if (student == kNone) continue;
+      if (student == GradebookMatch::kNone) continue;
       for (const FillColumn& column : m_plan.columns) {
-        if (column.assignment != kNone) PlanCell(m_gradebook.members[member].row, student, column);
+        if (column.assignment != GradebookMatch::kNone)
+          PlanCell(m_gradebook.members[member].row, student, column);
       }
     }
   }
 
   void PlanCell(size_t row, size_t student, const FillColumn& column) {
     const std::optional<double> score = m_subject.scores.Find(student, column.assignment);
-    const bool isNew = column.column == kNone;
+    const bool isNew = column.column == GradebookMatch::kNone;
     const bool isEmpty = isNew || !m_gradebook.HasScore(row, column.column);
     if (!score && isEmpty) return;
     FillCell cell{FillKind::kKept, student, column.assignment,
@@ -112,18 +111,20 @@ class FillPlanner {
     const GradebookMatch& match = m_plan.match;
     for (const size_t student : m_subject.students) {
       const bool hasResult = !m_subject.scores.ScoresOf(student).empty();
-      if (hasResult && match.memberOf[student] == kNone) m_plan.unmatchedStudents.push_back(student);
+      if (hasResult && match.memberOf[student] == GradebookMatch::kNone)
+        m_plan.unmatchedStudents.push_back(student);
     }
     for (size_t member = 0; member < match.studentOf.size(); ++member) {
-      if (match.studentOf[member] == kNone) m_plan.unmatchedMembers.push_back(member);
+      if (match.studentOf[member] == GradebookMatch::kNone) m_plan.unmatchedMembers.push_back(member);
     }
     for (size_t i = 0; i < match.columnOf.size(); ++i) {
       const bool isNew = std::ranges::binary_search(m_plan.newColumns, i);
-      if (match.columnOf[i] == kNone && !isNew) m_plan.unmatchedAssignments.push_back(i);
+      if (match.columnOf[i] == GradebookMatch::kNone && !isNew) m_plan.unmatchedAssignments.push_back(i);
     }
     for (size_t column = 0; column < m_gradebook.columns.size(); ++column) {
       const bool isItem = m_gradebook.columns[column].role == ColumnRole::kItem;
-      if (isItem && match.assignmentOf[column] == kNone) m_plan.unmatchedColumns.push_back(column);
+      if (isItem && match.assignmentOf[column] == GradebookMatch::kNone)
+        m_plan.unmatchedColumns.push_back(column);
     }
   }
 

@@ -12,8 +12,6 @@
 
 namespace {
 
-constexpr size_t kNone = GradebookMatch::kNone;
-
 // What is wrong with columns, whoever has results in them.
 bool _IsColumnTrouble(const Finding& finding) {
   const auto isColumn = [](const FindingPlace& place) {
@@ -77,10 +75,11 @@ class FillChecker {
     filled.students.assign(students.begin(), students.end());
     std::vector<const qz::AssignmentRecord*> records;
     for (const FillColumn& column : m_plan.columns) {
-      if (column.assignment == kNone) continue;
+      if (column.assignment == GradebookMatch::kNone) continue;
       filled.assignments.push_back(m_subject.assignments[column.assignment]);
-      filled.titles.push_back(column.column == kNone ? m_subject.titles[column.assignment]
-                                                     : m_gradebook.columns[column.column].title);
+      filled.titles.push_back(column.column == GradebookMatch::kNone
+                                  ? m_subject.titles[column.assignment]
+                                  : m_gradebook.columns[column.column].title);
       records.push_back(&m_subject.texts.Record().assignments[filled.assignments.back()]);
     }
     filled.scores = ScoreTable(m_subject.texts.Record().students, records);
@@ -92,7 +91,7 @@ class FillChecker {
     GradebookMatch match = m_plan.match;
     match.columnOf.clear();
     for (const FillColumn& column : m_plan.columns) {
-      if (column.assignment != kNone) match.columnOf.push_back(column.column);
+      if (column.assignment != GradebookMatch::kNone) match.columnOf.push_back(column.column);
     }
     match.titles.assign(match.columnOf.size(), TitleMatch::kExact);
     return match;
@@ -141,7 +140,7 @@ class FillChecker {
       if (cell.kind != FillKind::kKept || !students.contains(cell.student)) continue;
       const size_t row = m_gradebook.members[m_plan.match.memberOf[cell.student]].row;
       const size_t column = m_plan.match.columnOf[cell.assignment];
-      const auto score = column == kNone ? std::nullopt : m_gradebook.Score(row, column);
+      const auto score = column == GradebookMatch::kNone ? std::nullopt : m_gradebook.Score(row, column);
       if (score && *score > *rules->greatestScore) {
         finding.places.push_back({cell.student, m_subject.assignments[cell.assignment], cell.oldText});
       }

@@ -12,8 +12,6 @@
 
 namespace {
 
-constexpr size_t kNone = GradebookMatch::kNone;
-
 class FillWriter {
  public:
   explicit FillWriter(const FillPlan& plan)
@@ -42,7 +40,7 @@ class FillWriter {
 
   void WriteHeaderRow(size_t row) {
     for (const FillColumn& column : m_plan.columns) {
-      if (column.column == kNone) {
+      if (column.column == GradebookMatch::kNone) {
         Put(row, m_model, NewHeaderText(row, column.assignment));
       } else {
         Put(row, column.column, m_table.Text(row, column.column));
@@ -67,12 +65,13 @@ class FillWriter {
     const size_t row = m_gradebook.members[member].row;
     auto cell = cells.begin();
     for (const FillColumn& column : m_plan.columns) {
-      const size_t styled = column.column == kNone ? m_model : column.column;
-      if (column.assignment != kNone && cell != cells.end() && cell->assignment == column.assignment) {
+      const size_t styled = column.column == GradebookMatch::kNone ? m_model : column.column;
+      if (column.assignment != GradebookMatch::kNone && cell != cells.end() &&
+          cell->assignment == column.assignment) {
         Put(row, styled, cell->newText);
         ++cell;
       } else {
-        Put(row, styled, column.column == kNone ? "" : m_table.Text(row, column.column));
+        Put(row, styled, column.column == GradebookMatch::kNone ? "" : m_table.Text(row, column.column));
       }
     }
     EndLine();

@@ -5,7 +5,7 @@ namespace {
 using enum Consequence;
 
 // clang-format off
-constexpr FindingSentences kSentences[] = {
+constexpr FindingSentences kGradebookSentences[] = {
     {.code = "gradebook-erased",
      .english = {"<One score that is in {system} would be|{count} scores that are in {system} would be> erased, "
                  "because the class has no result there.",
@@ -99,5 +99,5 @@ constexpr FindingSentences kSentences[] = {
 }  // namespace
 
 std::span<const FindingSentences> GradebookSentences() {
-  return kSentences;
+  return kGradebookSentences;
 }

@@ -34,7 +34,14 @@ grep -qxF -- "$object" {list} && cp {build}/"$object" "$object" 2>/dev/null || e
 """
 
 
-def unchanged_objects():
+def sources_of(entry):
+    """What is compiled there: a file, or several as one."""
+    file = Path(entry["file"])
+    text = file.read_text() if file.is_relative_to(BUILD) and file.exists() else ""
+    return [Path(name) for name in re.findall(r'^#include "(/.*)"$', text, re.MULTILINE)] or [file]
+
+
+def unchanged_objects(copy, build):
     """The objects of the build at hand that come from no file of the patch and know no folder of one."""
     done = subprocess.run(["ninja", "-C", BUILD, "-t", "deps"], capture_output=True, text=True)
     files = {}
@@ -54,6 +61,11 @@ def unchanged_objects():
         macros = [name for name, path in re.findall(r'-D(\w+)=\S*?(/[^"\\\s]+)', entry["command"])
                   if any(file.is_relative_to(path) for file in patched)]
         found = files.get(name)
+        ours = Path(entry["file"])
+        if ours.is_relative_to(BUILD):
+            theirs = build / ours.relative_to(BUILD)
+            if not theirs.exists() or theirs.read_text().replace(str(copy), str(ROOT)) != ours.read_text():
+                continue
         if found and not found & patched and not (macros and any(names(file, macros) for file in found)):
             yield name
 
@@ -94,16 +106,16 @@ class NewFormat(unittest.TestCase):
         cls.patch()
         cls.build = cls.copy / "build/release"
         objects = cls.copy / "unchanged-objects"
-        objects.write_text("".join(f"{name}\n" for name in unchanged_objects()))
         launcher = cls.copy / "launcher"
         launcher.write_text(LAUNCHER.format(list=objects, build=BUILD))
         launcher.chmod(0o755)
         # Compiled anew is little, and quickly: without optimisation.
         cache = dict(re.findall(r"^(\w+):\w+=(.*)$", (BUILD / "CMakeCache.txt").read_text(), re.MULTILINE))
-        same = ["CMAKE_C_COMPILER", "CMAKE_CXX_COMPILER", "GRADIX_SANITIZE"]
+        same = ["CMAKE_C_COMPILER", "CMAKE_CXX_COMPILER", "GRADIX_SANITIZE", "GRADIX_UNITY"]
         run(os.environ["CMAKE"], "-S", cls.copy, "-B", cls.build, "-G", cache["CMAKE_GENERATOR"], f"-DGRADIX_UI={UI}",
             "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS_DEBUG=", f"-DCMAKE_CXX_COMPILER_LAUNCHER={launcher}",
             *(f"-D{name}={cache.get(name, '')}" for name in same))
+        objects.write_text("".join(f"{name}\n" for name in unchanged_objects(cls.copy, cls.build)))
         run(os.environ["CMAKE"], "--build", cls.build, "--target", *TARGETS, *UI_TARGETS * UI)
 
     @classmethod
@@ -149,12 +161,13 @@ class NewFormat(unittest.TestCase):
 
     @unittest.skipUnless(UI, "built without Qt")
     def test_the_windows_have_their_rows(self):
-        for entry in json.loads((BUILD / "compile_commands.json").read_text()):
-            name = str(Path(entry["file"]).relative_to(ROOT)) if Path(entry["file"]).is_relative_to(ROOT) else ""
-            if name in UI_SOURCES:
-                self.assertIn(name, PATCHED)
-                command = entry["command"].replace(str(BUILD), "\0").replace(str(ROOT), str(self.copy))
-                run("sh", "-c", command.replace("\0", str(BUILD)) + " -fsyntax-only", cwd=BUILD)
+        commands = json.loads((BUILD / "compile_commands.json").read_text())
+        for name in UI_SOURCES:
+            self.assertIn(name, PATCHED)
+            entry = next(entry for entry in commands if ROOT / name in sources_of(entry))
+            command = entry["command"].replace(entry["file"], str(ROOT / name))
+            command = command.replace(str(BUILD), "\0").replace(str(ROOT), str(self.copy))
+            run("sh", "-c", command.replace("\0", str(BUILD)) + " -fsyntax-only", cwd=BUILD)
         run("python3", "tests/host/test_translations.py", cwd=self.copy, env=self.environment | {
             "SOURCES": str(self.copy / "src/Host"), "LUPDATE": os.environ["LUPDATE"]})
 

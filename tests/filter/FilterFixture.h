@@ -51,7 +51,9 @@ enum ReportItem : int {
   kReportOK = 16,
 };
 
+inline constexpr int32_t kQuiz = 7;       // an assignment
 inline constexpr uint32_t kDetailed = 3;  // the format with options of its own
+inline constexpr uint32_t kBlackboard91 = 5;
 inline constexpr uint32_t kCanvas = 6;
 
 inline int OKItem(uint32_t format) {

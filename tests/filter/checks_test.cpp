@@ -12,7 +12,6 @@ constexpr char kTwoEmpty[] =
     "User ID will not be imported into Canvas.";
 constexpr char kAllEmpty[] =
     "The selected Canvas User ID field is empty for all students. No student results can be exported.";
-constexpr int32_t kQuiz = 7;
 
 using ChecksTest = FilterTest;
 

@@ -8,9 +8,6 @@
 
 namespace {
 
-constexpr uint32_t kBlackboard91 = 5;
-constexpr int32_t kQuiz = 7;
-
 using FieldLineTest = FilterTest;
 
 TEST_F(FieldLineTest, TellsWhyOKWillStop) {

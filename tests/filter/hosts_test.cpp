@@ -15,7 +15,6 @@
 namespace {
 
 constexpr int32_t kQuiz1 = 301;
-constexpr uint32_t kBlackboard91 = 5;
 
 class HostsTest : public FilterTest {
  protected:

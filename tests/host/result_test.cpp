@@ -106,7 +106,7 @@ TEST_F(HelpBookTest, OpensThePageOrTellsWhereItIs) {
 }
 
 // Ten students, of whom the last two have no alias and the last one no results.
-std::shared_ptr<const OpenClass> SmallClass() {
+std::shared_ptr<const OpenClass> ClassOfTen() {
   auto openClass = std::make_shared<OpenClass>();
   openClass->path = QStringLiteral("/classes/small.xml");
   openClass->name = QStringLiteral("Small");
@@ -137,7 +137,7 @@ std::shared_ptr<const OpenClass> SmallClass() {
 ExportedFile CanvasFile() {
   ExportedFile file;
   file.path = QStringLiteral("/exports/out.csv");
-  file.openClass = SmallClass();
+  file.openClass = ClassOfTen();
   file.format = FindFormat("canvas");
   file.identifier = qz::kUserIDAlias;
   file.assignments = {0, 1};

@@ -9,7 +9,7 @@ namespace {
 using Options = std::array<bool, qz::kReportOptionCount>;
 
 // Two students, one of them absent, and two questions.
-qz::ClassRecord _SmallClass() {
+qz::ClassRecord _ClassOfTwo() {
   qz::ClassRecord record;
   record.students.resize(2);
   record.students[0].id = 7;
@@ -48,7 +48,7 @@ TEST(DetailedReport, GoldenFiles) {
       {"no-questions", 4, {true, false, false, true, true}},
   };
   for (const auto& row : rows) {
-    qz::ClassRecord record = _SmallClass();
+    qz::ClassRecord record = _ClassOfTwo();
     record.optionValue = row.fields;
     record.options = row.options;
     ExpectGolden(std::string("small-class.detailed-") + row.name, Exported("detailed", record));
@@ -71,7 +71,7 @@ TEST(DetailedReport, WritesTheFieldOfEachBit) {
 
 TEST(DetailedReport, NeedsASelectedAssignment) {
   const auto session = NewSession(*FindFormat("detailed"));
-  *session->GetClass() = _SmallClass();
+  *session->GetClass() = _ClassOfTwo();
   for (qz::AssignmentRecord& assignment : session->GetClass()->assignments) assignment.selected = false;
   const std::filesystem::path path = TestPath("none.csv");
   EXPECT_EQ(session->Export(path.string().c_str()), QZFILTER_FAILED);

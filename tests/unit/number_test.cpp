@@ -17,8 +17,8 @@
 
 namespace {
 
-constexpr int32_t kMax = std::numeric_limits<int32_t>::max();
-constexpr int32_t kMin = std::numeric_limits<int32_t>::min();
+constexpr int32_t kGreatestInt = std::numeric_limits<int32_t>::max();
+constexpr int32_t kLeastInt = std::numeric_limits<int32_t>::min();
 
 const char* const kTexts[] = {
     // ordinary numbers, signs and blanks
@@ -108,7 +108,7 @@ TEST(Number, FixedTakesAnyNumberOfDecimals) {
     for (const int32_t decimals : {0, 17, kMaxDecimals, -1}) {
       EXPECT_EQ(_Fixed(value, decimals), _Printed("%.*f", decimals, value)) << value << ' ' << decimals;
     }
-    EXPECT_EQ(_Fixed(value, kMax), _Fixed(value, kMaxDecimals));
+    EXPECT_EQ(_Fixed(value, kGreatestInt), _Fixed(value, kMaxDecimals));
   }
   EXPECT_EQ(_Fixed(-DBL_MAX, kMaxDecimals).size(), kFixedTextSize - 1);
 }
@@ -161,12 +161,12 @@ TEST(Number, ParsesIntegers) {
       {"+ 3", 0},
       {"0x10", 0},
       {"\2405", 0},
-      {"2147483647", kMax},
-      {"2147483648", kMax},
-      {"-2147483648", kMin},
-      {"-2147483649", kMin},
-      {"99999999999999999999999999999999", kMax},
-      {"-99999999999999999999999999999999", kMin},
+      {"2147483647", kGreatestInt},
+      {"2147483648", kGreatestInt},
+      {"-2147483648", kLeastInt},
+      {"-2147483649", kLeastInt},
+      {"99999999999999999999999999999999", kGreatestInt},
+      {"-99999999999999999999999999999999", kLeastInt},
   };
   for (const auto& row : rows) {
     EXPECT_EQ(ParseInt32(row.text), row.value) << (row.text != nullptr ? row.text : "(null)");

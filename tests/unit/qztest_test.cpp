@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr int32_t kMax = std::numeric_limits<int32_t>::max();
+constexpr int32_t kGreatest = std::numeric_limits<int32_t>::max();
 
 TEST(QuestionTypes, AbbreviationsAndKeywords) {
   std::string all;
@@ -40,8 +40,8 @@ TEST(QuestionNumbers, RunsOfTypes) {
       {"continuous", {0, 0, 2}, 5, 1, {5, 6, 7, 8}, 8, true},
       {"a type that comes back", {2, 0, 2, 0}, 5, 0, {5, 1, 6, 2, 1}, 3, true},
       {"empty", {}, 5, 0, {5}, 5, false},
-      {"wraps", {0, 0}, kMax, 0, {kMax, -kMax - 1, 1}, -kMax, false},
-      {"wraps, continuous", {0, 0}, kMax, 1, {kMax, -kMax - 1, -kMax}, -kMax, false},
+      {"wraps", {0, 0}, kGreatest, 0, {kGreatest, -kGreatest - 1, 1}, -kGreatest, false},
+      {"wraps, continuous", {0, 0}, kGreatest, 1, {kGreatest, -kGreatest - 1, -kGreatest}, -kGreatest, false},
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.name);

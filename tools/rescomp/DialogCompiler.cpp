@@ -17,7 +17,6 @@ namespace {
 constexpr int16_t kListProc = 352;
 constexpr int16_t kComboProc = 401;
 constexpr int16_t kComboMinimum = -12345;
-constexpr uint16_t kChecksMode = 2;
 constexpr int16_t kCentredOnMainScreen = 0x280A;
 
 struct Dialog {

@@ -13,7 +13,6 @@ constexpr int32_t kEdit = 2;
 constexpr int32_t kText = 3;
 constexpr int32_t kList = 7;
 
-constexpr uint16_t kChecksMode = 2;
 constexpr int32_t kMaximumEditLength = 1000;
 
 const std::vector<ItemType>& _ItemTypes() {

@@ -41,6 +41,8 @@ struct DialogItem {
   uint16_t checkCapacity = 0;
 };
 
+inline constexpr uint16_t kChecksMode = 2;
+
 inline constexpr uint32_t kNotifyFlag = 0x10;
 inline constexpr uint32_t kTabStopFlag = 0x20;
 inline constexpr uint32_t kEnabledFlag = 0x40;

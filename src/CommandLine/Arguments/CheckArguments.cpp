@@ -5,7 +5,7 @@
 
 namespace {
 
-const char* const kExamples =
+const char* const kCheckExamples =
     "Examples:\n"
     "  gxexport check -f canvas class.xml\n"
     "      what Canvas will do with the file\n"
@@ -46,7 +46,7 @@ CommandSyntax DefineCheck(CLI::App* program) {
                    "file will do to this course.")
       ->type_name("FILE");
   command->add_flag("--json", arguments->options.json, "As JSON, for programs.");
-  command->footer(ChoicesFooter() + "\n" + kExamples +
+  command->footer(ChoicesFooter() + "\n" + kCheckExamples +
                   "\n\nExit status: 6 when something counts as trouble; notes do not.");
   return {command, [arguments] { return _MakeOptions(*arguments); }};
 }

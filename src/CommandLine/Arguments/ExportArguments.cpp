@@ -9,7 +9,7 @@
 
 namespace {
 
-const char* const kExamples =
+const char* const kExportExamples =
     "Examples:\n"
     "  gxexport export -f canvas -o grades.csv class.xml\n"
     "      all assignments, for Canvas\n"
@@ -31,7 +31,7 @@ struct ExportArguments {
 
 std::string _Footer() {
   return ChoicesFooter() + "\nStudent fields for --fields:\n" + IndentedList(ReportFieldKeys()) + "\n" +
-         kExamples;
+         kExportExamples;
 }
 
 void _DefineOptions(CLI::App* command, ExportArguments* arguments) {

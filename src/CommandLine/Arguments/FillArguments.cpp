@@ -7,7 +7,7 @@
 
 namespace {
 
-const char* const kExamples =
+const char* const kFillExamples =
     "Examples:\n"
     "  gxexport fill --gradebook Grades.csv -o upload.csv class.xml\n"
     "      all results into the gradebook that was downloaded from Canvas\n"
@@ -86,6 +86,6 @@ CommandSyntax DefineFill(CLI::App* program) {
   DefineClassFile(command, &arguments->options.classFile);
   _DefineChoices(command, arguments.get());
   _DefineFilling(command, &arguments->options);
-  command->footer(ChoicesFooter() + "\n" + kExamples);
+  command->footer(ChoicesFooter() + "\n" + kFillExamples);
   return {command, [arguments] { return _MakeOptions(*arguments); }};
 }

@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr size_t kMostNames = 3;
+constexpr size_t kMostShared = 3;
 
 std::string _SystemText(int error) {
   return std::generic_category().message(error);
@@ -40,11 +40,12 @@ std::string _ChoiceText(const AppliedChoices& applied) {
 // "Ann Smith, Bob Smith and 3 more"
 std::string _NamesText(const qz::ClassTexts& texts, const std::vector<size_t>& students) {
   std::vector<std::string> names;
-  for (size_t i = 0; i < students.size() && i < kMostNames; ++i) {
+  for (size_t i = 0; i < students.size() && i < kMostShared; ++i) {
     names.push_back(texts.StudentName(students[i]));
   }
   std::string text = Join(names, ", ");
-  if (students.size() > kMostNames) text += " and " + std::to_string(students.size() - kMostNames) + " more";
+  if (students.size() > kMostShared)
+    text += " and " + std::to_string(students.size() - kMostShared) + " more";
   return text;
 }
 

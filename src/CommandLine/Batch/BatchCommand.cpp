@@ -23,19 +23,16 @@ namespace {
 
 constexpr size_t kMostConflicts = 20;
 
-[[noreturn]] void _Fail(const std::string& text) {
-  throw CommandError(kExitUsage, text);
-}
-
 std::vector<ListedClass> _ListClasses(const ExportOptions& options) {
   for (const std::string& path : options.classFiles) {
-    if (path == kStandardStream) _Fail("with --output-dir, classes are files or folders; - cannot be one");
+    if (path == kStandardStream)
+      throw CommandError(kExitUsage, "with --output-dir, classes are files or folders; - cannot be one");
   }
   ClassFileList list = ListClassFiles(options.classFiles, options.recursive);
   for (const std::string& folder : list.emptyFolders) {
     const char* hint = options.recursive ? "" : "; -r looks into its subfolders, too";
     const std::string text = "there is no class file (*.xml) in " + PrintableUtf8(folder) + hint;
-    if (list.classes.empty()) _Fail(text);
+    if (list.classes.empty()) throw CommandError(kExitUsage, text);
     Warn(text);
   }
   return std::move(list.classes);
@@ -58,7 +55,8 @@ void _RefuseConflicts(const std::vector<BatchConflict>& conflicts) {
   if (conflicts.size() > lines.size()) {
     lines.push_back("and " + std::to_string(conflicts.size() - lines.size()) + " more");
   }
-  _Fail(Join(lines, "\n") + "\nNothing was exported; rename class files, or choose another folder.");
+  throw CommandError(kExitUsage, Join(lines, "\n") +
+                                     "\nNothing was exported; rename class files, or choose another folder.");
 }
 
 void _MakeFolder(const std::string& folder) {

@@ -5,12 +5,12 @@
 
 namespace {
 
-constexpr int kVersion = 1;
+constexpr int kBatchVersion = 1;
 
 }  // namespace
 
 BatchJson::BatchJson(const ExportChoices& choices) {
-  const Json head = {{"version", kVersion},
+  const Json head = {{"version", kBatchVersion},
                      {"format", choices.format->key},
                      {"dialect", choices.dialect == Dialect::kCurrent ? "current" : "classic"}};
   std::string text = head.Line();

@@ -17,17 +17,14 @@
 
 namespace {
 
-[[noreturn]] void _Fail(const std::string& text) {
-  throw CommandError(kExitUsage, text);
-}
-
 void _RefuseToOverwrite(const FillOptions& options) {
   if (options.dryRun) return;
   if (IsSameFile(options.classFile, options.outputFile)) {
-    _Fail("the output would overwrite the class file; choose another name with -o");
+    throw CommandError(kExitUsage, "the output would overwrite the class file; choose another name with -o");
   }
   if (IsSameFile(options.gradebook, options.outputFile)) {
-    _Fail("the output would overwrite the downloaded gradebook; choose another name with -o");
+    throw CommandError(kExitUsage,
+                       "the output would overwrite the downloaded gradebook; choose another name with -o");
   }
 }
 
@@ -63,14 +60,20 @@ void _RequireTitles(const FillPlan& plan, const MatchChoices& choices) {
   const std::string columns = ". " + _ColumnList(*plan.gradebook);
   switch (fault.kind) {
     case Kind::kUnknownAssignment:
-      _Fail("--map names " + assignment + ", which is not among those to fill. " +
-            AssignmentList(plan.subject->texts));
-    case Kind::kSeveralAssignments: _Fail("--map has more than one meaning for " + assignment);
-    case Kind::kUnknownTitle: _Fail("the gradebook does not have " + column + columns);
+      throw CommandError(kExitUsage, "--map names " + assignment + ", which is not among those to fill. " +
+                                         AssignmentList(plan.subject->texts));
+    case Kind::kSeveralAssignments:
+      throw CommandError(kExitUsage, "--map has more than one meaning for " + assignment);
+    case Kind::kUnknownTitle:
+      throw CommandError(kExitUsage, "the gradebook does not have " + column + columns);
     case Kind::kSeveralColumns:
-      _Fail(column + " stands in the gradebook several times; name one by its whole heading" + columns);
-    case Kind::kReadOnly: _Fail(column + " of the gradebook cannot be filled" + columns);
-    case Kind::kTakenColumn: _Fail("--map gives " + column + " to several assignments");
+      throw CommandError(
+          kExitUsage,
+          column + " stands in the gradebook several times; name one by its whole heading" + columns);
+    case Kind::kReadOnly:
+      throw CommandError(kExitUsage, column + " of the gradebook cannot be filled" + columns);
+    case Kind::kTakenColumn:
+      throw CommandError(kExitUsage, "--map gives " + column + " to several assignments");
   }
 }
 
@@ -104,7 +107,7 @@ ExitStatus RunFill(const FillOptions& options) {
   *session->GetClass() = std::move(file.record);
   const AppliedChoices applied = Apply(choices, session.get());
   if (applied.fault != ChoiceFault::kNone)
-    _Fail(ChoiceFaultText(applied, {session->Class(), file.originals}));
+    throw CommandError(kExitUsage, ChoiceFaultText(applied, {session->Class(), file.originals}));
 
   const ExportSubject subject = MakeExportSubject(choices, *session, file.originals);
   const FillPlan plan = PlanFill(subject, gradebook, options.choices);

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int kVersion = 1;
+constexpr int kFillVersion = 1;
 constexpr size_t kNone = GradebookMatch::kNone;
 
 struct KindKey {
@@ -33,7 +33,7 @@ class Writer {
   Json Whole() const {
     const FillOptions& options = *m_report.options;
     const size_t identifiers = m_plan.match.identifierColumn;
-    Json json = {{"version", kVersion},
+    Json json = {{"version", kFillVersion},
                  {"file", PrintableUtf8(options.classFile)},
                  {"className", m_report.className},
                  {"gradebook", PrintableUtf8(options.gradebook)},

@@ -9,8 +9,6 @@
 
 namespace {
 
-constexpr size_t kNone = GradebookMatch::kNone;
-
 std::string _Count(size_t count, const char* one, const char* many) {
   return std::to_string(count) + " " + (count == 1 ? one : many);
 }
@@ -89,13 +87,13 @@ class Report {
   // "28 of 30 students and 2 of 3 assignments were found in the Canvas gradebook, by SIS User ID."
   std::string Summary() const {
     const GradebookMatch& match = m_plan.match;
-    const auto isFound = [](size_t other) { return other != kNone; };
+    const auto isFound = [](size_t other) { return other != GradebookMatch::kNone; };
     std::string text = std::to_string(std::ranges::count_if(match.memberOf, isFound)) + " of " +
                        _Count(match.memberOf.size(), "student", "students") + " and " +
                        std::to_string(std::ranges::count_if(match.columnOf, isFound)) + " of " +
                        _Count(match.columnOf.size(), "assignment", "assignments") + " found in the " +
                        m_gradebook.system->name + " gradebook";
-    if (match.identifierColumn != kNone) {
+    if (match.identifierColumn != GradebookMatch::kNone) {
       text += "; " + PrintableUtf8(std::string(m_gradebook.Heading(match.identifierColumn))) + " is the " +
               PrintableUtf8(m_subject.texts.FieldTitle(qz::FindStudentField(m_subject.identifier)));
     }
@@ -127,15 +125,16 @@ class Report {
   void Columns() {
     std::vector<FillColumn> columns;
     for (const FillColumn& column : m_plan.columns) {
-      if (column.assignment == kNone) continue;
-      const bool isExact =
-          column.column != kNone && m_plan.match.titles[column.assignment] == TitleMatch::kExact;
+      if (column.assignment == GradebookMatch::kNone) continue;
+      const bool isExact = column.column != GradebookMatch::kNone &&
+                           m_plan.match.titles[column.assignment] == TitleMatch::kExact;
       if (!isExact) columns.push_back(column);
     }
     List("Columns with another title, or new", columns, [this](const FillColumn& column) {
       return Assignment(column.assignment) + " -> " +
-             (column.column == kNone ? "a new column"
-                                     : PrintableUtf8(std::string(m_gradebook.Heading(column.column))));
+             (column.column == GradebookMatch::kNone
+                  ? "a new column"
+                  : PrintableUtf8(std::string(m_gradebook.Heading(column.column))));
     });
   }
 

@@ -11,7 +11,7 @@
 #include "Systems/Finding.h"
 
 // Nobody reads more names; the others are counted.
-constexpr size_t kMostNames = 20;
+inline constexpr size_t kMostNames = 20;
 
 // "a; b and 3 more": of `count` names the first, which `nameOf(i)` gives.
 template <typename NameOf>

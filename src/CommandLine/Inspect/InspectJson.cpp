@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr int kVersion = 1;
+constexpr int kInspectVersion = 1;
 
 // Groups of students by their ids.
 Json _Groups(const qz::ClassRecord& record, const std::vector<std::vector<size_t>>& groups) {
@@ -89,7 +89,7 @@ Json _Students(const qz::ClassTexts& texts) {
 
 std::string InspectionJson(const ClassInspection& inspection) {
   const qz::ClassTexts texts = inspection.file.Texts();
-  const Json json = {{"version", kVersion},
+  const Json json = {{"version", kInspectVersion},
                      {"className", inspection.file.name},
                      {"customLabels", _Labels(texts)},
                      {"assignments", _Assignments(texts, inspection.scores)},

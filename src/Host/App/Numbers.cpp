@@ -21,4 +21,8 @@ QString NumberText(double number) {
   return locale.toString(hundredths / 100, 'f', whole ? 0 : tenths ? 1 : 2);
 }
 
+QString CountText(size_t count) {
+  return QLocale().toString(static_cast<qulonglong>(count));
+}
+
 }  // namespace host

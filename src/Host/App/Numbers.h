@@ -3,11 +3,15 @@
 #define GRADIX_NUMBERS_H
 
 #include <QString>
+#include <cstddef>
 
 namespace host {
 
 // With at most two decimals: 7, 7.5, 7.33.
 QString NumberText(double number);
+
+// How many there are.
+QString CountText(size_t count);
 
 }  // namespace host
 

@@ -144,12 +144,11 @@ void AssignmentPanel::ShowSelected() {
 }
 
 void AssignmentPanel::ShowFigures(const ScoreStatistics& statistics, int pointsPossible) {
-  const auto number = [](size_t count) { return QLocale().toString(static_cast<qulonglong>(count)); };
   const auto points = [&statistics](double ScoreFigures::*member) {
     return statistics.figures ? NumberText((*statistics.figures).*member) : QStringLiteral("—");
   };
-  const QString values[] = {number(statistics.students),       number(statistics.results),
-                            number(statistics.missing),        points(&ScoreFigures::mean),
+  const QString values[] = {CountText(statistics.students),    CountText(statistics.results),
+                            CountText(statistics.missing),     points(&ScoreFigures::mean),
                             points(&ScoreFigures::median),     points(&ScoreFigures::minimum),
                             points(&ScoreFigures::maximum),    points(&ScoreFigures::standardDeviation),
                             QLocale().toString(pointsPossible)};

@@ -67,8 +67,8 @@ QString HistogramWidget::Summary() const {
   if (lowest == highest) return Texts::tr("%n result(s) of %1 points", nullptr, results).arg(highest);
   const size_t bin = HighestBin();
   return Texts::tr("%n result(s) from %1 to %2 points; most, %3, from %4 to %5", nullptr, results)
-      .arg(lowest, highest, QLocale().toString(static_cast<qulonglong>(HighestCount())),
-           NumberText(m_histogram.Bound(bin)), NumberText(m_histogram.Bound(bin + 1)));
+      .arg(lowest, highest, CountText(HighestCount()), NumberText(m_histogram.Bound(bin)),
+           NumberText(m_histogram.Bound(bin + 1)));
 }
 
 QString HistogramWidget::Bins() const {
@@ -77,7 +77,7 @@ QString HistogramWidget::Bins() const {
     if (m_histogram.counts[bin] == 0) continue;
     bins += Texts::tr("%1 to %2: %3")
                 .arg(NumberText(m_histogram.Bound(bin)), NumberText(m_histogram.Bound(bin + 1)),
-                     QLocale().toString(static_cast<qulonglong>(m_histogram.counts[bin])));
+                     CountText(m_histogram.counts[bin]));
   }
   return bins.join(QLatin1String("; "));
 }
@@ -157,9 +157,7 @@ void HistogramWidget::paintEvent(QPaintEvent* /*event*/) {
 void HistogramWidget::DrawBars(QPainter* painter, const Axes& axes) const {
   const QFontMetricsF metrics(font());
   const double line = metrics.height();
-  const auto countOf = [this](size_t bin) {
-    return QLocale().toString(static_cast<qulonglong>(m_histogram.counts[bin]));
-  };
+  const auto countOf = [this](size_t bin) { return CountText(m_histogram.counts[bin]); };
   const double width = axes.plot.width() / static_cast<double>(Histogram::kBins);
   const bool hasCounts = metrics.horizontalAdvance(countOf(HighestBin())) <= width;
   for (size_t bin = 0; bin < Histogram::kBins; ++bin) {

@@ -9,7 +9,7 @@ namespace host {
 
 namespace {
 
-constexpr qsizetype kMaxNameBytes = 120;  // of a class's or an assignment's name; leaves room for folders
+constexpr qsizetype kMaxPartBytes = 120;  // of a class's or an assignment's name; leaves room for folders
 
 QChar _Cleaned(QChar character) {
   static const QString joining = QStringLiteral("/\\|");
@@ -27,7 +27,7 @@ QString _Cleaned(QString text) {
 }
 
 QString _Cut(QString name) {
-  while (name.toUtf8().size() > kMaxNameBytes) {
+  while (name.toUtf8().size() > kMaxPartBytes) {
     const bool pair = name.size() > 1 && name.back().isLowSurrogate();
     name.chop(pair ? 2 : 1);
   }

@@ -5,13 +5,13 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 #include <QRadioButton>
 #include <QTableView>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
 
+#include "Host/App/Numbers.h"
 #include "Host/App/Texts.h"
 #include "Host/Fill/FillTexts.h"
 
@@ -95,8 +95,7 @@ void FillCellsPage::FitColumns() {
 
 void FillCellsPage::ShowCounts() {
   const auto show = [this](FillFilter filter, const QString& text) {
-    m_filters[static_cast<size_t>(filter)]->setText(
-        text.arg(QLocale().toString(qulonglong{m_model.Count(filter)})));
+    m_filters[static_cast<size_t>(filter)]->setText(text.arg(CountText(m_model.Count(filter))));
   };
   show(FillFilter::kAll, Texts::tr("A&ll (%1)"));
   show(FillFilter::kChanges, Texts::tr("C&hanges only (%1)"));

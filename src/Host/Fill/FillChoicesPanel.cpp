@@ -4,13 +4,13 @@
 #include <QComboBox>
 #include <QEvent>
 #include <QLabel>
-#include <QLocale>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
 
 #include "Common/QZData/StudentFields.h"
+#include "Host/App/Numbers.h"
 #include "Host/App/Texts.h"
 #include "Host/ClassView/RomanText.h"
 #include "Host/Findings/FindingsModel.h"
@@ -98,9 +98,8 @@ void FillChoicesPanel::ShowFields() {
   const int chosen = m_field->currentIndex();
   m_field->clear();
   for (const FieldHits& hits : m_hits) {
-    m_field->addItem(
-        Texts::tr("%1: %2 found").arg(NameOf(hits.field), QLocale().toString(qulonglong{hits.found})),
-        int{hits.field});
+    m_field->addItem(Texts::tr("%1: %2 found").arg(NameOf(hits.field), CountText(hits.found)),
+                     int{hits.field});
   }
   m_field->setCurrentIndex(chosen);
 }

@@ -7,6 +7,7 @@
 #include <iterator>
 #include <string_view>
 
+#include "Host/App/Numbers.h"
 #include "Host/App/Texts.h"
 #include "Host/ClassView/ReadFaultText.h"
 #include "Host/ClassView/RomanText.h"
@@ -143,8 +144,7 @@ QString StudentText(const FillPlan& plan, size_t student) {
 
 QString MemberText(const Gradebook& gradebook, size_t member) {
   const CourseMember& who = gradebook.members[member];
-  const QString line =
-      Texts::tr("line %1").arg(QLocale().toString(qulonglong{gradebook.table.LineOf(who.row)}));
+  const QString line = Texts::tr("line %1").arg(CountText(gradebook.table.LineOf(who.row)));
   const QString name = LineFromUtf8(who.name).trimmed();
   return name.isEmpty() ? line : QStringLiteral("%1 (%2)").arg(name, line);
 }

@@ -34,10 +34,10 @@ namespace host {
 
 namespace {
 
-constexpr const char* kFolderKey = "fill/folder";
+constexpr const char* kDownloadFolderKey = "fill/folder";
 
 QString _LastFolder() {
-  QString folder = QSettings().value(QLatin1String(kFolderKey)).toString();
+  QString folder = QSettings().value(QLatin1String(kDownloadFolderKey)).toString();
   if (!folder.isEmpty() && QFileInfo(folder).isDir()) return folder;
   return QStandardPaths::writableLocation(QStandardPaths::DownloadLocation);
 }
@@ -130,7 +130,7 @@ void FillWindow::ChooseGradebook() {
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   dialog->setNameFilters({Texts::tr("Gradebooks (*.csv *.xls *.txt *.tsv)"), Texts::tr("All files (*)")});
   connect(dialog, &QFileDialog::fileSelected, this, [this](const QString& path) {
-    QSettings().setValue(QLatin1String(kFolderKey), QFileInfo(path).absolutePath());
+    QSettings().setValue(QLatin1String(kDownloadFolderKey), QFileInfo(path).absolutePath());
     OpenGradebook(path);
   });
   dialog->open();

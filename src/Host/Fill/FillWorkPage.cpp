@@ -4,7 +4,6 @@
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLocale>
 #include <QPushButton>
 #include <QSplitter>
 #include <QTabWidget>
@@ -13,6 +12,7 @@
 #include <utility>
 
 #include "Host/App/Messages.h"
+#include "Host/App/Numbers.h"
 #include "Host/App/Texts.h"
 #include "Host/ClassView/RomanText.h"
 #include "Host/Fill/FillCellsPage.h"
@@ -27,26 +27,21 @@ namespace host {
 
 namespace {
 
-constexpr size_t kNone = GradebookMatch::kNone;
-
-qsizetype _CountFound(const std::vector<size_t>& others) {
-  return std::ranges::count_if(others, [](size_t other) { return other != kNone; });
-}
-
-QString _Number(qsizetype number) {
-  return QLocale().toString(qlonglong{number});
+size_t _CountFound(const std::vector<size_t>& others) {
+  return static_cast<size_t>(
+      std::ranges::count_if(others, [](size_t other) { return other != GradebookMatch::kNone; }));
 }
 
 // The findings of the worst consequence, in a word.
 QString _WorstText(const Findings& findings) {
   const Consequence worst = findings.front().consequence;
-  const auto count = static_cast<int>(std::ranges::count(findings, worst, &Finding::consequence));
+  const auto count = static_cast<size_t>(std::ranges::count(findings, worst, &Finding::consequence));
   switch (worst) {
-    case Consequence::kRefused: return Texts::tr("%1 refused").arg(_Number(count));
-    case Consequence::kWrong: return Texts::tr("%1 wrong").arg(_Number(count));
-    case Consequence::kLost: return Texts::tr("%1 lost").arg(_Number(count));
-    case Consequence::kChanged: return Texts::tr("%1 altered").arg(_Number(count));
-    case Consequence::kNote: return Texts::tr("%n note(s)", nullptr, count);
+    case Consequence::kRefused: return Texts::tr("%1 refused").arg(CountText(count));
+    case Consequence::kWrong: return Texts::tr("%1 wrong").arg(CountText(count));
+    case Consequence::kLost: return Texts::tr("%1 lost").arg(CountText(count));
+    case Consequence::kChanged: return Texts::tr("%1 altered").arg(CountText(count));
+    case Consequence::kNote: return Texts::tr("%n note(s)", nullptr, static_cast<int>(count));
   }
   return {};
 }
@@ -158,17 +153,16 @@ void FillWorkPage::ShowPlan() {
 void FillWorkPage::ShowRecognised() {
   const FillPlan& plan = m_draft.Plan();
   const Gradebook& gradebook = *plan.gradebook;
-  const auto columns = std::ranges::count(gradebook.columns, ColumnRole::kItem, &DownloadColumn::role);
+  const auto columns =
+      static_cast<size_t>(std::ranges::count(gradebook.columns, ColumnRole::kItem, &DownloadColumn::role));
   QString text = Texts::tr("%1 gradebook “%2”. Students: %3, columns to fill: %4.")
                      .arg(QString::fromUtf8(gradebook.system->name), QFileInfo(m_path).fileName(),
-                          _Number(static_cast<qsizetype>(gradebook.members.size())), _Number(columns));
+                          CountText(gradebook.members.size()), CountText(columns));
   const GradebookMatch& match = plan.match;
   text += u'\n' + Texts::tr("Found of the class: %1 of %2 students, %3 of %4 assignments.")
-                      .arg(_Number(_CountFound(match.memberOf)),
-                           _Number(static_cast<qsizetype>(match.memberOf.size())),
-                           _Number(_CountFound(match.columnOf)),
-                           _Number(static_cast<qsizetype>(match.columnOf.size())));
-  if (match.identifierColumn != kNone) {
+                      .arg(CountText(_CountFound(match.memberOf)), CountText(match.memberOf.size()),
+                           CountText(_CountFound(match.columnOf)), CountText(match.columnOf.size()));
+  if (match.identifierColumn != GradebookMatch::kNone) {
     text += u' ' + Texts::tr("The identifier is in “%1”.").arg(ColumnText(gradebook, match.identifierColumn));
   }
   m_recognised->setText(text);
@@ -179,8 +173,8 @@ void FillWorkPage::ShowTabTitles() {
   const FillPlan& plan = m_draft.Plan();
   const size_t unmatched = plan.unmatchedStudents.size() + plan.unmatchedMembers.size() +
                            plan.unmatchedAssignments.size() + plan.unmatchedColumns.size();
-  m_tabs->setTabText(0, Texts::tr("&Results (%1)").arg(_Number(static_cast<qsizetype>(plan.cells.size()))));
-  m_tabs->setTabText(1, Texts::tr("Not &matched (%1)").arg(_Number(static_cast<qsizetype>(unmatched))));
+  m_tabs->setTabText(0, Texts::tr("&Results (%1)").arg(CountText(plan.cells.size())));
+  m_tabs->setTabText(1, Texts::tr("Not &matched (%1)").arg(CountText(unmatched)));
   if (plan.findings.empty()) {
     m_tabs->setTabText(2, Texts::tr("F&indings"));
     m_tabs->setTabIcon(2, {});

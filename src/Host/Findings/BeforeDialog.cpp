@@ -21,7 +21,7 @@ namespace host {
 
 namespace {
 
-constexpr size_t kMaxGroups = 3;  // of students with one identifier that are named
+constexpr size_t kMaxNamedGroups = 3;  // of students with one identifier that are named
 
 struct Warning {
   QString heading;    // what the export window will do
@@ -88,7 +88,7 @@ std::optional<Warning> _JudgeIdentifiers(const ExportSubject& subject) {
   } else {
     lines.append(Texts::tr("It will propose “%1”, which does not tell everybody apart.").arg(title));
     const size_t groups = check.duplicates.size();
-    const size_t named = groups > kMaxGroups + 1 ? kMaxGroups : groups;
+    const size_t named = groups > kMaxNamedGroups + 1 ? kMaxNamedGroups : groups;
     for (size_t i = 0; i < named; ++i) lines.append(_GroupLine(check.duplicates[i], subject));
     if (named < groups) lines.append(Texts::tr("and %L1 more").arg(groups - named));
   }

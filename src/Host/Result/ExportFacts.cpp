@@ -1,10 +1,10 @@
 #include "Host/Result/ExportFacts.h"
 
 #include <QFileInfo>
-#include <QLocale>
 #include <algorithm>
 #include <functional>
 
+#include "Host/App/Numbers.h"
 #include "Host/App/Texts.h"
 #include "Host/ClassView/RomanText.h"
 #include "Host/Export/FileNames.h"
@@ -18,10 +18,6 @@ namespace {
 
 constexpr size_t kMaxNames = 5;
 
-QString _Number(size_t count) {
-  return QLocale().toString(static_cast<qulonglong>(count));
-}
-
 // "Ana, Ben and 3 more"
 QString _List(const std::vector<size_t>& positions, const std::function<std::string(size_t)>& name) {
   // A single one would take no more room than its count.
@@ -30,12 +26,12 @@ QString _List(const std::vector<size_t>& positions, const std::function<std::str
   for (size_t i = 0; i < shown; ++i) names.append(LineFromUtf8(name(positions[i])));
   QString list = names.join(QLatin1String(", "));
   if (shown == positions.size()) return list;
-  return Texts::tr("%1 and %2 more").arg(list, _Number(positions.size() - shown));
+  return Texts::tr("%1 and %2 more").arg(list, CountText(positions.size() - shown));
 }
 
 // "3 (Ana, Ben, Cleo)"
 QString _Counted(const std::vector<size_t>& positions, const std::function<std::string(size_t)>& name) {
-  return QStringLiteral("%1 (%2)").arg(_Number(positions.size()), _List(positions, name));
+  return QStringLiteral("%1 (%2)").arg(CountText(positions.size()), _List(positions, name));
 }
 
 class FactWriter {
@@ -81,7 +77,7 @@ class FactWriter {
     }
     if (m_file.dialect != Dialect::kFilled) return;
     Add("download", QT_TRANSLATE_NOOP("Texts", "Download:"), QFileInfo(m_file.gradebookPath).fileName());
-    Add("cells", QT_TRANSLATE_NOOP("Texts", "Cells filled:"), _Number(m_file.filledCells));
+    Add("cells", QT_TRANSLATE_NOOP("Texts", "Cells filled:"), CountText(m_file.filledCells));
   }
 
   void AddProblems() {
@@ -91,7 +87,8 @@ class FactWriter {
     if (problems == 0) return;
     const std::string worst = DescribeConsequence(findings.front().consequence, FindingLanguage());
     Add("problems", QT_TRANSLATE_NOOP("Texts", "Problems:"),
-        QStringLiteral("%1 (%2)").arg(_Number(static_cast<size_t>(problems)), QString::fromStdString(worst)),
+        QStringLiteral("%1 (%2)").arg(CountText(static_cast<size_t>(problems)),
+                                      QString::fromStdString(worst)),
         true);
   }
 
@@ -102,7 +99,7 @@ class FactWriter {
             return m_subject->texts.AssignmentName(position);
           }));
     } else if (m_file.assignmentCount > 0) {
-      Add("assignments", kTitle, _Number(m_file.assignmentCount));
+      Add("assignments", kTitle, CountText(m_file.assignmentCount));
     }
   }
 
@@ -111,13 +108,13 @@ class FactWriter {
     if (m_file.dialect == Dialect::kFilled) return;
     constexpr const char* kTitle = QT_TRANSLATE_NOOP("Texts", "Students:");
     if (!m_subject) {
-      if (m_file.studentCount > 0) Add("students", kTitle, _Number(m_file.studentCount));
+      if (m_file.studentCount > 0) Add("students", kTitle, CountText(m_file.studentCount));
       return;
     }
     const size_t all = m_subject->texts.Record().students.size();
-    const QString rows = _Number(m_subject->students.size());
+    const QString rows = CountText(m_subject->students.size());
     Add("students", kTitle,
-        m_subject->students.size() == all ? rows : Texts::tr("%1 of %2").arg(rows, _Number(all)));
+        m_subject->students.size() == all ? rows : Texts::tr("%1 of %2").arg(rows, CountText(all)));
   }
 
   void AddIdentifier() {
@@ -143,7 +140,7 @@ class FactWriter {
         if (field.Value(records[i]).empty()) students.push_back(i);
       }
     }
-    const QString who = students.size() == told ? Students(students) : _Number(told);
+    const QString who = students.size() == told ? Students(students) : CountText(told);
     Add("withoutIdentifier", QT_TRANSLATE_NOOP("Texts", "Without an identifier:"),
         m_file.dialect == Dialect::kCurrent ? Texts::tr("%1, left out").arg(who) : who, true);
   }
@@ -159,7 +156,7 @@ class FactWriter {
     const size_t cells = m_subject->students.size() * m_subject->assignments.size();
     if (m_file.dialect != Dialect::kFilled) {
       Add("results", QT_TRANSLATE_NOOP("Texts", "Results:"),
-          Texts::tr("%1 of %2").arg(_Number(scores), _Number(cells)));
+          Texts::tr("%1 of %2").arg(CountText(scores), CountText(cells)));
     }
     if (!students.empty()) {
       Add("withoutResults", QT_TRANSLATE_NOOP("Texts", "Without any result:"), Students(students), true);
@@ -169,7 +166,7 @@ class FactWriter {
   void AddReplaced() {
     Add("replaced", QT_TRANSLATE_NOOP("Texts", "Replaced characters:"),
         Texts::tr("%1 of the class became “?”, because the file cannot hold them")
-            .arg(_Number(m_file.replacedCharacters)),
+            .arg(CountText(m_file.replacedCharacters)),
         true);
   }
 

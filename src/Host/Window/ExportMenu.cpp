@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "Host/App/Choices.h"
+#include "Host/App/Mnemonics.h"
 #include "Host/App/Texts.h"
 #include "Host/Export/FileNames.h"
 #include "Systems/LearningSystem.h"
@@ -15,19 +16,15 @@ namespace host {
 
 namespace {
 
-QString _Escaped(QString text) {
-  return text.replace(QLatin1String("&"), QLatin1String("&&"));
-}
-
 // The text with the first of its letters as mnemonic that no earlier text has.
 QString _WithMnemonic(const QString& text, QString* usedLetters) {
   for (qsizetype i = 0; i < text.size(); ++i) {
     const QChar letter = text[i].toLower();
     if (!letter.isLetter() || usedLetters->contains(letter)) continue;
     usedLetters->append(letter);
-    return _Escaped(text.left(i)) + u'&' + _Escaped(text.mid(i));
+    return EscapeMnemonics(text.left(i)) + u'&' + EscapeMnemonics(text.mid(i));
   }
-  return _Escaped(text);
+  return EscapeMnemonics(text);
 }
 
 }  // namespace

@@ -10,19 +10,11 @@
 #include <QToolButton>
 #include <utility>
 
+#include "Host/App/Mnemonics.h"
 #include "Host/App/RecentFiles.h"
 #include "Host/App/Texts.h"
 
 namespace host {
-
-namespace {
-
-// As the text of an action.
-QString _Escaped(QString text) {
-  return text.replace(QLatin1String("&"), QLatin1String("&&"));
-}
-
-}  // namespace
 
 MainActions::MainActions(QMainWindow* window, ActionHandlers handlers)
     : m_window(window), m_handlers(std::move(handlers)) {
@@ -69,7 +61,8 @@ void MainActions::FillRecentMenu() {
   m_recentMenu->clear();
   int number = 0;
   for (const QString& path : RecentFiles()) {
-    const QString text = QStringLiteral("&%1  %2").arg(++number).arg(_Escaped(QFileInfo(path).fileName()));
+    const QString text =
+        QStringLiteral("&%1  %2").arg(++number).arg(EscapeMnemonics(QFileInfo(path).fileName()));
     QAction* const action =
         m_recentMenu->addAction(text, m_window, [this, path] { m_handlers.openRecent(path); });
     action->setToolTip(path);
@@ -177,7 +170,7 @@ void MainActions::SetExportEnabled(bool throughDialog, bool fromHere) {
 void MainActions::SetSystem(const QString& name) {
   m_systemName = name;
   m_helpOnSystem->setText(name.isEmpty() ? Texts::tr("&Help on This Window")
-                                         : Texts::tr("&Help on %1").arg(_Escaped(name)));
+                                         : Texts::tr("&Help on %1").arg(EscapeMnemonics(name)));
 }
 
 void MainActions::Retranslate() {

@@ -9,9 +9,9 @@
 
 namespace {
 
-class ClassicOutput {
+class ClassicReport {
  public:
-  ClassicOutput(std::FILE* file, const qz::ClassRecord& record, const qz::AssignmentRecord& assignment)
+  ClassicReport(std::FILE* file, const qz::ClassRecord& record, const qz::AssignmentRecord& assignment)
       : m_file(file),
         m_class(record),
         m_assignment(assignment),
@@ -67,6 +67,6 @@ uint32_t SessionEnhancedText::Export(const char* path) {
 void SessionEnhancedText::Write(std::FILE* file) {
   const qz::AssignmentRecord* assignment = _ReportAssignment(Class());
   if (assignment == nullptr) return;
-  ClassicOutput output(file, Class(), *assignment);
+  ClassicReport output(file, Class(), *assignment);
   ReportWalk(Class(), *assignment, &output).Write();
 }

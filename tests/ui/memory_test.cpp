@@ -29,10 +29,16 @@ void* Allocate(size_t size, const void* caller) {
 [[gnu::noinline]] void* operator new(size_t size) {
   return Allocate(size, __builtin_return_address(0));
 }
+void* operator new(size_t size, const std::nothrow_t&) noexcept {
+  return std::malloc(size == 0 ? 1 : size);
+}
 [[gnu::noinline]] void operator delete(void* memory) noexcept {
   std::free(memory);
 }
 [[gnu::noinline]] void operator delete(void* memory, size_t) noexcept {
+  std::free(memory);
+}
+void operator delete(void* memory, const std::nothrow_t&) noexcept {
   std::free(memory);
 }
 

@@ -1,11 +1,10 @@
 # With GRADIX_UNITY several sources of a target are compiled as one, which reads the headers that they share once.
-# A source still includes whatever it needs: the build without GRADIX_UNITY, as the packages are built, shows what is
-# missing.
+# A source still includes whatever it needs: the build without GRADIX_UNITY, as of the packages, shows what is missing.
 
 # gradix_unite(target...): what is local to a source has a name that is local to no other of its target.
 function(gradix_unite)
   if(GRADIX_UNITY)
-    set_target_properties(${ARGN} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 10)
+    set_target_properties(${ARGN} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 16)
   endif()
 endfunction()
 

@@ -157,7 +157,7 @@ bool _GrowsWithTheDocument(const Costs& costs, size_t i) {
 // The least of several rounds. Others at work on the machine only ever add to a round, so one that looks too
 // long is measured again.
 Costs _LeastCosts(const Shape& shape) {
-  constexpr int kEnoughRounds = 3;
+  constexpr int kEnoughRounds = 2;
   constexpr int kMostRounds = 12;
   Costs costs{};
   for (int round = 0; round < kMostRounds; ++round) {

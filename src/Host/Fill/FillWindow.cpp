@@ -42,7 +42,7 @@ QString _LastFolder() {
   return QStandardPaths::writableLocation(QStandardPaths::DownloadLocation);
 }
 
-bool _IsChange(const FillCell& cell) {
+bool _ChangesTheFile(const FillCell& cell) {
   return cell.kind == FillKind::kFilled || cell.kind == FillKind::kChanged;
 }
 
@@ -183,7 +183,7 @@ ExportedFile FillWindow::SavedFile(const QString& path) const {
   }
   std::ranges::sort(file.assignments);
   file.gradebookPath = m_work->GradebookPath();
-  file.filledCells = static_cast<size_t>(std::ranges::count_if(plan.cells, _IsChange));
+  file.filledCells = static_cast<size_t>(std::ranges::count_if(plan.cells, _ChangesTheFile));
   return file;
 }
 

@@ -95,7 +95,7 @@ class FillPlanner {
     FillCell cell{FillKind::kKept, student, column.assignment,
                   isNew ? "" : std::string(m_gradebook.table.Text(row, column.column)), ""};
     if (score) cell.kind = Judge(row, column.column, isEmpty, *score);
-    const bool isNewText = cell.kind == FillKind::kFilled || cell.kind == FillKind::kChanged;
+    const bool isNewText = IsChange(cell.kind);
     cell.newText = isNewText ? m_gradebook.ScoreText(*score) : cell.oldText;
     m_plan.cells.push_back(std::move(cell));
   }

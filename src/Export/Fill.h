@@ -30,6 +30,11 @@ enum class FillKind : uint8_t {
   kNoNumber,  // ours is none that can be written; the gradebook's stays
 };
 
+// Whether the cell gets another score.
+constexpr bool IsChange(FillKind kind) {
+  return kind == FillKind::kFilled || kind == FillKind::kChanged;
+}
+
 struct FillCell {
   FillKind kind;
   size_t student;       // position in ClassRecord::students
@@ -39,7 +44,7 @@ struct FillCell {
 
   // The file has a result of ours there.
   bool IsWritten() const {
-    return kind == FillKind::kFilled || kind == FillKind::kChanged || kind == FillKind::kSame;
+    return IsChange(kind) || kind == FillKind::kSame;
   }
 };
 

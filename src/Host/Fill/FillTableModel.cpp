@@ -75,10 +75,6 @@ std::vector<bool> _Containing(const std::vector<QString>& names, const QString& 
   return found;
 }
 
-bool _IsChange(FillKind kind) {
-  return kind == FillKind::kFilled || kind == FillKind::kChanged;
-}
-
 }  // namespace
 
 void FillTableModel::Show(const FillPlan* plan) {
@@ -137,7 +133,7 @@ bool FillTableModel::Passes(size_t cell, FillFilter filter) const {
   const FillKind kind = m_plan->cells[cell].kind;
   switch (filter) {
     case FillFilter::kAll: return true;
-    case FillFilter::kChanges: return _IsChange(kind);
+    case FillFilter::kChanges: return IsChange(kind);
     case FillFilter::kProblems: return kind == FillKind::kNoNumber || m_problems[cell] != kNoProblem;
   }
   return true;

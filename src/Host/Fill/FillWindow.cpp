@@ -42,10 +42,6 @@ QString _LastFolder() {
   return QStandardPaths::writableLocation(QStandardPaths::DownloadLocation);
 }
 
-bool _ChangesTheFile(const FillCell& cell) {
-  return cell.kind == FillKind::kFilled || cell.kind == FillKind::kChanged;
-}
-
 }  // namespace
 
 FillWindow::FillWindow(QWidget* parent, std::shared_ptr<const OpenClass> openClass,
@@ -183,7 +179,7 @@ ExportedFile FillWindow::SavedFile(const QString& path) const {
   }
   std::ranges::sort(file.assignments);
   file.gradebookPath = m_work->GradebookPath();
-  file.filledCells = static_cast<size_t>(std::ranges::count_if(plan.cells, _ChangesTheFile));
+  file.filledCells = static_cast<size_t>(std::ranges::count_if(plan.cells, IsChange, &FillCell::kind));
   return file;
 }
 

@@ -43,9 +43,7 @@ struct FillCell {
   std::string newText;  // as it is written; the old one when it is kept
 
   // The file has a result of ours there.
-  bool IsWritten() const {
-    return IsChange(kind) || kind == FillKind::kSame;
-  }
+  bool IsWritten() const { return IsChange(kind) || kind == FillKind::kSame; }
 };
 
 // A column of the file for upload.

@@ -115,8 +115,7 @@ const Shape kShapes[] = {
      "<class><assignment-list><assignment>"
      "{<results-list><results><response-list><response><text>x</text></response></response-list></results>"
      "</results-list><question-list><question/></question-list>}</assignment></assignment-list></class>"},
-    {"pieces of a text", 25000, kFlat,
-     kStudents + "<student><alias>{&#65;&amp;\n}</alias></student>" + kEnd},
+    {"pieces of a text", 25000, kFlat, kStudents + "<student><alias>{&#65;&amp;\n}</alias></student>" + kEnd},
     {"texts of a student, outside its elements", 50000, kFlat,
      kStudents + "<student>{x<b/>}</student>" + kEnd},
     {"elements in one another", 60000, kLinear, "<class>{<d>}{</d>}</class>"},

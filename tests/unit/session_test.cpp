@@ -108,7 +108,7 @@ TEST(EntryPoints, TellAHostWhatItsRecordHasRoomFor) {
   QZEXPORTOUTCOME& kept = g_sessionMgr.FindOutcome(id)->told;
   kept.chosenAssignments = chosen;
   kept.students = 30;
-  std::strcpy(kept.path + QZFILTER_PATH_SIZE, "end");
+  std::memcpy(kept.path + QZFILTER_PATH_SIZE, "end", sizeof "end");
 
   constexpr uint32_t kNow = sizeof(QZEXPORTOUTCOME);
   const struct {
@@ -155,7 +155,7 @@ TEST(ResultsJoin, AnswersAsTheLinearSearchDoes) {
     std::vector<qz::AssignmentRecord> assignments(3);
     double points = 0.0;
     for (qz::AssignmentRecord& assignment : assignments) {
-      assignment.results.resize(static_cast<size_t>(ids(random) + 3));
+      assignment.results.resize(static_cast<size_t>(ids(random)) + 3);
       for (qz::ResultsRecord& results : assignment.results) {
         results.studentID = ids(random);
         results.responses.push_back({0, 0, "", ++points});

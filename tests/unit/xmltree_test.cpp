@@ -25,7 +25,7 @@ std::string _AllText(const _XmlTreeTag* node, int32_t size = 100, bool* complete
   std::string buffer(static_cast<size_t>(size) + 1, '#');
   const bool result = XmlTreeGetAllText(node, buffer.data(), size);
   if (complete != nullptr) *complete = result;
-  return buffer.c_str();
+  return buffer.data();  // up to the null
 }
 
 TEST(XmlTree, LinksNodesInDocumentOrder) {

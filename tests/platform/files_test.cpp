@@ -72,7 +72,7 @@ TEST(FSRef, IsMadeByAnyHost) {
   char buffer[64] = "#";
   EXPECT_EQ(FSRefMakePath(file, buffer, sizeof(buffer)), paramErr) << "null pointer";
   EXPECT_STREQ(buffer, "");
-  std::memcpy(record.data() + 1 + 8, &path, sizeof(path));
+  std::memcpy(record.data() + 1 + 8, &path, sizeof(void*));
   EXPECT_EQ(_PathOf(*file), path);
   const FSRef made = QZFilter_MakeFSRef(path);
   EXPECT_EQ(std::memcmp(file, &made, sizeof made), 0);

@@ -90,15 +90,15 @@ TEST_F(DialogTest, IsAsLargeAsTheFontNeedsIt) {
   EXPECT_EQ(GetDialogWidth(m_dialog, 300), 300);
   const QPoint middle = QGuiApplication::primaryScreen()->availableGeometry().center();
   const Rect place = GetWindowScreenBounds(window);
-  EXPECT_NEAR((place.left + place.right) / 2, middle.x(), 1);
-  EXPECT_NEAR((place.top + place.bottom) / 2, middle.y(), 1);
+  EXPECT_NEAR((place.left + place.right) / 2.0, middle.x(), 1);
+  EXPECT_NEAR((place.top + place.bottom) / 2.0, middle.y(), 1);
 
   QApplication::setFont(font);
   AppendDialogItemList(large, 201);
   AppendDialogItemList(m_dialog, 201);
   const Rect added = GetControlBounds(GetDialogItemAsControl(large, kItemCount + 1));
   EXPECT_EQ(added.right, GetDialogWidth(large, 110));
-  EXPECT_NEAR(added.bottom, 30 * size.bottom / 300, 1);
+  EXPECT_NEAR(added.bottom, size.bottom / 10.0, 1);
   EXPECT_TRUE(GetControlBounds(Item(kItemCount + 1)) == (Rect{10, 10, 30, 110}));
 }
 

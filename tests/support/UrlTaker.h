@@ -22,8 +22,7 @@ class UrlTaker : public QObject {
 
   std::vector<std::string> Take() { return std::exchange(m_urls, {}); }  // as they are sent, percent-encoded
 
- public slots:
-  void Open(const QUrl& url) { m_urls.push_back(url.toEncoded().toStdString()); }
+  Q_SLOT void Open(const QUrl& url) { m_urls.push_back(url.toEncoded().toStdString()); }
 
  private:
   QStringList m_schemes;

@@ -36,7 +36,7 @@ TEST_F(State, ShowingHidingAndCentring) {
   CenterDLG(m_dialog);
   const Rect bounds = GetWindowScreenBounds(m_dialog->window);
   const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-  EXPECT_NEAR((bounds.left + bounds.right) / 2, screen.center().x(), 20);
+  EXPECT_NEAR((bounds.left + bounds.right) / 2.0, screen.center().x(), 20);
   ShowDLG(m_dialog);
   EXPECT_TRUE(IsWindowVisible(m_dialog->window));
   EXPECT_TRUE(IsWindowHilited(m_dialog->window));

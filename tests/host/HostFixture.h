@@ -12,6 +12,7 @@
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <cstring>
 #include <functional>
 #include <string>
 
@@ -114,7 +115,9 @@ class HostTest : public testing::Test {
     std::string buffer(static_cast<size_t>(size), '#');
     const int32_t status = m_fake->begin.chooseFile(reinterpret_cast<void*>(gDialog->winId()), 0,
                                                     buffer.data(), size, m_fake->begin.chooseFileValue);
-    return status == 0 ? std::string(buffer.data()) : "status " + std::to_string(status);
+    if (status != 0) return "status " + std::to_string(status);
+    buffer.resize(std::strlen(buffer.c_str()));
+    return buffer;
   }
 
   std::unique_ptr<host::FilterModule> m_filter;

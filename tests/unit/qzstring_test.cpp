@@ -23,7 +23,8 @@ std::string _InPlace(const std::string& text, int32_t room, Operation operation)
   std::string buffer(std::max(text.size(), static_cast<size_t>(std::max(room, 0))) + 1, '#');
   std::memcpy(buffer.data(), text.c_str(), text.size() + 1);
   operation(buffer.data());
-  return buffer.data();  // up to the null
+  buffer.resize(std::strlen(buffer.c_str()));
+  return buffer;
 }
 
 TEST(QzString, DeletesAndInserts) {

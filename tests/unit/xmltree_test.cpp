@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <memory>
 #include <string>
 #include <vector>
@@ -25,7 +26,8 @@ std::string _AllText(const _XmlTreeTag* node, int32_t size = 100, bool* complete
   std::string buffer(static_cast<size_t>(size) + 1, '#');
   const bool result = XmlTreeGetAllText(node, buffer.data(), size);
   if (complete != nullptr) *complete = result;
-  return buffer.data();  // up to the null
+  buffer.resize(std::strlen(buffer.c_str()));
+  return buffer;
 }
 
 TEST(XmlTree, LinksNodesInDocumentOrder) {

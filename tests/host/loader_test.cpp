@@ -107,7 +107,7 @@ TEST_F(LoaderTest, ReadsAsEveryProgramDoes) {
 
 TEST_F(LoaderTest, ReadsOneFileAtATimeAndTellsItsBytes) {
   QByteArray text = "<class>";
-  while (text.size() < 32 * 1024 * 1024) text += "<a><b/></a><a><b/></a><a><b/></a><a><b/></a>\n";
+  while (text.size() < qsizetype{32} * 1024 * 1024) text += "<a><b/></a><a><b/></a><a><b/></a><a><b/></a>\n";
   const QString path = Write("large.xml", text + "</class>");
   ClassLoader loader(nullptr);
   std::optional<ReadResult> result;
